@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/discovery.h"
+
+#include <algorithm>
+#include <string>
+
+#include "measure/command_buttons.h"
+#include "util/number_text.h"
+
+namespace kelvra::app {
+
+using sensors::SensorEntry;
+using sensors::SensorTable;
+
+void Discovery::SensSearch_Timer() {
+    if (p_.state.exiting) return;
+    if (Rests()) {
+        ShowConnection();
+        return;
+    }
+    changed_ = presenceChanged_ = vanished_ = false;
+    const std::vector<bool> enabledBefore = EnabledSlots();
+    p_.catalogue.BuildDeviceList(p_.table);
+    SaveWhatHasGone();
+    SizeTable();
+    ShowConnection();
+    if (p_.catalogue.Connected() > 0)
+        RealSensors();
+    else
+        Simulation();
+    if (p_.table.DeviceTableChanged) SwitchPresentOn();
+    if (changed_) Repaint();
+    // The sensors that are left are found again by the next tick, from the first slot on.
+    if (vanished_ && !p_.table.SimulationMode) ReleasePresent();
+    if (presenceChanged_ || EnabledSlots() != enabledBefore) p_.selection.UpdateSensSelect();
+}
+
+bool Discovery::Rests() const {
+    return p_.state.Measuring || p_.state.commandRuns || p_.session.ConfigRunning;
+}
+
+void Discovery::ShowConnection() {
+    const int connected = p_.catalogue.Connected();
+    controls::Label& label = p_.forms.mdiMain.ConSensors;
+    if (connected == 0) {
+        label.Caption = "Simulation Mode";
+        label.Fore = controls::Red;
+        return;
+    }
+    label.Caption = util::TrimmedNumberText(std::int64_t{connected}) + " sensor" +
+                    (connected > 1 ? "s" : "") + " connected";
+    label.Fore = controls::Green;
+}
+
+const driver::DeviceListEntry* Discovery::DeviceOf(const SensorEntry& entry) const {
+    const auto& devices = p_.catalogue.DeviceList;
+    const auto found = std::find_if(devices.begin(), devices.end(), [&](const auto& device) {
+        return !device.ResourceName.empty() && device.ResourceName == entry.ResourceName;
+    });
+    return found == devices.end() ? nullptr : &*found;
+}
+
+std::vector<SensorEntry*> Discovery::Present() {
+    std::vector<SensorEntry*> present;
+    for (int slot = 0; slot < p_.table.Slots(); ++slot)
+        if (p_.table[slot].Present) present.push_back(&p_.table[slot]);
+    return present;
+}
+
+std::vector<bool> Discovery::EnabledSlots() const {
+    std::vector<bool> enabled;
+    for (const SensorEntry& entry : p_.table.Sensors) enabled.push_back(entry.Enabled);
+    return enabled;
+}
+
+// When one sensor goes, all are saved, since all are assigned anew.
+void Discovery::SaveWhatHasGone() {
+    const sensors::TableLock lock(p_.table);
+    std::vector<SensorEntry*> known;
+    for (SensorEntry* entry : Present())
+        if (!entry->SensorId.empty()) known.push_back(entry);
+    const auto gone = [&](const SensorEntry* entry) { return DeviceOf(*entry) == nullptr; };
+    if (std::none_of(known.begin(), known.end(), gone)) return;
+    p_.store.Save(known);
+    for (SensorEntry* entry : known) {
+        if (!gone(entry)) continue;
+        sensors::ReleaseSlot(*entry);
+        entry->TSlotStats.assign(1, {});
+    }
+    sensors::PrepareWorkArrays(p_.table, p_.table.CurrentSensor);
+    changed_ = presenceChanged_ = vanished_ = true;
+}
+
+// A slot that still holds a sensor is not cut off; it is free by the next tick.
+void Discovery::SizeTable() {
+    SensorTable& table = p_.table;
+    const auto listed = static_cast<int>(p_.catalogue.DeviceList.size());
+    int slots = listed > 1 ? listed : SensorTable::DefaultSlotCount;
+    for (int slot = 0; slot < table.Slots(); ++slot)
+        if (!table[slot].ResourceName.empty() && !table.SimulationMode)
+            slots = std::max(slots, slot + 1);
+    // Rows below the new end would otherwise keep showing who was there.
+    for (int slot = slots + 1; slot < table.Slots(); ++slot) p_.results.PaintPresence(slot);
+    table.Resize(slots);
+}
+
+void Discovery::RealSensors() {
+    measure::OfferSensorCommands(p_.forms.setupForm, true);
+    if (p_.table.SimulationMode) {
+        for (SensorEntry* entry : Present()) sensors::ReleaseSlot(*entry);
+        p_.table.DeviceTableChanged = true;
+        presenceChanged_ = true;
+    }
+    p_.table.SimulationMode = false;
+    if (vanished_) return;
+    AssignDevices();
+    FindPresent();
+}
+
+void Discovery::AssignDevices() {
+    auto& slots = p_.table.Sensors;
+    const auto end = slots.begin() + p_.table.Slots();
+    for (const driver::DeviceListEntry& device : p_.catalogue.DeviceList) {
+        if (device.ResourceName.empty()) continue;
+        const auto has = [&](const std::string& resource) {
+            return std::find_if(slots.begin(), end, [&](const SensorEntry& entry) {
+                return entry.ResourceName == resource;
+            });
+        };
+        if (has(device.ResourceName) != end) continue;
+        const auto free = has("");
+        if (free != end) free->ResourceName = device.ResourceName;
+    }
+}
+
+void Discovery::FindPresent() {
+    const sensors::TableLock lock(p_.table);
+    std::vector<SensorEntry*> appeared;
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        SensorEntry& entry = p_.table[slot];
+        const driver::DeviceListEntry* device = DeviceOf(entry);
+        if (device == nullptr) continue;
+        if (!entry.Present) {
+            Appear(entry, *device);
+            appeared.push_back(&entry);
+        }
+        NameSensor(slot, *device);
+    }
+    p_.store.Read(appeared);
+}
+
+void Discovery::Appear(SensorEntry& entry, const driver::DeviceListEntry& device) {
+    entry.SensorId = device.Type + ";" + device.Serial;
+    entry.NewScopeData = false;
+    entry.NewTSlotData = false;
+    entry.TSlotStatsActive = false;
+    entry.Present = true;
+    entry.Enabled = !p_.table.SwitchedOff(entry);
+    changed_ = presenceChanged_ = true;
+}
+
+void Discovery::NameSensor(int slot, const driver::DeviceListEntry& device) {
+    const std::string name = device.Name.empty()
+                                 ? util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)})
+                                 : device.Name;
+    if (p_.table[slot].LogicalName == name) return;
+    p_.table[slot].LogicalName = name;
+    changed_ = true;
+}
+
+void Discovery::Simulation() {
+    measure::OfferSensorCommands(p_.forms.setupForm, false);
+    if (!p_.table.SimulationMode || !p_.table[0].Present) EnterSimulation();
+    for (int slot = 2; slot < p_.table.Slots(); ++slot) {
+        SensorEntry& entry = p_.table[slot];
+        if (entry.Present) changed_ = presenceChanged_ = true;
+        sensors::ReleaseSlot(entry);
+    }
+}
+
+void Discovery::EnterSimulation() {
+    const struct {
+        const char* name;
+        const char* resource;
+    } simulated[] = {{"SensSim1", "PS-101;"}, {"SensSim2", "PS-106;"}};
+    int slot = 0;
+    for (const auto& sensor : simulated) {
+        SensorEntry& entry = p_.table[slot++];
+        sensors::ReleaseSlot(entry);
+        entry.Enabled = true;
+        entry.Present = true;
+        entry.LogicalName = sensor.name;
+        entry.ResourceName = sensor.resource;
+        p_.table.RememberSwitch(entry);
+    }
+    p_.table.SimulationMode = true;
+    changed_ = presenceChanged_ = true;
+}
+
+void Discovery::SwitchPresentOn() {
+    for (SensorEntry* entry : Present())
+        if (!p_.table.SwitchedOff(*entry)) entry->Enabled = true;
+    p_.table.DeviceTableChanged = false;
+    changed_ = true;
+}
+
+// Their settings have been saved with those of the sensor that went.
+void Discovery::ReleasePresent() {
+    for (SensorEntry* entry : Present()) sensors::ReleaseSlot(*entry);
+    sensors::PrepareWorkArrays(p_.table, p_.table.CurrentSensor);
+}
+
+// The spare element too: one empty row below the last slot.
+void Discovery::Repaint() {
+    for (int slot = 0; slot <= p_.table.Slots(); ++slot) p_.results.PaintPresence(slot);
+}
+
+}  // namespace kelvra::app

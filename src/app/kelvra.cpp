@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/kelvra.h"
+
+namespace kelvra::app {
+
+Kelvra::Kelvra(platform::Host& hostToUse)
+    : host(hostToUse),
+      log(host.files, host.clock, host.computer.Numbers()),
+      catalogue(library.deviceList),
+      errorStrip(forms, table, session),
+      driverSession(session, library.instrument, log, table, host, errorStrip),
+      selection(forms, table),
+      results(forms, table, selection),
+      transferEvents_(results, errorStrip),
+      transfer(driverSession, table, errorStrip, transferEvents_),
+      readings(driverSession, table, results, host),
+      store(host.files, log, forms.mdiMain),
+      mainWindow(forms, state, host),
+      cycle({forms, table, state, host, driverSession, transfer, errorStrip, selection, results,
+             readings, mainWindow}),
+      discovery({forms, table, catalogue, session, state, results, selection, store}),
+      sensorName_(forms, table, host, results, selection),
+      settingsCommands_(forms, table, host) {
+    errorStrip.Connect({driverSession, transfer, cycle, state, host});
+    forms.mdiMain.MFileExit.Click.Connect([this] { MFileExit_Click(); });
+    forms.mdiMain.CloseRequest.Connect([this] { MFileExit_Click(); });
+}
+
+void Kelvra::TransferEvents::TransferBegins(int slot) {
+    strip_.TransferBegins();
+    results_.ShowState(slot, "CONF", controls::Yellow);
+}
+
+void Kelvra::TransferEvents::TransferEnds(int slot) {
+    results_.ShowState(slot, "", controls::White);
+    strip_.RecoverAfterTransfer(slot);
+}
+
+}  // namespace kelvra::app

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings_commands.h"
+
+#include "platform/profile_file.h"
+#include "sensors/settings_file.h"
+
+namespace kelvra::app {
+
+namespace {
+constexpr const char* Stem = "Sensor";
+}  // namespace
+
+SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
+                                   platform::Host& host)
+    : table_(table), host_(host) {
+    forms.mdiMain.Load_Sensor_Settings.Click.Connect([this] { Load_Sensor_Settings_Click(); });
+    forms.mdiMain.Save_Sensor_Settings.Click.Connect([this] { Save_Sensor_Settings_Click(); });
+}
+
+void SettingsCommands::Load_Sensor_Settings_Click() {
+    platform::FileQuestion question;
+    question.title = "Load sensor configuration";
+    question.filter = "Sensor Configuration (*.ini)|*.ini|All files (*.*)|*.*";
+    const auto path = host_.dialogs.AskFile(question);
+    if (!path || path->empty()) return;
+    platform::ProfileFile file(host_.files, *path);
+    if (file.LoadError()) {
+        Tell("read", *path, file.LoadError());
+        return;
+    }
+    sensors::TransferSettings(table_[table_.CurrentSensor].Settings, file.Text(), Stem,
+                              sensors::Transfer::Read);
+}
+
+void SettingsCommands::Save_Sensor_Settings_Click() {
+    platform::FileQuestion question;
+    question.title = "Save sensor configuration";
+    question.filter = "Sensor Configuration (*.ini)|*.ini";
+    question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), "Settings.ini");
+    question.save = true;
+    const auto path = host_.dialogs.AskFile(question);
+    if (!path || path->empty()) return;
+    const std::error_code error =
+        sensors::TransferSettings(table_[table_.CurrentSensor].Settings, host_.files, *path, Stem,
+                                  sensors::Transfer::Write);
+    if (error) Tell("saved", *path, error);
+}
+
+void SettingsCommands::Tell(const char* what, const std::string& path,
+                            const std::error_code& error) {
+    host_.dialogs.Message(
+        {}, std::string("The settings could not be ") + what + ".\r\n" + path + "\r\n" + error.message(),
+        platform::MessageIcon::Exclamation);
+}
+
+}  // namespace kelvra::app

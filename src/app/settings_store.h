@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The application INI file: what it keeps for each slot and each sensor. Saves here are the program's
+// own; one that fails costs nothing that was there, and is told in the notice and the log.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/debug_log.h"
+#include "forms/main_window.h"
+#include "platform/files.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::app {
+
+class SettingsStore {
+public:
+    SettingsStore(platform::Files& files, driver::DebugIf& log, forms::MDIMain& window)
+        : files_(files), log_(log), window_(window) {}
+
+    std::string AppIniPath;
+
+    // Reads each slot's settings under "SENS" + channel number.
+    void ReadSlots(sensors::SensorTable& table);
+    // Reads the settings of each sensor under its SensorId.
+    void Read(const std::vector<sensors::SensorEntry*>& entries);
+    // Writes them, with one pass over the file; a sensor without a SensorId is not written.
+    void Save(const std::vector<sensors::SensorEntry*>& entries);
+
+private:
+    void Tell(const char* what, const std::string& reason);
+
+    platform::Files& files_;
+    driver::DebugIf& log_;
+    forms::MDIMain& window_;
+};
+
+}  // namespace kelvra::app

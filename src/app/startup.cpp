@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Start-up in its order: the debug log before any driver call, the INI path before settings are read,
+// the sensor table before discovery.
+#include <algorithm>
+#include <chrono>
+#include <string>
+
+#include "app/kelvra.h"
+#include "util/number_text.h"
+#include "util/text.h"
+
+namespace kelvra::app {
+
+namespace {
+
+constexpr auto SearchInterval = std::chrono::milliseconds(500);
+constexpr const char* DebugFile = "C:\\DebugKelvra.txt";
+
+std::string Number(int value) { return util::CleanText(util::NumberText(std::int64_t{value})); }
+
+}  // namespace
+
+void Kelvra::Start() {
+    controls::Geometry place = forms.mdiMain.Place;
+    const platform::ScreenSize screen = host.computer.Screen();
+    place.left = (screen.width - place.width) / 2;
+    place.top = (screen.height - place.height) / 6;
+    forms.mdiMain.Place = place;
+    state.RecordInterval = 0;
+    mainWindow.ApplyColourScheme();
+    StartDebugLog();
+    library.Load(host.computer, log);
+    forms.mdiMain.Caption = Title();
+    store.AppIniPath = host.computer.Join(host.computer.ProgramFolder(), "Kelvra.INI");
+    host.events.StartTimer(SearchInterval, [this] { discovery.SensSearch_Timer(); });
+    forms.mdiMain.FileSaveData.Enabled = false;
+    CreateTable();
+    LayOutGrids();
+    mainWindow.PlaceWindows();
+    for (int slot = 0; slot < table.Slots(); ++slot)
+        table[slot].TSlotStats.assign(
+            static_cast<std::size_t>(std::max<int>(table[slot].Settings.TSlotCount, 1)), {});
+    sensors::PrepareWorkArrays(table, table.CurrentSensor);
+    StartDiscovery();
+    forms.mdiMain.Visible = true;
+}
+
+void Kelvra::StartDebugLog() {
+    log.onFailure = [this](const std::string& path, const std::string& reason) {
+        host.dialogs.Message({}, "The debug log can't be written.\r\n" + path + "\r\n" + reason,
+                             platform::MessageIcon::Exclamation);
+    };
+    const std::string commandLine = util::UpperCase(host.computer.CommandLine());
+    log.STAT = commandLine.find("DEBUG") != std::string::npos;
+    log.DebugFileName = host.computer.DrivePath(DebugFile);
+    log.TimeSamping = true;
+    log.KillOld();
+}
+
+std::string Kelvra::Title() {
+    const platform::ProgramVersion version = host.computer.Version();
+    std::string title = "Halvex " + version.product + ", Version " + Number(version.major) + "." +
+                        Number(version.minor);
+    if (version.revision != 0) title += "." + Number(version.revision);
+    title += " from ";
+    if (const auto date = host.computer.ProgramFileDate())
+        title += Number(date->month) + "/" + Number(date->day) + "/" + Number(date->year);
+    if (log.STAT) title += " [DEBUG MODE]";
+    return title;
+}
+
+void Kelvra::CreateTable() {
+    table.Resize(table.SensorSlotCount == 0 ? sensors::SensorTable::DefaultSlotCount
+                                            : table.SensorSlotCount);
+    state.StopRequested = false;
+    store.ReadSlots(table);
+    controls::List& sensorList = forms.setupForm.SensSelect;
+    sensorList.Clear();
+    for (int slot = 0; slot < table.Slots(); ++slot) sensorList.Add(Number(slot + 1), slot);
+    table.CurrentSensor = 0;
+}
+
+void Kelvra::LayOutGrids() {
+    constexpr int formulaWidth = 3000;
+    results.LayOut();
+    controls::Grid& calc = forms.mdiMain.CalcGrid;
+    const struct {
+        const char* cells[3];
+        controls::Align align;
+    } rows[] = {
+        {{"Name", "Formular", "RESULT"}, controls::Align::Centre},
+        {{"DIFF", "ABS(X1dB-X2dB)", ""}, controls::Align::Left},
+        {{"SWR", "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))", ""}, controls::Align::Left},
+    };
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column)
+            SetGridCell(calc, row, column, rows[row].cells[column], rows[row].align,
+                        row == 0 && column == 0, false);
+    calc.SetWidth(1, formulaWidth);
+
+    controls::List& syncMode = forms.mdiMain.SensSyncMode;
+    syncMode.Fill({{"Start Sync", 0}, {"Sequenced", 1}, {"Async", 2}});
+    syncMode.SetIndex(2);
+}
+
+void Kelvra::StartDiscovery() {
+    discovery.SensSearch_Timer();
+    forms.setupForm.SensLogicalName.SetText(table[0].LogicalName);
+    selection.UpdateSensSelect();
+    table.DeviceTableChanged = true;
+    forms.mdiMain.SettingAlwaysOnTop.Checked = true;
+    AlwaysOnTop(forms.setupForm, true);
+}
+
+}  // namespace kelvra::app

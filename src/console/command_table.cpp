@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "console/command_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "console/dump.h"
+#include "console/print.h"
+#include "util/number_reading.h"
+#include "util/text.h"
+
+namespace kelvra::console {
+
+namespace {
+
+using controls::Control;
+using controls::Kind;
+
+// Takes the next word off the rest of the line.
+std::string_view TakeWord(std::string_view& rest) {
+    const auto start = std::min(rest.find_first_not_of(' '), rest.size());
+    const auto split = util::SplitAtFirst(rest.substr(start), ' ');
+    rest = split.after;
+    return split.before;
+}
+
+// A whole number from `least` to `most` that is all of the text.
+std::optional<int> WholeNumber(std::string_view text, int least, int most) {
+    const auto number = util::ReadWholeNumber(text);
+    if (!number || *number < least || *number > most) return std::nullopt;
+    return static_cast<int>(*number);
+}
+
+std::optional<double> RealNumber(std::string_view text) {
+    const util::NumberRead read = util::ReadNumberAt(text);
+    if (read.length == 0 || read.length != text.size() || !std::isfinite(read.value))
+        return std::nullopt;
+    return read.value;
+}
+
+// A control that a command names; `member` is an option of a group.
+struct Target {
+    Control* control = nullptr;
+    int member = -1;
+    CommandError error;
+};
+
+Target FindTarget(CommandContext& c, std::string_view& rest) {
+    const std::string name(TakeWord(rest));
+    if (name.empty()) return {nullptr, -1, "the name of a control is missing"};
+    const forms::Found found = c.kelvra.forms.Find(name);
+    if (found.result == forms::Lookup::NotUnique)
+        return {nullptr, -1, "several windows have a " + name};
+    if (!found) return {nullptr, -1, "there is no control " + name};
+    return {found.control, found.member, std::nullopt};
+}
+
+// The same for a command that acts like a person: the control must be within reach, and the person
+// leaves the text box typed into before.
+Target ReachTarget(CommandContext& c, std::string_view& rest) {
+    Target target = FindTarget(c, rest);
+    if (target.error) return target;
+    if (c.typedInto != nullptr && c.typedInto != target.control)
+        std::exchange(c.typedInto, nullptr)->Leave();
+    if (target.control->kind() == Kind::Window) return target;
+    if (!target.control->EffectivelyVisible())
+        target.error = target.control->Name() + " is hidden";
+    else if (!target.control->EffectivelyEnabled())
+        target.error = target.control->Name() + " is disabled";
+    return target;
+}
+
+template <class T>
+T* TargetAs(Target& target) {
+    auto* control = dynamic_cast<T*>(target.control);
+    if (control == nullptr && !target.error)
+        target.error = "not for a " + std::string(KindName(target.control->kind()));
+    return control;
+}
+
+CommandError Click(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    if (auto* group = dynamic_cast<controls::OptionGroup*>(target.control)) {
+        if (target.member < 0) return "an option is named like " + group->Options().front().name;
+        group->Select(target.member);
+    } else if (auto* box = dynamic_cast<controls::CheckBox*>(target.control)) {
+        box->Toggle();
+    } else if (auto* button = dynamic_cast<controls::Button*>(target.control)) {
+        button->Press();
+    } else if (auto* label = dynamic_cast<controls::Label*>(target.control)) {
+        label->Press();
+    } else if (auto* item = TargetAs<controls::MenuItem>(target)) {
+        if (item->IsSeparator()) return "a separator can't be clicked";
+        item->Press();
+    }
+    return target.error;
+}
+
+CommandError Choose(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    auto* list = TargetAs<controls::List>(target);
+    if (list == nullptr) return target.error;
+    int index = -1;
+    if (!rest.empty() && rest.front() == '#')
+        index = WholeNumber(rest.substr(1), 0, list->Count() - 1).value_or(-1);
+    else
+        index = list->IndexOfText(rest);
+    if (index < 0) return "the list has no entry " + std::string(rest);
+    list->Choose(index);
+    return std::nullopt;
+}
+
+CommandError Open(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    if (auto* list = TargetAs<controls::List>(target)) list->Open();
+    return target.error;
+}
+
+CommandError Type(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    if (auto* box = TargetAs<controls::TextBox>(target)) {
+        c.typedInto = box;
+        box->Type(std::string(rest));
+    }
+    return target.error;
+}
+
+CommandError Press(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    const controls::Key key(TakeWord(rest));
+    if (target.error) return target.error;
+    if (key.empty()) return "the key is missing";
+    if (auto* group = dynamic_cast<controls::OptionGroup*>(target.control))
+        group->KeyDown.Raise(std::max(target.member, 0), key);
+    else if (auto* box = dynamic_cast<controls::TextBox*>(target.control))
+        box->Press(key);
+    else if (auto* check = dynamic_cast<controls::CheckBox*>(target.control))
+        check->KeyDown.Raise(key);
+    else if (auto* button = dynamic_cast<controls::Button*>(target.control))
+        button->KeyDown.Raise(key);
+    else if (auto* list = TargetAs<controls::List>(target))
+        list->KeyDown.Raise(key);
+    return target.error;
+}
+
+CommandError ClickCell(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    auto* grid = TargetAs<controls::Grid>(target);
+    if (grid == nullptr) return target.error;
+    const auto row = WholeNumber(TakeWord(rest), 0, grid->Rows() - 1);
+    const auto column = WholeNumber(TakeWord(rest), 0, grid->Columns() - 1);
+    const std::string_view act = TakeWord(rest);
+    if (!row || !column) return "the grid has no such cell";
+    if (!act.empty() && act != "press") return "what is " + std::string(act) + "?";
+    grid->MouseDown.Raise(*row, *column);
+    if (act.empty()) grid->Click.Raise(*row, *column);
+    return std::nullopt;
+}
+
+CommandError Drag(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    auto* graph = TargetAs<controls::Graph>(target);
+    if (graph == nullptr) return target.error;
+    const auto& cursors = graph->Cursors.Get();
+    const auto cursor = WholeNumber(TakeWord(rest), 0, static_cast<int>(cursors.size()) - 1);
+    const auto x = RealNumber(TakeWord(rest));
+    const std::string_view yText = TakeWord(rest);
+    if (!cursor) return "the graph has no such cursor";
+    const auto y = yText.empty() ? cursors[static_cast<std::size_t>(*cursor)].y : RealNumber(yText);
+    if (!x || !y) return "a position is a number";
+    graph->Drag(*cursor, *x, *y);
+    graph->Release(*cursor);
+    return std::nullopt;
+}
+
+controls::Window* NamedWindow(CommandContext& c, std::string_view& rest) {
+    return c.kelvra.forms.FindFormByName(TakeWord(rest));
+}
+
+CommandError Resize(CommandContext& c, std::string_view rest) {
+    constexpr int largest = 1'000'000;
+    controls::Window* window = NamedWindow(c, rest);
+    if (window == nullptr) return "there is no such window";
+    const auto width = WholeNumber(TakeWord(rest), 0, largest);
+    const auto height = WholeNumber(TakeWord(rest), 0, largest);
+    if (!width || !height) return "width and height are whole numbers of twips";
+    window->PersonResizes(*width, *height);
+    return std::nullopt;
+}
+
+CommandError Answer(CommandContext& c, std::string_view rest) {
+    c.dialogs.Queue(std::string(rest));
+    return std::nullopt;
+}
+
+CommandError Cancel(CommandContext& c, std::string_view) {
+    c.dialogs.Queue(std::nullopt);
+    return std::nullopt;
+}
+
+CommandError Wait(CommandContext& c, std::string_view rest) {
+    constexpr int most = 1'000'000'000;
+    const std::string_view what = TakeWord(rest);
+    if (what == "idle") {
+        c.waiting.ForIdle();
+        return std::nullopt;
+    }
+    const auto count = WholeNumber(TakeWord(rest), 0, most);
+    if (!count || (what != "passes" && what != "ms"))
+        return "wait passes N, wait ms N or wait idle";
+    if (what == "passes") return c.waiting.ForPasses(*count);
+    c.waiting.ForTime(std::chrono::milliseconds(*count));
+    return std::nullopt;
+}
+
+CommandError Print(CommandContext& c, std::string_view rest) {
+    const Target target = FindTarget(c, rest);
+    if (target.error) return target.error;
+    for (const std::string& line : PrintLines(*target.control, target.member)) c.output.Line(line);
+    return std::nullopt;
+}
+
+CommandError Dump(CommandContext& c, std::string_view rest) {
+    std::string_view name = rest;
+    if (const auto table = DumpTable(c.kelvra, TakeWord(name))) {
+        c.output.Line(*table);
+        return std::nullopt;
+    }
+    const Target target = FindTarget(c, rest);
+    if (target.error) return target.error;
+    c.output.Line(DumpControl(*target.control, target.member));
+    return std::nullopt;
+}
+
+CommandError Echo(CommandContext& c, std::string_view rest) {
+    c.output.Line(rest);
+    return std::nullopt;
+}
+
+CommandError Close(CommandContext& c, std::string_view rest) {
+    if (util::TrimSpaces(rest).empty()) rest = c.kelvra.forms.mdiMain.Name();
+    controls::Window* window = NamedWindow(c, rest);
+    if (window == nullptr) return "there is no such window";
+    window->PersonCloses();
+    return std::nullopt;
+}
+
+struct Command {
+    std::string_view name;
+    CommandError (*run)(CommandContext& context, std::string_view rest);
+};
+
+constexpr Command Commands[] = {
+    {"click", Click},   {"choose", Choose}, {"open", Open},     {"type", Type},
+    {"press", Press},   {"cell", ClickCell}, {"drag", Drag},    {"resize", Resize},
+    {"answer", Answer}, {"cancel", Cancel}, {"wait", Wait},     {"print", Print},
+    {"dump", Dump},     {"echo", Echo},     {"close", Close},
+};
+
+}  // namespace
+
+CommandError RunCommand(CommandContext& context, std::string_view line) {
+    const std::string_view name = TakeWord(line);
+    for (const Command& command : Commands)
+        if (command.name == name) return command.run(context, line);
+    return "there is no command " + std::string(name);
+}
+
+}  // namespace kelvra::console

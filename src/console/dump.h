@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Controls, windows and the program's tables as one line of JSON each.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/kelvra.h"
+#include "controls/control.h"
+
+namespace kelvra::console {
+
+// `member` is an option of a group, or -1.
+std::string DumpControl(const controls::Control& control, int member);
+
+// "Sensors", "Scaling", "SlotReadings", "Flags"; nothing for another name.
+std::optional<std::string> DumpTable(const app::Kelvra& kelvra, std::string_view name);
+
+}  // namespace kelvra::console

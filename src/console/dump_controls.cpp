@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "console/dump.h"
+#include "console/json_line.h"
+#include "controls/graph.h"
+#include "controls/grid.h"
+#include "controls/kinds.h"
+#include "controls/list.h"
+
+namespace kelvra::console {
+
+namespace {
+
+using namespace controls;
+
+template <class T>
+const T& As(const Control& control) {
+    return static_cast<const T&>(control);
+}
+
+void OptionalColour(JsonLine& json, const char* key, const std::optional<Colour>& colour) {
+    if (colour) json.Key(key).Colour(*colour);
+}
+
+void Place(JsonLine& json, const Geometry& place) {
+    json.Member("left", place.left).Member("top", place.top);
+    json.Member("width", place.width).Member("height", place.height);
+}
+
+void ListMembers(JsonLine& json, const List& list) {
+    json.Key("items").BeginList();
+    for (const List::Item& item : list.Items())
+        json.BeginObject().Member("text", item.text).Member("data", item.data).EndObject();
+    json.EndList().Member("index", list.Index()).Member("text", list.Text());
+}
+
+void Cell(JsonLine& json, const Grid::Cell& cell) {
+    json.BeginObject().Member("text", cell.text).Member("bold", cell.bold);
+    json.Member("italic", cell.italic).Member("align", static_cast<int>(cell.align)).Key("back");
+    if (cell.back)
+        json.Colour(*cell.back);
+    else
+        json.Null();
+    json.EndObject();
+}
+
+void GridMembers(JsonLine& json, const Grid& grid) {
+    json.Member("rows", grid.Rows()).Member("columns", grid.Columns()).Key("widths").BeginList();
+    for (int column = 0; column < grid.Columns(); ++column) json.Value(grid.Width(column));
+    json.EndList().Key("cells").BeginList();
+    for (int row = 0; row < grid.Rows(); ++row) {
+        json.BeginList();
+        for (int column = 0; column < grid.Columns(); ++column) Cell(json, grid.At(row, column));
+        json.EndList();
+    }
+    json.EndList();
+}
+
+void AxisMember(JsonLine& json, const char* key, const Graph::Axis& axis) {
+    json.Key(key).BeginObject().Member("min", axis.min).Member("max", axis.max).EndObject();
+}
+
+void GraphMembers(JsonLine& json, const Graph& graph) {
+    const Graph::Plot& plot = graph.Curve.Get();
+    json.Key("plot").BeginObject().Member("first", plot.first).Member("step", plot.step);
+    json.Key("values").BeginList();
+    for (const double value : plot.values) json.Value(value);
+    json.EndList().EndObject();
+    AxisMember(json, "x", graph.X);
+    AxisMember(json, "y", graph.Y);
+    json.Key("cursors").BeginList();
+    int index = 0;
+    for (const Graph::Cursor& cursor : graph.Cursors.Get()) {
+        json.BeginObject().Member("index", index++);
+        json.Member("kind", cursor.horizontal ? "horizontal" : "vertical");
+        json.Member("x", cursor.x).Member("y", cursor.y).Member("visible", cursor.visible);
+        json.EndObject();
+    }
+    json.EndList().Key("labels").BeginList();
+    for (const Graph::Text& label : graph.Labels.Get())
+        json.BeginObject()
+            .Member("x", label.x)
+            .Member("y", label.y)
+            .Member("text", label.text)
+            .EndObject();
+    json.EndList().Member("trackMode", static_cast<int>(graph.Track.Get()));
+}
+
+// What comes before the colours, by kind.
+void OwnMembers(JsonLine& json, const Control& control, int member) {
+    switch (control.kind()) {
+        case Kind::Label:
+            json.Member("caption", As<Label>(control).Caption.Get());
+            break;
+        case Kind::Button: {
+            const auto& button = As<Button>(control);
+            json.Member("caption", button.Caption.Get()).Member("picture", button.Picture.Get());
+            json.Member("tag", button.Tag.Get());
+            break;
+        }
+        case Kind::MenuItem: {
+            const auto& item = As<MenuItem>(control);
+            json.Member("caption", item.Caption.Get()).Member("checked", item.Checked.Get());
+            break;
+        }
+        case Kind::TextBox:
+            json.Member("text", As<TextBox>(control).Text());
+            break;
+        case Kind::CheckBox: {
+            const auto& box = As<CheckBox>(control);
+            json.Member("caption", box.Caption.Get()).Member("checked", box.Checked());
+            break;
+        }
+        case Kind::OptionGroup: {
+            const auto& group = As<OptionGroup>(control);
+            if (member < 0) {
+                json.Member("selected", group.Selected());
+                break;
+            }
+            json.Member("caption", group.Options()[static_cast<std::size_t>(member)].caption);
+            json.Member("checked", group.Selected() == member);
+            break;
+        }
+        case Kind::Picture: {
+            const auto& picture = As<Picture>(control);
+            json.Member("picture", picture.Image.Get()).Member("tag", picture.Tag.Get());
+            break;
+        }
+        case Kind::Frame:
+            json.Member("caption", As<Frame>(control).Caption.Get());
+            break;
+        default:
+            break;
+    }
+}
+
+// What comes at the end, by kind.
+void ContentMembers(JsonLine& json, const Control& control) {
+    switch (control.kind()) {
+        case Kind::Frame: Place(json, As<Frame>(control).Place); break;
+        case Kind::RichText: json.Member("rtf", As<RichText>(control).Rtf.Get()); break;
+        case Kind::List: ListMembers(json, As<List>(control)); break;
+        case Kind::Grid: GridMembers(json, As<Grid>(control)); break;
+        case Kind::Graph: GraphMembers(json, As<Graph>(control)); break;
+        default: break;
+    }
+}
+
+std::string DumpWindow(const Window& window) {
+    JsonLine json;
+    json.BeginObject().Member("name", window.Name()).Member("caption", window.Caption.Get());
+    json.Member("visible", window.Visible.Get());
+    Place(json, window.Place);
+    json.Member("topmost", window.TopMost.Get()).Member("tag", window.Tag.Get()).EndObject();
+    return json.Text();
+}
+
+}  // namespace
+
+std::string DumpControl(const Control& control, int member) {
+    if (control.kind() == Kind::Window) return DumpWindow(As<Window>(control));
+    const bool isMember = control.kind() == Kind::OptionGroup && member >= 0;
+    JsonLine json;
+    json.BeginObject();
+    json.Member("name", isMember ? As<OptionGroup>(control)
+                                       .Options()[static_cast<std::size_t>(member)]
+                                       .name
+                                 : control.Name());
+    json.Member("kind", isMember ? "option" : KindName(control.kind()));
+    json.Member("enabled", control.Enabled.Get()).Member("visible", control.Visible.Get());
+    OwnMembers(json, control, member);
+    OptionalColour(json, "back", control.Back);
+    OptionalColour(json, "fore", control.Fore);
+    if (!control.Tooltip->empty()) json.Member("tooltip", control.Tooltip.Get());
+    ContentMembers(json, control);
+    return json.EndObject().Text();
+}
+
+}  // namespace kelvra::console

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "console/print.h"
+
+#include "console/output.h"
+#include "controls/graph.h"
+#include "controls/grid.h"
+#include "controls/kinds.h"
+#include "controls/list.h"
+
+namespace kelvra::console {
+
+namespace {
+
+template <class T>
+const T& As(const controls::Control& control) {
+    return static_cast<const T&>(control);
+}
+
+std::vector<std::string> GridLines(const controls::Grid& grid) {
+    std::vector<std::string> lines;
+    for (int row = 0; row < grid.Rows(); ++row) {
+        std::string line;
+        for (int column = 0; column < grid.Columns(); ++column) {
+            if (column > 0) line += '\t';
+            line += OneLine(grid.At(row, column).text);
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+std::vector<std::string> ListLines(const controls::List& list) {
+    std::vector<std::string> lines;
+    for (const auto& item : list.Items()) lines.push_back(OneLine(item.text));
+    return lines;
+}
+
+// The member, or the selected one for the whole group.
+std::string OptionCaption(const controls::OptionGroup& group, int member) {
+    const int option = member >= 0 ? member : group.Selected();
+    return group.Options()[static_cast<std::size_t>(option)].caption;
+}
+
+}  // namespace
+
+std::vector<std::string> PrintLines(const controls::Control& control, int member) {
+    using namespace controls;
+    switch (control.kind()) {
+        case Kind::Grid: return GridLines(As<Grid>(control));
+        case Kind::List: return ListLines(As<List>(control));
+        case Kind::Label: return {OneLine(As<Label>(control).Caption.Get())};
+        case Kind::Button: return {OneLine(As<Button>(control).Caption.Get())};
+        case Kind::MenuItem: return {OneLine(As<MenuItem>(control).Caption.Get())};
+        case Kind::TextBox: return {OneLine(As<TextBox>(control).Text())};
+        case Kind::CheckBox: return {OneLine(As<CheckBox>(control).Caption.Get())};
+        case Kind::OptionGroup: return {OptionCaption(As<OptionGroup>(control), member)};
+        case Kind::RichText: return {OneLine(As<RichText>(control).Rtf.Get())};
+        case Kind::Picture: return {As<Picture>(control).Image.Get()};
+        case Kind::Frame: return {OneLine(As<Frame>(control).Caption.Get())};
+        case Kind::Window: return {OneLine(As<Window>(control).Caption.Get())};
+        case Kind::Graph: break;  // its content is for dump
+    }
+    return {};
+}
+
+}  // namespace kelvra::console

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A control as the text that a person would read in it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace kelvra::console {
+
+// Grids as rows of cells separated by TABs, lists an entry a line, others their text or caption.
+std::vector<std::string> PrintLines(const controls::Control& control, int member);
+
+}  // namespace kelvra::console

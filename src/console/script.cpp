@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "console/script.h"
+
+#include <chrono>
+
+#include "platform/native.h"
+#include "util/number_text.h"
+
+namespace kelvra::console {
+
+using platform::LineInput;
+
+Script::Script(const ScriptParts& parts)
+    : p_(parts),
+      waiting_(parts.kelvra.state, parts.clock),
+      context_{parts.kelvra, parts.dialogs, parts.output, waiting_, nullptr} {}
+
+bool Script::Step(platform::Duration patience) {
+    if (ended_) return false;
+    switch (waiting_.At()) {
+        case Waiting::Look::Wait:
+            if (!p_.ownClock) p_.clock.Sleep(patience);
+            return false;
+        case Waiting::Look::Failed:
+            Fail("the measurement ended before the passes were complete");
+            return true;
+        case Waiting::Look::GoOn:
+            break;
+    }
+    std::string line;
+    switch (ReadLine(line, patience)) {
+        case LineInput::Result::Line:
+            ++lineNumber_;
+            Run(line);
+            return true;
+        case LineInput::Result::NotYet:
+            return false;
+        case LineInput::Result::End:
+            End();
+            return true;
+        case LineInput::Result::TooLong:
+            ++lineNumber_;
+            Fail("the line is too long");
+            return true;
+        case LineInput::Result::Failed:
+            ++lineNumber_;
+            Fail("the line could not be read");
+            return true;
+    }
+    return false;
+}
+
+LineInput::Result Script::ReadLine(std::string& line, platform::Duration patience) {
+    constexpr platform::Duration untilItComes = std::chrono::hours(1);
+    if (!p_.ownClock) return p_.input.Read(line, patience);
+    LineInput::Result result = LineInput::Result::NotYet;
+    while (result == LineInput::Result::NotYet && !EndRequested())
+        result = p_.input.Read(line, untilItComes);
+    return result;
+}
+
+void Script::Run(const std::string& line) {
+    const auto start = line.find_first_not_of(' ');
+    if (start == std::string::npos || line[start] == '#') return;
+    if (p_.echo) p_.output.Line("> " + line);
+    const int number = lineNumber_;
+    if (const CommandError error = RunCommand(context_, line)) {
+        lineNumber_ = number;  // a command may have let others run
+        Fail(*error);
+    }
+}
+
+void Script::Fail(const std::string& why) {
+    if (failed_) return;
+    failed_ = true;
+    p_.errors.Line("error: " + util::TrimmedNumberText(std::int64_t{lineNumber_}) + ": " + why);
+    End();
+}
+
+bool Script::EndRequested() const { return platform::TerminationRequested() || !p_.output.Good(); }
+
+void Script::End() {
+    if (ended_) return;
+    ended_ = true;
+    p_.kelvra.MFileExit_Click();
+}
+
+}  // namespace kelvra::console

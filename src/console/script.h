@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A script that is carried out as the events of a run: reads a line when it is its turn, carries it
+// out, and ends the program at its end or at the first command that fails.
+#pragma once
+
+#include "console/command_table.h"
+#include "console/script_events.h"
+#include "platform/line_input.h"
+
+namespace kelvra::console {
+
+struct ScriptParts {
+    app::Kelvra& kelvra;
+    platform::LineInput& input;
+    ScriptDialogs& dialogs;
+    Output& output;
+    Output& errors;
+    platform::Clock& clock;
+    bool ownClock;  // time stands still while a line is waited for
+    bool echo;
+};
+
+class Script final : public EventSource {
+public:
+    explicit Script(const ScriptParts& parts);
+
+    bool Step(platform::Duration patience) override;
+    std::optional<platform::Duration> WakesAt() const override { return waiting_.WakesAt(); }
+    bool EndRequested() const override;
+    void End() override;
+
+    // A command failed, or a line could not be read.
+    bool Failed() const { return failed_; }
+
+private:
+    platform::LineInput::Result ReadLine(std::string& line, platform::Duration patience);
+    void Run(const std::string& line);
+    void Fail(const std::string& why);
+
+    ScriptParts p_;
+    Waiting waiting_;
+    CommandContext context_;
+    int lineNumber_ = 0;
+    bool ended_ = false;
+    bool failed_ = false;
+};
+
+}  // namespace kelvra::console

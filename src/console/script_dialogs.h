@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Message boxes, prompts and file dialogs of a run without a person: written as lines, answered from a
+// queue that the script fills. One without an answer counts as cancelled.
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "console/output.h"
+#include "platform/dialogs.h"
+
+namespace kelvra::console {
+
+class ScriptDialogs final : public platform::Dialogs {
+public:
+    explicit ScriptDialogs(Output& output) : output_(output) {}
+
+    // Nothing cancels.
+    void Queue(std::optional<std::string> answer) { answers_.push_back(std::move(answer)); }
+
+    void Message(const std::string& title, const std::string& text,
+                 platform::MessageIcon icon) override;
+    std::optional<std::string> Prompt(const std::string& text, const std::string& proposed) override;
+    std::optional<std::string> AskFile(const platform::FileQuestion& question) override;
+    void OpenHelp(const std::string& file, int topic) override;
+
+private:
+    std::optional<std::string> NextAnswer();
+    void Write(const char* kind, const std::string& what, const std::string& answer);
+
+    Output& output_;
+    std::deque<std::optional<std::string>> answers_;
+};
+
+}  // namespace kelvra::console

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What every control has: a name, a place in its window's tree, and properties that mark the control
+// as changed when they are given another value. Controls hold state and raise events; the rules that
+// read and write them are elsewhere, and so is all drawing.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/changes.h"
+#include "controls/colours.h"
+
+namespace kelvra::controls {
+
+enum class Kind {
+    Label, Button, MenuItem, TextBox, CheckBox, OptionGroup, List, Grid, Graph, RichText, Picture,
+    Frame, Window,
+};
+
+// The kind's name for people and scripts: "text box".
+const char* KindName(Kind kind);
+
+class Control;
+
+// A value whose change marks its control. Writing the same value again costs a comparison.
+template <class T>
+class Property {
+public:
+    Property(Control& owner, T value) : owner_(owner), value_(std::move(value)) {}
+    Property(const Property&) = delete;
+    Property& operator=(const Property&) = delete;
+
+    const T& Get() const { return value_; }
+    operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor): reads like the value
+    const T* operator->() const { return &value_; }
+
+    // True when the value was another one.
+    bool Set(T value);
+    Property& operator=(T value) {
+        Set(std::move(value));
+        return *this;
+    }
+
+private:
+    Control& owner_;
+    T value_;
+};
+
+class Control {
+public:
+    Control(Kind kind, Control& parent, std::string name);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    Kind kind() const { return kind_; }
+    const std::string& Name() const { return name_; }
+    Control* Parent() const { return parent_; }
+    const std::vector<Control*>& Children() const { return children_; }
+
+    // What a person meets: a control is disabled or hidden when its own flag or that of a frame around
+    // it says so. That its window is hidden does not count.
+    bool EffectivelyEnabled() const;
+    bool EffectivelyVisible() const;
+
+    void MarkChanged() { changes_.Add(*this); }
+
+    Property<bool> Enabled{*this, true};
+    Property<bool> Visible{*this, true};
+    Property<std::string> Tooltip{*this, {}};
+    Property<std::optional<Colour>> Back{*this, std::nullopt};
+    Property<std::optional<Colour>> Fore{*this, std::nullopt};
+
+protected:
+    // A window: it has no parent.
+    Control(Kind kind, Changes& changes, std::string name);
+
+private:
+    friend class Changes;
+
+    Kind kind_;
+    std::string name_;
+    Control* parent_ = nullptr;
+    Changes& changes_;
+    std::vector<Control*> children_;
+    bool marked_ = false;
+};
+
+template <class T>
+bool Property<T>::Set(T value) {
+    if (value_ == value) return false;
+    value_ = std::move(value);
+    owner_.MarkChanged();
+    return true;
+}
+
+}  // namespace kelvra::controls

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/grid.h"
+
+#include <algorithm>
+
+namespace kelvra::controls {
+
+Grid::Grid(Control& parent, std::string name, int rows, int columns)
+    : Control(Kind::Grid, parent, std::move(name)),
+      rows_(rows),
+      columns_(columns),
+      cells_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)),
+      widths_(static_cast<std::size_t>(columns)) {}
+
+void Grid::SetRows(int rows) {
+    if (rows != rows_) Resize(rows, columns_);
+}
+
+void Grid::SetWidth(int column, int width) {
+    int& stored = widths_[static_cast<std::size_t>(column)];
+    if (stored == width) return;
+    stored = width;
+    MarkChanged();
+}
+
+void Grid::Resize(int rows, int columns) {
+    std::vector<Cell> cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
+    const int keptRows = std::min(rows, rows_);
+    const int keptColumns = std::min(columns, columns_);
+    for (int row = 0; row < keptRows; ++row)
+        for (int column = 0; column < keptColumns; ++column)
+            cells[static_cast<std::size_t>(row * columns + column)] =
+                std::move(cells_[Offset(row, column)]);
+    cells_ = std::move(cells);
+    rows_ = rows;
+    columns_ = columns;
+    widths_.resize(static_cast<std::size_t>(columns));
+    std::erase_if(changedCells_,
+                  [&](const auto& cell) { return cell.first >= rows || cell.second >= columns; });
+    MarkChanged();
+}
+
+void Grid::SetCell(int row, int column, std::string_view text, Align align, bool bold, bool italic,
+                   std::optional<Colour> back) {
+    if (row < 0 || column < 0) return;
+    if (row >= rows_ || column >= columns_)
+        Resize(std::max(rows_, row + 1), std::max(columns_, column + 1));
+    Cell& cell = cells_[Offset(row, column)];
+    const std::optional<Colour> newBack = back ? back : cell.back;
+    if (cell.text == text && cell.align == align && cell.bold == bold && cell.italic == italic &&
+        cell.back == newBack)
+        return;
+    if (cell.text != text) cell.text = text;
+    cell.align = align;
+    cell.bold = bold;
+    cell.italic = italic;
+    cell.back = newBack;
+    MarkCell(cell, row, column);
+}
+
+void Grid::SetLook(int row, int column, Align align, bool bold, bool italic, Colour back) {
+    SetCell(row, column, At(row, column).text, align, bold, italic, back);
+}
+
+void Grid::MarkCell(Cell& cell, int row, int column) {
+    if (cell.changed) return;
+    cell.changed = true;
+    changedCells_.emplace_back(row, column);
+    MarkChanged();
+}
+
+std::vector<std::pair<int, int>> Grid::TakeChangedCells() {
+    for (const auto& [row, column] : changedCells_) cells_[Offset(row, column)].changed = false;
+    return std::exchange(changedCells_, {});
+}
+
+void SetGridCell(Grid& grid, int row, int column, std::string_view text, Align align, bool bold,
+                 bool italic, std::optional<Colour> backColour) {
+    grid.SetCell(row, column, text, align, bold, italic, backColour);
+}
+
+}  // namespace kelvra::controls

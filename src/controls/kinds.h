@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The simple kinds of controls. What a person does comes in through the functions named after the
+// act (Press, Type, ...) and always raises the event; the program's own writes go to the properties,
+// and raise the event only where the comment at the property says so, and only for another value.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+#include "controls/event.h"
+
+namespace kelvra::controls {
+
+// Sizes and places in twips, 15 to a pixel at 96 dpi.
+struct Geometry {
+    int left = 0, top = 0, width = 0, height = 0;
+    bool operator==(const Geometry&) const = default;
+};
+
+// A key by its usual name: "F1", "Enter".
+using Key = std::string;
+
+class Label : public Control {
+public:
+    Label(Control& parent, std::string name, std::string caption = {})
+        : Control(Kind::Label, parent, std::move(name)), Caption(*this, std::move(caption)) {}
+
+    Event<> Click;  // for labels that act as links
+    void Press() { Click.Raise(); }
+
+    Property<std::string> Caption;
+};
+
+class Button : public Control {
+public:
+    Button(Control& parent, std::string name, std::string caption = {}, std::string picture = {})
+        : Control(Kind::Button, parent, std::move(name)),
+          Caption(*this, std::move(caption)),
+          Picture(*this, std::move(picture)) {}
+
+    Event<> Click;
+    Event<const Key&> KeyDown;
+    void Press() { Click.Raise(); }
+
+    Property<std::string> Caption;
+    Property<std::string> Picture;  // by name; empty for a button with a caption alone
+    Property<std::string> Tag{*this, {}};
+};
+
+// A menu, an entry of it, or a line between entries. Entries are children of their menu.
+class MenuItem : public Control {
+public:
+    MenuItem(Control& parent, std::string name, std::string caption)
+        : Control(Kind::MenuItem, parent, std::move(name)), Caption(*this, std::move(caption)) {}
+
+    Event<> Click;
+    void Press() { Click.Raise(); }
+    bool IsSeparator() const { return Caption.Get() == "-"; }
+
+    Property<std::string> Caption;
+    Property<bool> Checked{*this, false};
+};
+
+class TextBox : public Control {
+public:
+    TextBox(Control& parent, std::string name, std::string text = {})
+        : Control(Kind::TextBox, parent, std::move(name)), text_(*this, std::move(text)) {}
+
+    const std::string& Text() const { return text_.Get(); }
+    // The program's own write: raises Change for another text.
+    void SetText(std::string text);
+
+    Event<> Change;
+    Event<> Commit;  // Enter, or the person turns to another control after an edit
+    Event<const Key&> KeyDown;
+
+    void Type(std::string text);
+    // Enter commits; every key is reported.
+    void Press(const Key& key);
+    // The person turns to another control: commits what was typed since the last commit.
+    void Leave();
+
+private:
+    void RaiseCommit();
+
+    Property<std::string> text_;
+    bool edited_ = false;
+};
+
+class CheckBox : public Control {
+public:
+    CheckBox(Control& parent, std::string name, std::string caption, bool checked = false)
+        : Control(Kind::CheckBox, parent, std::move(name)),
+          Caption(*this, std::move(caption)),
+          checked_(*this, checked) {}
+
+    bool Checked() const { return checked_.Get(); }
+    // The program's own write: raises Click for another state.
+    void SetChecked(bool checked);
+
+    Event<> Click;
+    Event<const Key&> KeyDown;
+    void Toggle();
+
+    Property<std::string> Caption;
+
+private:
+    Property<bool> checked_;
+};
+
+// Options of which one is selected. A member is addressed as NAME(i), or by a name of its own.
+class OptionGroup : public Control {
+public:
+    struct Option {
+        std::string name;
+        std::string caption;
+    };
+
+    // Members named NAME(0), NAME(1), ...
+    OptionGroup(Control& parent, const std::string& name, const std::vector<std::string>& captions);
+    // Members with names of their own.
+    OptionGroup(Control& parent, std::string name, std::vector<Option> options);
+
+    const std::vector<Option>& Options() const { return options_; }
+    int Selected() const { return selected_.Get(); }
+    // The program's own write: raises Click for another option. Others than 0 .. n-1 are ignored.
+    void SetSelected(int option);
+
+    Event<> Click;
+    Event<int, const Key&> KeyDown;
+    void Select(int option);
+
+private:
+    std::vector<Option> options_;
+    Property<int> selected_{*this, 0};
+};
+
+class RichText : public Control {
+public:
+    RichText(Control& parent, std::string name) : Control(Kind::RichText, parent, std::move(name)) {}
+
+    Property<std::string> Rtf{*this, {}};
+};
+
+class Picture : public Control {
+public:
+    Picture(Control& parent, std::string name, std::string picture = {})
+        : Control(Kind::Picture, parent, std::move(name)), Image(*this, std::move(picture)) {}
+
+    Property<std::string> Image;  // by name
+    Property<std::string> Tag{*this, {}};
+};
+
+class Frame : public Control {
+public:
+    Frame(Control& parent, std::string name, std::string caption = {}, Geometry place = {})
+        : Control(Kind::Frame, parent, std::move(name)),
+          Caption(*this, std::move(caption)),
+          Place(*this, place) {}
+
+    Property<std::string> Caption;
+    Property<Geometry> Place;
+};
+
+class Window : public Control {
+public:
+    Window(Changes& changes, std::string name, std::string caption, Geometry place)
+        : Control(Kind::Window, changes, std::move(name)),
+          Caption(*this, std::move(caption)),
+          Place(*this, place) {
+        Visible = false;
+    }
+
+    // A person has given the window another size, or asks it to close. What a close does is the
+    // window's rule; without one the window is hidden.
+    Event<> Resize;
+    Event<> CloseRequest;
+    void PersonResizes(int width, int height);
+    void PersonCloses();
+
+    Property<std::string> Caption;
+    Property<Geometry> Place;
+    Property<bool> TopMost{*this, false};
+    Property<std::string> Tag{*this, {}};
+
+    // True where a rule of its own answers the close.
+    bool closesByRule = false;
+};
+
+}  // namespace kelvra::controls

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The debug log: a text file that gets a line for whatever is worth tracing, while it is switched on.
+// Opens, appends and closes for every line, so that the last line before a crash is there.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "util/number_text.h"
+
+namespace kelvra::driver {
+
+class DebugIf {
+public:
+    DebugIf(platform::Files& files, platform::Clock& clock, const util::NumberForm& numbers)
+        : files_(files), clock_(clock), numbers_(numbers) {}
+
+    bool STAT = false;         // logging is on
+    std::string DebugFileName;
+    bool TimeSamping = false;  // each line begins with the time of day: "00,043,200.000:"
+    std::string DebugHeader;   // each line's prefix behind the time, after a blank
+
+    // One line. Nothing happens while logging is off.
+    void OutputDebug(std::string_view text);
+    // Deletes an existing log file, whether logging is on or off.
+    void KillOld();
+
+    // Told once, with the system's reason, when the log can't be written.
+    std::function<void(const std::string& path, const std::string& reason)> onFailure;
+
+private:
+    std::string Line(std::string_view text);
+
+    platform::Files& files_;
+    platform::Clock& clock_;
+    const util::NumberForm& numbers_;
+    bool failed_ = false;
+};
+
+}  // namespace kelvra::driver

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "driver/device_list.h"
+
+#include <algorithm>
+
+#include "driver/catalogue.h"
+#include "driver/text_buffer.h"
+
+namespace kelvra::driver {
+
+namespace {
+
+constexpr std::int32_t MostEntries = 256;
+// A library that reports an empty list is asked for this many entries all the same.
+constexpr std::int32_t EntriesOfEmptyList = 2;
+
+}  // namespace
+
+void DeviceCatalogue::BuildDeviceList(sensors::SensorTable& table) {
+    DeviceList.assign(1, {});
+    operations_.TeskLockDeviceList();
+    std::int32_t length = 0;
+    operations_.TeskGetDeviceListLength(&length);
+    length = std::clamp(length, 0, MostEntries);
+    if (length == 0) length = EntriesOfEmptyList;
+    table.ResizeScaling(length + 1);
+    for (int index = 0; index < length; ++index) ReadEntry(index);
+
+    const int connected = Connected();
+    if (connected > 0 && connected < lastConnected_) table.DeviceTableChanged = true;
+    lastConnected_ = connected;
+}
+
+void DeviceCatalogue::ReadEntry(int index) {
+    DeviceBuffer name;
+    DeviceBuffer type;
+    DeviceBuffer serial;
+    std::int32_t connected = 0;
+    operations_.TeskGetDeviceInfo(index, name.Data(), type.Data(), serial.Data(), &connected);
+    if (connected <= 0) return;
+    DeviceList.resize(static_cast<std::size_t>(index) + 1);
+    DeviceList.back() = {ResourceDescriptor(type.Text(), serial.Text()), type.Text(), serial.Text(),
+                         name.Text()};
+}
+
+int DeviceCatalogue::Connected() const {
+    return static_cast<int>(
+        std::count_if(DeviceList.begin(), DeviceList.end(),
+                      [](const DeviceListEntry& entry) { return !entry.ResourceName.empty(); }));
+}
+
+}  // namespace kelvra::driver

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The connected sensors as the device-list library reports them, with their resource descriptors.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/operations.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::driver {
+
+struct DeviceListEntry {
+    std::string ResourceName;  // empty: no connected device at this place
+    std::string Type;
+    std::string Serial;
+    std::string Name;  // may be empty
+};
+
+class DeviceCatalogue {
+public:
+    explicit DeviceCatalogue(DeviceListOperations& operations) : operations_(operations) {}
+
+    // Up to the last place with a connected device; a single empty element when there is none.
+    std::vector<DeviceListEntry> DeviceList = std::vector<DeviceListEntry>(1);
+
+    // Reads the library's list (256 entries at most are believed), sizes the display limits, and sets
+    // DeviceTableChanged when fewer sensors are connected than the last time. Sizing the sensor table
+    // is left to discovery, which first saves what has gone.
+    void BuildDeviceList(sensors::SensorTable& table);
+
+    int Connected() const;
+
+    // Ends the use of the library.
+    void Close() { operations_.TeskCloseDriver(); }
+
+private:
+    void ReadEntry(int index);
+
+    DeviceListOperations& operations_;
+    int lastConnected_ = 0;
+};
+
+}  // namespace kelvra::driver

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "driver/driver_library.h"
+
+#include <utility>
+
+namespace kelvra::driver {
+
+namespace {
+
+std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugIf& log,
+                                           const char* name, OperationList& operations) {
+    platform::LoadedLibrary loaded = computer.LoadDriverLibrary(name);
+    operations.libraryFile = loaded.fileName;
+    operations.libraryFound = loaded.library != nullptr;
+    if (!loaded.library) {
+        log.OutputDebug("Driver library " + loaded.fileName + " was not loaded: " + loaded.why);
+        return nullptr;
+    }
+    for (OperationBase* operation : operations.all) {
+        operation->address = loaded.library->Find(operation->name);
+        if (operation->address == nullptr)
+            log.OutputDebug("Driver library " + loaded.fileName + " has no function " +
+                            operation->name);
+    }
+    return std::move(loaded.library);
+}
+
+}  // namespace
+
+void DriverLibrary::Load(platform::Computer& computer, DebugIf& log) {
+    instrumentLibrary_ = LoadOne(computer, log, "psdrv_32", instrument);
+    deviceListLibrary_ = LoadOne(computer, log, "TeskControl2", deviceList);
+}
+
+std::string MissingText(const OperationList& operations, const OperationBase& missing) {
+    if (!operations.libraryFound)
+        return "The driver library " + operations.libraryFile + " was not found.";
+    return "The driver library " + operations.libraryFile + " has no function " + missing.name + ".";
+}
+
+}  // namespace kelvra::driver

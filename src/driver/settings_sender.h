@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Sends single settings of one channel, each framed in the log. A setting with a label has its status
+// reported under it; one without is sent unchecked.
+#pragma once
+
+#include "driver/call_log.h"
+#include "driver/session.h"
+
+namespace kelvra::driver {
+
+constexpr const char* Unchecked = nullptr;
+
+class SettingsSender {
+public:
+    SettingsSender(Session& session, int slot) : session_(session), slot_(slot) {}
+
+    template <class... Parameters, class... Values>
+    void operator()(const Operation<Handle, Channel, Parameters...>& operation, const char* label,
+                    Values... values) {
+        Send(LogForm::General, operation, label, values...);
+    }
+
+    template <class... Parameters, class... Values>
+    void Send(LogForm form, const Operation<Handle, Channel, Parameters...>& operation,
+              const char* label, Values... values) {
+        const Status status = FramedCall(session_.log, form, operation,
+                                         session_.state.instrumentHandle, ChannelOf(slot_), values...);
+        if (label != Unchecked) session_.ReportError(status, slot_, label);
+    }
+
+private:
+    Session& session_;
+    int slot_;
+};
+
+}  // namespace kelvra::driver

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The small dialogs: the recording interval, the About box with its reports, and the information
+// entries of a sensor. All texts that come from the computer or a sensor are filled in elsewhere.
+#pragma once
+
+#include "controls/kinds.h"
+#include "controls/list.h"
+
+namespace kelvra::forms {
+
+struct TimeForm : controls::Window {
+    explicit TimeForm(controls::Changes& changes)
+        : Window(changes, "TimeForm", "Record Time Interval", {3000, 3000, 4800, 1500}) {}
+
+    controls::Frame Frame1{*this, "Frame1", "", {60, 60, 4680, 1380}};
+    controls::Picture Image1{Frame1, "Image1", "recordPic"};
+    controls::Label lblRecText{Frame1, "lblRecText", "Record data every"};
+    controls::TextBox TimeIntervalBox{Frame1, "TimeIntervalBox"};
+    controls::Label Label2{Frame1, "Label2", "seconds"};
+    controls::Button SubmitTimeButton{Frame1, "SubmitTimeButton", "", "submitTimePic"};
+};
+
+struct AboutForm : controls::Window {
+    explicit AboutForm(controls::Changes& changes)
+        : Window(changes, "AboutForm", "Info", {2400, 1800, 8400, 7200}) {
+        for (controls::Button* button : {&ShowSystemInfo, &ShowDriverInfo, &ShowLegalNotes})
+            button->Tag = "show";
+        for (controls::RichText* panel : {&SysInfoValue, &DriverInfoValue, &LizText})
+            panel->Visible = false;
+        LizText.Rtf =
+            R"({\plain\fs20 {\b Kelvra\par}{\par})"
+            R"({Copyright (C) 2026 The Kelvra developers\par}{\par})"
+            R"({This program is free software: you can redistribute it and/or modify it under the )"
+            R"(terms of the GNU General Public License as published by the Free Software )"
+            R"(Foundation, either version 3 of the License, or (at your option) any later )"
+            R"(version.\par}{\par})"
+            R"({This program is distributed in the hope that it will be useful, but WITHOUT ANY )"
+            R"(WARRANTY; without even the implied warranty of MERCHANTABILITY or FITNESS FOR A )"
+            R"(PARTICULAR PURPOSE. See the file LICENSE that comes with it.\par}})";
+    }
+
+    controls::Picture Image{*this, "Image", "aboutPic"};
+    controls::Label AppName{*this, "AppName"};
+    controls::Label AppDesc{*this, "AppDesc"};
+    controls::Label AppVersion{*this, "AppVersion"};
+    controls::Label AppCopy{*this, "AppCopy"};
+    controls::Label HomeLink{*this, "HomeLink", "Home page"};
+    controls::Label ProductLink{*this, "ProductLink", "Application notes and support tool"};
+    controls::Label SupportMail{*this, "SupportMail", "Mail to support"};
+    controls::Button ShowSystemInfo{*this, "ShowSystemInfo", "System info"};
+    controls::Button ShowDriverInfo{*this, "ShowDriverInfo", "Driver info"};
+    controls::Button ShowLegalNotes{*this, "ShowLegalNotes", "Legal notes"};
+    controls::Button CreateSupportString{*this, "CreateSupportString", "Copy support info"};
+    controls::Button Close{*this, "Close", "Close"};
+    controls::RichText SysInfoValue{*this, "SysInfoValue"};
+    controls::RichText DriverInfoValue{*this, "DriverInfoValue"};
+    controls::RichText LizText{*this, "LizText"};
+};
+
+// Names on the left, values on the right, one line an entry.
+struct SensInfoForm : controls::Window {
+    explicit SensInfoForm(controls::Changes& changes)
+        : Window(changes, "SensInfoForm", "Sensor Information", {3000, 1800, 6900, 5400}) {}
+
+    controls::List InfoHeader{*this, "InfoHeader"};
+    controls::List InfoValue{*this, "InfoValue"};
+};
+
+}  // namespace kelvra::forms

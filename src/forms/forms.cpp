@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/forms.h"
+
+namespace kelvra::forms {
+
+namespace {
+
+void Note(Found& found, controls::Control& control, int member) {
+    const Lookup result = found.result == Lookup::Unknown ? Lookup::Found : Lookup::NotUnique;
+    found = result == Lookup::Found ? Found{result, &control, member} : Found{result};
+}
+
+// Looks at the control and all below it.
+void Search(controls::Control& control, std::string_view name, Found& found) {
+    if (control.Name() == name) Note(found, control, -1);
+    if (const auto* group = dynamic_cast<const controls::OptionGroup*>(&control)) {
+        const auto& options = group->Options();
+        for (int i = 0; i < static_cast<int>(options.size()); ++i)
+            if (options[static_cast<std::size_t>(i)].name == name) Note(found, control, i);
+    }
+    for (controls::Control* child : control.Children()) Search(*child, name, found);
+}
+
+}  // namespace
+
+std::vector<controls::Window*> Forms::Windows() {
+    return {&mdiMain,         &statusForm, &setupForm, &scopeDisp,   &timeSlotDisp,
+            &timeSlotTabForm, &timeForm,   &aboutForm, &sensInfoForm};
+}
+
+controls::Window* Forms::FindFormByName(std::string_view name) {
+    for (controls::Window* window : Windows())
+        if (window->Name() == name) return window;
+    return nullptr;
+}
+
+Found Forms::Find(std::string_view name) {
+    Found found;
+    const std::size_t dot = name.find('.');
+    if (dot == std::string_view::npos) {
+        for (controls::Window* window : Windows()) Search(*window, name, found);
+    } else if (controls::Window* window = FindFormByName(name.substr(0, dot))) {
+        for (controls::Control* child : window->Children())
+            Search(*child, name.substr(dot + 1), found);
+    }
+    return found;
+}
+
+}  // namespace kelvra::forms

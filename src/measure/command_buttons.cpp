@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/command_buttons.h"
+
+namespace kelvra::measure {
+
+void OfferSensorCommands(forms::SetupForm& dialog, bool offered) {
+    const struct {
+        controls::Button& button;
+        const char* picture;
+        const char* disabledPicture;
+    } commands[] = {
+        {dialog.SensorZero, "zeroSensPic", "zeroSensDisPic"},
+        {dialog.cmdZeroAll, "zeroSensAllPic", "zeroSensAllDisPic"},
+        {dialog.SensSelfTest, "selfTestPic", "selfTestDisPic"},
+        {dialog.SensInfo, "sensInfoPic", "sensInfoDisPic"},
+    };
+    dialog.ActionFrame.Enabled = offered;
+    for (const auto& command : commands)
+        command.button.Picture = offered ? command.picture : command.disabledPicture;
+}
+
+}  // namespace kelvra::measure

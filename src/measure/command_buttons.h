@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sensor commands of the setup dialog (zero, self test, information): offered or not, with the
+// pictures that show it.
+#pragma once
+
+#include "forms/setup_form.h"
+
+namespace kelvra::measure {
+
+void OfferSensorCommands(forms::SetupForm& dialog, bool offered);
+
+}  // namespace kelvra::measure

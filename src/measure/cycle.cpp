@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/cycle.h"
+
+#include "driver/call_log.h"
+#include "measure/notice.h"
+#include "util/number_text.h"
+
+namespace kelvra::measure {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+// How long a sensor may take before the notice says that it is waited for, and again.
+constexpr auto WaitingNoticeAfter = milliseconds(1000);
+// A round in which nothing completed waits for an event instead of spinning.
+constexpr auto PollingPatience = milliseconds(1);
+constexpr std::int16_t LongestBar = 8;
+
+}  // namespace
+
+bool Cycle::Takes(int slot) const {
+    const auto index = static_cast<std::size_t>(slot);
+    return index < measured_.size() && measured_[index] && p_.table[slot].Present;
+}
+
+void Cycle::DoEvents(milliseconds patience) {
+    p_.host.events.DoEvents(patience);
+    lastRound_ = p_.host.clock.Monotonic();
+}
+
+void Cycle::Pass() {
+    pacing_.PassBegins();
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        if (!Takes(slot)) continue;
+        PrepareSlot(slot);
+        if (p_.state.Ending()) return;
+    }
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].TriggerNowRequest = false;
+    speed_.Restart();
+    Initiate();
+    p_.forms.mdiMain.FileSaveData.Enabled = true;
+    Poll();
+    if (p_.state.Ending()) return;
+    speed_.UpdateSpeedAndBusy();
+    Fetch();
+    DoEvents();
+    if (p_.state.exiting) return;
+    if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);
+    pacing_.WaitForDeadline();
+    if (p_.state.exiting) return;
+    // What was shown while waiting is over; an error stays to be read.
+    if (!p_.session.state.ErrorShown) p_.forms.mdiMain.lblMeasAwait.Caption = " ";
+    ++p_.state.Passes;
+}
+
+// A slot that was closed since the last pass is opened again; changed settings are sent.
+void Cycle::PrepareSlot(int slot) {
+    if (!p_.table[slot].SessionOpen) {
+        p_.session.OpenSensor(slot);
+        if (p_.state.exiting) return;
+        if (!p_.table[slot].SessionOpen) {
+            TakeOut(slot);
+            return;
+        }
+        sensors::PrepareWorkArrays(p_.table, slot);
+        Configure(slot);
+        if (p_.state.exiting) return;
+    }
+    if (p_.table[slot].SettingsChanged) {
+        Configure(slot);
+        if (p_.state.exiting) return;
+        if (!p_.table.SimulationMode) sensors::PrepareWorkArrays(p_.table, slot);
+    }
+    sensors::SensorEntry& entry = p_.table[slot];
+    entry.MeasPending = 1;
+    ++entry.WaitTicks;
+    p_.results.ShowActivity(slot, true);
+}
+
+// What can't be opened again isn't tried in every pass, with a message each time.
+void Cycle::TakeOut(int slot) {
+    measured_[static_cast<std::size_t>(slot)] = false;
+    for (int other = 0; other < p_.table.Slots(); ++other)
+        if (Takes(other)) return;
+    StopIt_Click();
+}
+
+void Cycle::Configure(int slot) {
+    if (p_.table.SimulationMode)
+        p_.table[slot].SettingsChanged = false;
+    else
+        p_.transfer.ConfigureSensor(slot);
+}
+
+void Cycle::Initiate() {
+    if (p_.table.SimulationMode) return;
+    driver::DebugIf& log = p_.session.log;
+    const driver::Handle handle = p_.session.state.instrumentHandle;
+    if (log.STAT)
+        log.OutputDebug("psdrv_chans_initiate( " + driver::ArgumentText(handle) + " ) STARTING");
+    p_.session.operations.psdrv_chans_initiate(handle);
+    log.OutputDebug("psdrv_chans_initiate -> TeskSession FINISHED");
+}
+
+void Cycle::Poll() {
+    lastNotice_ = p_.host.clock.Monotonic();
+    bool allDone = false;
+    while (!allDone && !p_.state.Ending()) {
+        allDone = true;
+        bool progress = false;
+        for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+            const sensors::SensorEntry& entry = p_.table[slot];
+            if (!entry.SessionOpen || entry.MeasPending != 1 || entry.SettingsChanged) continue;
+            const bool complete = PollSlot(slot);
+            progress = progress || complete;
+            allDone = allDone && complete;
+        }
+        DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
+    }
+}
+
+bool Cycle::PollSlot(int slot) {
+    if (!p_.table.SimulationMode && !AskWhetherComplete(slot)) return false;
+    sensors::SensorEntry& entry = p_.table[slot];
+    entry.MeasPending = 0;
+    p_.results.ShowActivity(slot, false);
+    if (entry.WaitTicks >= LongestBar) entry.WaitTicks = 0;
+    return true;
+}
+
+bool Cycle::AskWhetherComplete(int slot) {
+    driver::InstrumentOperations& op = p_.session.operations;
+    driver::DebugIf& log = p_.session.log;
+    const driver::Handle handle = p_.session.state.instrumentHandle;
+    const driver::Channel channel = driver::ChannelOf(slot);
+    if (p_.table[slot].TriggerNowRequest) {
+        driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger, handle,
+                           channel);
+        p_.table[slot].TriggerNowRequest = false;
+    }
+    const std::string name = log.STAT ? op.psdrv_chan_isMeasurementComplete.name : "";
+    driver::Switch complete = 0;
+    if (log.STAT)
+        log.OutputDebug(name + "( " + driver::ArgumentText(handle, channel, complete) +
+                        " ) STARTING");
+    const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
+    if (log.STAT)
+        log.OutputDebug(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
+    ShowWaiting(slot, status);
+    return complete != 0;
+}
+
+void Cycle::ShowWaiting(int slot, driver::Status status) {
+    const platform::Duration now = p_.host.clock.Monotonic();
+    if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.ErrorShown) return;
+    std::string text = "Waiting for a trigger signal at sensor " +
+                       util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
+    if (status != 0) text += ": " + p_.session.WordsFor(status, false).message;
+    ShowNotice(p_.forms.mdiMain, std::move(text));
+    lastNotice_ = now;
+}
+
+void Cycle::Fetch() {
+    for (int slot = 0; slot < p_.table.Slots(); ++slot)
+        if (Takes(slot) && p_.table[slot].SessionOpen && !p_.table[slot].SettingsChanged)
+            FetchSlot(slot);
+}
+
+void Cycle::FetchSlot(int slot) {
+    switch (p_.table[slot].Settings.Mode) {
+        case sensors::ContinuousAverage:
+        case sensors::Burst:
+            p_.results.SetTableMark(slot, true);
+            p_.readings.GetSingleReading(slot);
+            break;
+        case sensors::TimeSlot:
+            p_.results.SetTableMark(slot, false);
+            p_.readings.GetMultiReading(slot);
+            p_.table[slot].NewTSlotData = true;
+            break;
+        case sensors::Trace:
+            p_.results.SetTableMark(slot, false);
+            p_.readings.GetMultiReading(slot);
+            p_.table[slot].NewScopeData = true;
+            break;
+        default:  // a buffered result is not fetched in the pass
+            break;
+    }
+}
+
+// Every measurement opens and closes its own session; a simulated one has none.
+void Cycle::Close() {
+    if (!p_.state.exiting && !p_.table.SimulationMode) p_.session.Close();
+}
+
+}  // namespace kelvra::measure

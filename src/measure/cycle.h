@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The measurement cycle: what the Start button runs until Stop. It keeps the program alive by letting
+// events run at fixed points; Stop, the windows and the timers act in those gaps and talk to it
+// through flags. Preparing a measurement is in cycle_start.cpp, the passes are in cycle.cpp.
+#pragma once
+
+#include <chrono>
+#include <vector>
+
+#include "driver/session.h"
+#include "driver/transfer.h"
+#include "forms/forms.h"
+#include "measure/pacing.h"
+#include "measure/readings.h"
+#include "measure/result_table.h"
+#include "measure/sensor_selection.h"
+#include "measure/speed.h"
+#include "measure/state.h"
+#include "measure/view.h"
+#include "platform/host.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::measure {
+
+// The rooms that the cycle works with.
+struct CycleParts {
+    forms::Forms& forms;
+    sensors::SensorTable& table;
+    MeasureState& state;
+    platform::Host& host;
+    driver::Session& session;
+    driver::ConfigurationTransfer& transfer;
+    driver::SensorNotices& notices;
+    SensorSelection& selection;
+    ResultTable& results;
+    Readings& readings;
+    MeasurementView& view;
+};
+
+class Cycle {
+public:
+    explicit Cycle(const CycleParts& parts);
+
+    // Runs the whole measurement and returns after Stop, or after a start that failed: then the window
+    // stays as if measuring until Stop is pressed. Does nothing while it, or a sensor command, runs.
+    void StartIt_Click();
+
+    // Ends the measurement, and a recording, at the cycle's next look; the window is idle at once.
+    void StopIt_Click();
+
+private:
+    enum class Prepared { Ready, Nothing, Failed, Ended };
+
+    // cycle_start.cpp
+    void BeginMeasuring();
+    void BringEnabledToFront();
+    void FindModes();
+    Prepared OpenSensors();
+    bool OpenAndConfigure(int slot);
+    void ShowStartFailure();
+    void ShowIdle();
+    void LetEventsRunIfLate();
+
+    // cycle.cpp
+    void DoEvents(std::chrono::milliseconds patience = {});
+    void Pass();
+    void PrepareSlot(int slot);
+    void TakeOut(int slot);
+    void Configure(int slot);
+    void Initiate();
+    void Poll();
+    bool PollSlot(int slot);
+    bool AskWhetherComplete(int slot);
+    void ShowWaiting(int slot, driver::Status status);
+    void Fetch();
+    void FetchSlot(int slot);
+    void Close();
+
+    // The slot was enabled when the measurement started, and its sensor is still there.
+    bool Takes(int slot) const;
+
+    CycleParts p_;
+    Speed speed_;
+    Pacing pacing_;
+    std::vector<bool> measured_;  // by slot, as it was at Start
+    platform::Duration lastNotice_{};
+    platform::Duration lastRound_{};
+};
+
+}  // namespace kelvra::measure

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <chrono>
+
+#include "measure/command_buttons.h"
+#include "measure/cycle.h"
+#include "measure/notice.h"
+
+namespace kelvra::measure {
+
+namespace {
+
+// Opening many sensors takes long; Stop must get through meanwhile.
+constexpr auto LongestWithoutEvents = std::chrono::milliseconds(400);
+
+// The list of a display gets a sensor; the first one is selected.
+void AddToDisplay(controls::List& list, const std::string& name, int slot) {
+    list.Add(name, slot);
+    list.SetIndex(0);
+}
+
+}  // namespace
+
+Cycle::Cycle(const CycleParts& parts)
+    : p_(parts),
+      speed_(parts.forms.mdiMain, parts.host),
+      pacing_(parts.state, parts.host, parts.notices) {
+    p_.forms.mdiMain.StartIt.Click.Connect([this] { StartIt_Click(); });
+    p_.forms.mdiMain.StopIt.Click.Connect([this] { StopIt_Click(); });
+}
+
+void Cycle::StartIt_Click() {
+    if (p_.state.commandRuns || p_.state.exiting) return;
+    const CommandGuard guard(p_.state);
+    BeginMeasuring();
+    BringEnabledToFront();
+    p_.selection.UpdateSensSelect();
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        p_.results.PaintName(slot);
+        p_.results.ClearValues(slot);
+    }
+    FindModes();
+    p_.view.ModesChanged();
+    speed_.Reset();
+    pacing_.Reset();
+    DoEvents();
+    switch (p_.state.Ending() ? Prepared::Ended : OpenSensors()) {
+        case Prepared::Ready:
+            OfferSensorCommands(p_.forms.setupForm, false);
+            while (!p_.state.Ending()) Pass();
+            ShowIdle();
+            break;
+        case Prepared::Ended:
+            ShowIdle();
+            break;
+        case Prepared::Failed:
+            ShowStartFailure();
+            break;
+        case Prepared::Nothing:
+            p_.host.dialogs.Message({}, "No operational sensor selected",
+                                    platform::MessageIcon::Exclamation);
+            return;
+    }
+    Close();
+}
+
+void Cycle::StopIt_Click() {
+    p_.state.Measuring = false;
+    p_.state.StopRequested = true;
+    p_.state.RecordInterval = 0;
+    p_.forms.mdiMain.FileSaveData.Caption = "Record Data...";
+    ShowIdle();
+}
+
+// A Stop that is pressed from here on counts, however early: nothing below takes it back.
+void Cycle::BeginMeasuring() {
+    p_.state.Measuring = true;
+    p_.state.StopRequested = false;
+    ++p_.state.starts;
+    p_.forms.mdiMain.StartIt.Enabled = false;
+    p_.forms.mdiMain.StopIt.Enabled = true;
+}
+
+// Also at the end of a measurement: Stop may have been pressed by someone, or by a recovery.
+void Cycle::ShowIdle() {
+    p_.forms.mdiMain.StopIt.Enabled = false;
+    p_.forms.mdiMain.StartIt.Enabled = true;
+    OfferSensorCommands(p_.forms.setupForm, true);
+}
+
+// Fixes the channel numbers: an enabled sensor must be in slot 0, which opens the session.
+void Cycle::BringEnabledToFront() {
+    sensors::SensorTable& table = p_.table;
+    for (int slot = 0; slot < table.Slots(); ++slot) {
+        if (!table[slot].Present || table[slot].Enabled) continue;
+        for (int other = slot + 1; other < table.Slots(); ++other) {
+            if (!table[other].Present || !table[other].Enabled) continue;
+            table.SwapSlots(slot, other);
+            break;
+        }
+    }
+    measured_.assign(static_cast<std::size_t>(table.Slots()), false);
+    for (int slot = 0; slot < table.Slots(); ++slot)
+        measured_[static_cast<std::size_t>(slot)] = table[slot].Present && table[slot].Enabled;
+}
+
+void Cycle::FindModes() {
+    p_.state.TimeSlotModeActive = false;
+    p_.state.ScopeModeActive = false;
+    controls::List& slotList = p_.forms.timeSlotDisp.Timeslot_Sensorselect;
+    controls::List& traceList = p_.forms.scopeDisp.Scope_Sensorselect;
+    slotList.Clear();
+    traceList.Clear();
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        if (!Takes(slot)) continue;
+        const sensors::SensorEntry& entry = p_.table[slot];
+        if (entry.Settings.Mode == sensors::TimeSlot) {
+            p_.state.TimeSlotModeActive = true;
+            AddToDisplay(slotList, entry.LogicalName, slot);
+        } else if (entry.Settings.Mode == sensors::Trace) {
+            p_.state.ScopeModeActive = true;
+            AddToDisplay(traceList, entry.LogicalName, slot);
+        }
+    }
+}
+
+Cycle::Prepared Cycle::OpenSensors() {
+    bool operational = false;
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        if (!Takes(slot)) {
+            p_.table[slot].SessionOpen = false;
+            continue;
+        }
+        const bool opened = OpenAndConfigure(slot);
+        if (p_.state.Ending()) return Prepared::Ended;
+        if (!opened) return Prepared::Failed;
+        operational = true;
+        LetEventsRunIfLate();
+        if (p_.state.Ending()) return Prepared::Ended;
+    }
+    return operational ? Prepared::Ready : Prepared::Nothing;
+}
+
+bool Cycle::OpenAndConfigure(int slot) {
+    if (!p_.table[slot].SessionOpen) {
+        p_.session.OpenSensor(slot);
+        if (!p_.table[slot].SessionOpen) return false;
+        sensors::PrepareWorkArrays(p_.table, slot);
+    }
+    Configure(slot);
+    return true;
+}
+
+void Cycle::LetEventsRunIfLate() {
+    if (p_.host.clock.Monotonic() - lastRound_ > LongestWithoutEvents) DoEvents();
+}
+
+void Cycle::ShowStartFailure() {
+    if (!p_.session.state.ReconnectPrompt) return;
+    p_.host.dialogs.Message("Initialization Error",
+                            "There was an error while initializing the sensors.\r\n"
+                            "Please reconnect the sensors and press ok.",
+                            platform::MessageIcon::Exclamation);
+}
+
+}  // namespace kelvra::measure

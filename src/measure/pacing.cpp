@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/pacing.h"
+
+#include <chrono>
+#include <string>
+
+#include "util/number_text.h"
+
+namespace kelvra::measure {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+namespace {
+
+constexpr auto Pause = milliseconds(1);
+constexpr int NoSlot = 0;  // general messages name no sensor
+
+}  // namespace
+
+platform::Duration Pacing::Deadline() const {
+    const platform::Duration interval = seconds(state_.RecordInterval);
+    const platform::Duration own = passBegan_ + interval;
+    if (!lastDeadline_) return own;
+    // A pass that began at the last deadline, or a moment behind it, keeps to the even spacing.
+    const platform::Duration even = *lastDeadline_ + interval;
+    return even > host_.clock.Monotonic() ? even : own;
+}
+
+void Pacing::WaitForDeadline() {
+    if (state_.RecordInterval <= 0) {
+        lastDeadline_.reset();
+        return;
+    }
+    const platform::Duration deadline = Deadline();
+    const bool keepsUp = deadline > host_.clock.Monotonic();
+    while (state_.RecordInterval > 0 && !state_.Ending()) {
+        const platform::Duration left = deadline - host_.clock.Monotonic();
+        if (left <= platform::Duration::zero()) break;
+        host_.events.DoEvents();
+        if (state_.Ending()) return;
+        ShowDelay(left);
+        host_.clock.Sleep(Pause);
+    }
+    lastDeadline_ = keepsUp ? std::optional(deadline) : std::nullopt;
+}
+
+void Pacing::ShowDelay(platform::Duration left) {
+    const auto whole = std::chrono::ceil<seconds>(left).count();
+    notices_.ShowSensorError(
+        true, NoSlot, "Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}) + "    ", true);
+}
+
+}  // namespace kelvra::measure

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Holds each pass back to the recording interval. While passes keep up, the deadlines are an interval
+// apart exactly, so a recording doesn't drift; after a pass that took longer they start anew. Goes by
+// the monotonic clock, so midnight and a clock that is set don't matter.
+#pragma once
+
+#include <optional>
+
+#include "driver/notices.h"
+#include "measure/state.h"
+#include "platform/host.h"
+
+namespace kelvra::measure {
+
+class Pacing {
+public:
+    Pacing(MeasureState& state, platform::Host& host, driver::SensorNotices& notices)
+        : state_(state), host_(host), notices_(notices) {}
+
+    // A measurement starts: no deadline yet.
+    void Reset() { lastDeadline_.reset(); }
+    void PassBegins() { passBegan_ = host_.clock.Monotonic(); }
+    // Waits until the pass has lasted as long as the recording interval, letting events run and
+    // showing the whole seconds that are left. Without an interval, and once the measurement is to
+    // end, it returns at once.
+    void WaitForDeadline();
+
+private:
+    platform::Duration Deadline() const;
+    void ShowDelay(platform::Duration left);
+
+    MeasureState& state_;
+    platform::Host& host_;
+    driver::SensorNotices& notices_;
+    platform::Duration passBegan_{};
+    std::optional<platform::Duration> lastDeadline_;
+};
+
+}  // namespace kelvra::measure

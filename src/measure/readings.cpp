@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/readings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "measure/simulation.h"
+#include "util/levels.h"
+#include "util/number_text.h"
+
+namespace kelvra::measure {
+
+namespace {
+
+using controls::Align;
+
+std::string Number(std::int64_t value) { return util::NumberText(value); }
+std::string Number(double value) { return util::NumberText(value); }
+
+// The frame of a call that gives back a value: the value stands in both lines.
+template <class Value>
+void FramedFetch(driver::DebugIf& log, const char* name, driver::Handle handle,
+                 driver::Channel channel, const Value& value, auto call) {
+    if (log.STAT)
+        log.OutputDebug(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
+                        Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
+    call();
+    if (log.STAT)
+        log.OutputDebug(std::string(name) + " -> " + Number(value) + " ) FINISHED");
+}
+
+}  // namespace
+
+void Readings::GetSingleReading(int slot) {
+    const sensors::TableLock lock(table_);
+    sensors::SensorEntry& entry = table_[slot];
+    if (table_.SimulationMode)
+        entry.LastReading = SimulatedReading(slot, host_.random);
+    else
+        FetchScalar(slot);
+
+    const util::NumberForm& form = host_.computer.Numbers();
+    entry.History.Add(entry.LastReading);
+    const double levelDbm = entry.History.LastLevel();
+    results_.SetValue(slot, WattColumn, util::ScientificText(entry.LastReading, form), Align::Left);
+    results_.SetValue(slot, DbmColumn, util::FixedText(levelDbm, 3, form), Align::Left);
+    if (!table_.SimulationMode)
+        table_.SlotReadings[static_cast<std::size_t>(slot)] = {entry.LastReading, levelDbm};
+    results_.SetValue(slot, CountColumn, util::TrimmedNumberText(std::int64_t{entry.AvgCountRead}),
+                      Align::Centre);
+    if (const auto sigma = entry.History.Sigma())
+        results_.SetValue(slot, SigmaColumn, util::FixedText(*sigma, 3, form), Align::Centre);
+}
+
+void Readings::FetchScalar(int slot) {
+    const driver::Handle handle = session_.state.instrumentHandle;
+    const driver::Channel channel = driver::ChannelOf(slot);
+    sensors::SensorEntry& entry = table_[slot];
+    FramedFetch(session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.LastReading,
+                [&] {
+                    session_.operations.psdrv_meass_fetchMeasurement(handle, channel,
+                                                                     &entry.LastReading);
+                });
+    std::int32_t& count = entry.AvgCountRead;
+    FramedFetch(session_.log, "psdrv_avg_getCount", handle, channel, std::int64_t{count}, [&] {
+        session_.operations.psdrv_avg_getCount(handle, channel, &count);
+    });
+}
+
+void Readings::GetMultiReading(int slot) {
+    const sensors::TableLock lock(table_);
+    std::vector<double>& results = table_[slot].Results;
+    results.assign(ArraySize, 0.0);
+    int count = 0;
+    if (table_.SimulationMode) {
+        const auto values = SimulatedArray(table_[slot].Settings, ArraySize, host_.random);
+        std::copy(values.begin(), values.end(), results.begin());
+        count = static_cast<int>(values.size());
+    } else {
+        count = FetchArray(slot);
+    }
+    if (count > 0) results.resize(static_cast<std::size_t>(std::min(count, ArraySize)));
+}
+
+int Readings::FetchArray(int slot) {
+    const driver::Handle handle = session_.state.instrumentHandle;
+    const driver::Channel channel = driver::ChannelOf(slot);
+    const std::string name = session_.operations.psdrv_meass_fetchBufferMeasurement.name;
+    if (session_.log.STAT)
+        session_.log.OutputDebug(name + "( " + Number(std::int64_t{handle}) + ", " +
+                                 Number(std::int64_t{channel}) + ", ... ) STARTING");
+    std::int32_t count = 0;
+    session_.operations.psdrv_meass_fetchBufferMeasurement(
+        handle, channel, ArraySize, table_[slot].Results.data(), &count);
+    session_.log.OutputDebug(name + " -> ... FINISHED");
+    return count;
+}
+
+}  // namespace kelvra::measure

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/sensor_selection.h"
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace kelvra::measure {
+
+SensorSelection::SensorSelection(forms::Forms& forms, sensors::SensorTable& table)
+    : forms_(forms), table_(table) {
+    forms_.mdiMain.TimeSensor_select_new.Click.Connect([this] { TimeSensor_select_new_Click(); });
+}
+
+void SensorSelection::UpdateSensSelect() {
+    std::vector<controls::List::Item> items;
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (table_[slot].Present && table_[slot].Enabled)
+            items.push_back({table_[slot].LogicalName, slot});
+
+    controls::List& dialogList = forms_.setupForm.SensSelect;
+    controls::List& mainList = forms_.mdiMain.TimeSensor_select_new;
+    mainList.Fill(items);
+    dialogList.Fill(std::move(items));
+    const int current = dialogList.IndexOfData(table_.CurrentSensor);
+    const int selected = current < 0 && dialogList.Count() > 0 ? 0 : current;
+    mainList.Preselect(selected);
+    dialogList.SetIndex(selected);
+}
+
+void SensorSelection::Select(int slot) {
+    if (slot < 0 || slot >= table_.Slots() || !table_[slot].Present) return;
+    table_.CurrentSensor = static_cast<std::int16_t>(slot);
+    controls::List& mainList = forms_.mdiMain.TimeSensor_select_new;
+    mainList.Preselect(mainList.IndexOfData(slot));
+    controls::List& dialogList = forms_.setupForm.SensSelect;
+    dialogList.SetIndex(dialogList.IndexOfData(slot));
+    forms_.setupForm.SensLogicalName.SetText(table_[slot].LogicalName);
+}
+
+void SensorSelection::TimeSensor_select_new_Click() {
+    Select(forms_.mdiMain.TimeSensor_select_new.Data());
+}
+
+}  // namespace kelvra::measure

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parser/compiler.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "parser/evaluation_order.h"
+#include "parser/literals.h"
+#include "util/number_text.h"
+
+namespace kelvra::parser {
+
+namespace {
+
+constexpr int LevelsOfDepth = 10;
+
+// Two comparison signs that are no operator together: compiles, and fails when it is evaluated.
+constexpr Function UnknownComparison{-1, NameList::Operators, 2, 1, "", nullptr, nullptr};
+
+constexpr bool ContinuesCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+}  // namespace
+
+std::size_t CountAbsBars(std::string_view text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '|'));
+}
+
+Compiler::Compiler(std::string_view text, ExpressionTable& table) : text_(text), table_(table) {
+    table_.ET.resize(1);
+    table_.Vars.resize(1);
+    table_.VarTop = 0;
+    table_.names.clear();
+}
+
+bool Compiler::Compile() {
+    if (text_.size() > MaxLength) return Fail("formula too long");
+    table_.names.reserve(text_.size() + MaxEntries + 1);  // a sign may add a "0"
+    if (CountAbsBars(text_) % 2 != 0) return Fail("abs symbols |.| mismatch");
+    for (const char c : text_) {
+        if (!ContinuesCharacter(c)) ++position_;
+        if (!TakeCharacter(c)) return false;
+    }
+    if (depth_ >= 1) return Fail("Not enough closing brackets");
+    if (!Finish()) return false;
+    SetEvaluationOrder(table_.ET);
+    LinkResults(table_.ET);
+    return true;
+}
+
+bool Compiler::TakeCharacter(char c) {
+    operatorSeen_ = false;
+    if (!Dispatch(c)) return false;
+    if (operatorSeen_) return CloseOperand();
+    comparison_.clear();
+    return true;
+}
+
+bool Compiler::Dispatch(char c) {
+    switch (c) {
+        case ' ':
+            return true;
+        case '(':
+        case '[':
+        case '{':
+            return OpenBracket();
+        case ')':
+        case ']':
+        case '}':
+            return CloseBracket();
+        case '+':
+        case '-':
+            return TakeSign(c);
+        case '*':
+        case '/':
+        case '%':
+        case '\\':
+        case '^':
+        case '!':
+            return TakeOperator(c);
+        case ';':
+            return TakeSeparator();
+        case '|':
+            return TakeBar();
+        case '=':
+        case '<':
+        case '>':
+            return TakeComparison(c);
+        case 'x':
+        case 'y':
+        case 'z':
+        case 'X':
+        case 'Y':
+        case 'Z':
+            return TakeProductName(c);
+        default:
+            Append(c);
+            return true;
+    }
+}
+
+// After a name a bracket holds arguments, else it only groups.
+bool Compiler::OpenBracket() {
+    ++depth_;
+    const std::string_view name = Token();
+    if (name.empty()) return true;
+    const Function* function = FindFunction(name);
+    if (function == nullptr || function->list == NameList::Operators)
+        return FailAt("Function <" + std::string(name) + "> unknown at pos ");
+    if (function->list == NameList::OneArgument) {
+        if (!AppendEntry(name, *function)) return false;
+    } else {
+        pendingFunction_ = name;
+        pendingRow_ = function;
+    }
+    DropToken();
+    return true;
+}
+
+bool Compiler::CloseBracket() {
+    if (--depth_ < 0) return FailAt("Too many closing brackets at pos ");
+    return true;
+}
+
+// A sign without an operand before it works as 0 - x.
+bool Compiler::TakeSign(char c) {
+    const std::string_view token = Token();
+    if (token.empty()) {
+        Append('0');
+    } else if (token.back() == 'E' || token.back() == 'e') {
+        Append(c);
+        return true;
+    }
+    return TakeOperator(c);
+}
+
+bool Compiler::TakeOperator(char c) {
+    const std::string_view name(&c, 1);
+    operatorSeen_ = true;
+    return AppendEntry(name, *FindFunction(name));
+}
+
+bool Compiler::TakeSeparator() {
+    if (pendingRow_ == nullptr) return FailAt("syntax error at pos:");
+    operatorSeen_ = true;
+    return AppendEntry(pendingFunction_, *std::exchange(pendingRow_, nullptr));
+}
+
+bool Compiler::TakeBar() {
+    if (Token().empty()) {
+        ++depth_;
+        return AppendEntry("abs", *FindFunction("abs"));
+    }
+    if (--depth_ < 0) return FailAt("syntax error at pos:");
+    return true;
+}
+
+// The first sign makes the entry, each further one renames the last entry.
+bool Compiler::TakeComparison(char c) {
+    if (comparison_.empty()) {
+        operatorSeen_ = true;
+        if (!AppendEntry({}, UnknownComparison)) return false;
+    }
+    comparison_ += c;
+    ETEntry& entry = table_.ET.back();
+    entry.Fun = comparison_;
+    entry.Id = FunctionId(comparison_);
+    entry.ArgTop = 2;
+    entry.PriLvl = LevelsOfDepth * depth_ + UnknownComparison.level;
+    entry.PosInExpr = position_;
+    return true;
+}
+
+// 2x is 2 * x; in other places the letter is like any other.
+bool Compiler::TakeProductName(char c) {
+    const std::string_view token = Token();
+    if (!token.empty() && IsDigit(token.back()))
+        if (!AppendEntry("*", *FindFunction("*")) || !CloseOperand()) return false;
+    Append(c);
+    return true;
+}
+
+// A lone operand becomes 0 + operand; then each entry gets its last argument: the first argument of
+// the entry to its right, or for the last entry the token that is left.
+bool Compiler::Finish() {
+    auto& entries = table_.ET;
+    if (table_.ETTop() == 0) {
+        AppendEntry("+", *FindFunction("+"));
+        entries.back().PriLvl = 1;
+        entries.back().PosInExpr = 1;
+    }
+    for (std::size_t k = 1; k < entries.size(); ++k) {
+        const ExprArg next = k + 1 < entries.size() ? entries[k + 1].Arg[0] : ExprArg{};
+        entries[k].Arg[entries[k].ArgTop - 1] = next;
+    }
+    return Token().empty() || SetOperand(entries.back().Arg[entries.back().ArgTop - 1]);
+}
+
+bool Compiler::AppendEntry(std::string_view fun, const Function& function) {
+    if (table_.ETTop() == MaxEntries) return Fail("too many operations");
+    ETEntry& entry = table_.ET.emplace_back();
+    entry.Fun = fun;
+    entry.Id = function.id;
+    entry.ArgTop = function.argTop;
+    entry.PriLvl = LevelsOfDepth * depth_ + function.level;
+    entry.PosInExpr = position_;
+    return true;
+}
+
+// The operand of "!" stays: what follows takes it too, and gets the factorial when it is linked.
+bool Compiler::CloseOperand() {
+    ETEntry& entry = table_.ET.back();
+    if (!SetOperand(entry.Arg[0])) return false;
+    if (entry.Fun != "!") DropToken();
+    return true;
+}
+
+bool Compiler::SetOperand(ExprArg& argument) {
+    const std::string_view token = Token();
+    if (token.empty()) return Fail("missing argument");
+    if (const auto value = ParseConstant(token)) {
+        argument.Value = *value;
+        return true;
+    }
+    if (!IsLetter(token.front()))
+        return Fail("variable name must start with a letter: " + std::string(token));
+    return AddVariable(token, argument);
+}
+
+bool Compiler::AddVariable(std::string_view name, ExprArg& argument) {
+    auto& variables = table_.Vars;
+    const auto known = std::find_if(variables.begin() + 1, variables.end(),
+                                    [&](const ExprArg& variable) { return variable.Name == name; });
+    const auto number = static_cast<std::int32_t>(known - variables.begin());
+    if (known == variables.end()) {
+        if (++table_.VarTop > MaxVariables) return Fail("too many Vars");
+        variables.push_back({0, name, 0});
+    }
+    argument.Idx = number;
+    argument.Name = name;
+    return true;
+}
+
+bool Compiler::Fail(std::string message) {
+    error_ = std::move(message);
+    return false;
+}
+
+bool Compiler::FailAt(std::string message) {
+    return Fail(std::move(message) + util::NumberText(std::int64_t{position_}));
+}
+
+}  // namespace kelvra::parser

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Turns the text of a formula into an expression table: characters into tokens, tokens into entries
+// and operands. The order of evaluation is settled by evaluation_order, values by literals.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "parser/expression_table.h"
+#include "parser/function_table.h"
+
+namespace kelvra::parser {
+
+// Fills one table from one text, once. The table is emptied first and keeps its buffers; after a
+// failure it holds what was compiled so far.
+class Compiler {
+public:
+    // The text has no blanks at its ends and outlives the compiler.
+    Compiler(std::string_view text, ExpressionTable& table);
+
+    // False with a message in Error().
+    bool Compile();
+
+    const std::string& Error() const { return error_; }
+
+private:
+    bool TakeCharacter(char c);
+    bool Dispatch(char c);
+    bool OpenBracket();
+    bool CloseBracket();
+    bool TakeSign(char c);
+    bool TakeOperator(char c);
+    bool TakeSeparator();
+    bool TakeBar();
+    bool TakeComparison(char c);
+    bool TakeProductName(char c);
+    bool Finish();
+
+    // The token is the end of the table's names, from tokenStart_ on.
+    std::string_view Token() const { return std::string_view(table_.names).substr(tokenStart_); }
+    void Append(char c) { table_.names += c; }
+    void DropToken() { tokenStart_ = table_.names.size(); }
+
+    bool AppendEntry(std::string_view fun, const Function& function);
+    bool CloseOperand();
+    bool SetOperand(ExprArg& argument);
+    bool AddVariable(std::string_view name, ExprArg& argument);
+    bool Fail(std::string message);
+    bool FailAt(std::string message);
+
+    std::string_view text_;
+    ExpressionTable& table_;
+    std::string error_;
+    std::int32_t position_ = 0;  // of the character in hand, from 1; UTF-8 counts as characters
+    std::int32_t depth_ = 0;
+    std::size_t tokenStart_ = 0;
+    std::string comparison_;            // comparison signs that follow each other
+    std::string_view pendingFunction_;  // a name with two arguments that awaits its ";"
+    const Function* pendingRow_ = nullptr;
+    bool operatorSeen_ = false;  // this character ends the operand before it
+};
+
+// Number of "|" in the text.
+std::size_t CountAbsBars(std::string_view text);
+
+}  // namespace kelvra::parser

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parser/evaluation_plan.h"
+
+#include <array>
+#include <cmath>
+
+#include "parser/arithmetic.h"
+#include "parser/results.h"
+
+namespace kelvra::parser {
+
+namespace {
+
+double NoOperation(double, double) {
+    return Failed;
+}
+
+}  // namespace
+
+// Most of what formulas consist of are the basic operations, which cost less than a call does.
+void EvaluationPlan::Bind(Step& step, const Function* function) {
+    step.ofOne = function == nullptr ? nullptr : function->ofOne;
+    step.ofTwo = function == nullptr ? NoOperation : function->ofTwo;
+    step.kind = step.ofTwo == Sum          ? Kind::Sum
+                : step.ofTwo == Difference ? Kind::Difference
+                : step.ofTwo == Product    ? Kind::Product
+                : step.ofTwo == Ratio      ? Kind::Ratio
+                : step.ofTwo != nullptr    ? Kind::OfTwo
+                : step.ofOne != nullptr    ? Kind::OfOne
+                                           : Kind::Random;
+}
+
+inline double EvaluationPlan::Apply(const Step& step, double a, double b, util::Random& random) {
+    switch (step.kind) {
+        case Kind::Sum:
+            return Sum(a, b);
+        case Kind::Difference:
+            return Difference(a, b);
+        case Kind::Product:
+            return Product(a, b);
+        case Kind::Ratio:
+            return Ratio(a, b);
+        case Kind::OfOne:
+            return step.ofOne(a);
+        case Kind::OfTwo:
+            return step.ofTwo(a, b);
+        case Kind::Random:
+            return a * double{random.Next()};
+    }
+    return Failed;
+}
+
+void EvaluationPlan::Build(std::span<const ETEntry> table) {
+    std::array<std::size_t, MaxEntries + 1> stepOf{};
+    for (std::size_t k = 1; k < table.size(); ++k) stepOf[table[k].PriIdx] = k - 1;
+    steps_.resize(table.size() - 1);
+    feeds_.clear();
+    for (std::size_t k = 1; k < table.size(); ++k) {
+        const ETEntry& entry = table[k];
+        Step& step = steps_[stepOf[k]];
+        Bind(step, FindFunction(entry.Id));
+        step.takesLast = {};
+        step.value = entry.Value;
+        step.entry = static_cast<std::int32_t>(k);
+        step.receiver =
+            entry.ArgOf == 0 ? &result_ : &steps_[stepOf[entry.ArgOf]].arguments[entry.ArgIdx - 1];
+        for (std::size_t i = 0; i < entry.Arg.size(); ++i) {
+            step.arguments[i] = entry.Arg[i].Value;
+            if (entry.Arg[i].Idx != 0) feeds_.push_back({entry.Arg[i].Idx, &step.arguments[i]});
+        }
+    }
+    for (std::size_t k = 1; k < steps_.size(); ++k)
+        for (std::size_t i = 0; i < 2; ++i)
+            steps_[k].takesLast[i] = steps_[k - 1].receiver == &steps_[k].arguments[i];
+}
+
+void EvaluationPlan::Load(std::span<const ExprArg> variables) {
+    for (const Feed& feed : feeds_) *feed.argument = variables[feed.variable].Value;
+}
+
+void EvaluationPlan::Load(double value) {
+    for (const Feed& feed : feeds_) *feed.argument = value;
+}
+
+std::optional<double> EvaluationPlan::Run(util::Random& random) {
+    double value = 0;
+    for (Step& step : steps_) {
+        const double a = step.takesLast[0] ? value : step.arguments[0];
+        const double b = step.takesLast[1] ? value : step.arguments[1];
+        value = Apply(step, a, b, random);
+        if (!std::isfinite(value)) {
+            failed_ = static_cast<std::size_t>(&step - steps_.data());
+            return std::nullopt;
+        }
+        step.value = value;
+        *step.receiver = value;
+    }
+    return result_;
+}
+
+EvaluationPlan::Failure EvaluationPlan::LastFailure() const {
+    const Step& step = steps_[failed_];
+    return {step.entry, step.arguments[0], step.arguments[1]};
+}
+
+void EvaluationPlan::CopyValues(std::span<ETEntry> table) const {
+    for (const Step& step : steps_) {
+        ETEntry& entry = table[step.entry];
+        entry.Value = step.value;
+        for (std::size_t i = 0; i < entry.Arg.size(); ++i) entry.Arg[i].Value = step.arguments[i];
+    }
+}
+
+}  // namespace kelvra::parser

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A compiled table made ready to run many times: the operations in their order, side by side in
+// memory, bound to their functions and to the arguments they feed. Holds values, no texts.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "parser/expression_table.h"
+#include "parser/function_table.h"
+#include "util/random.h"
+
+namespace kelvra::parser {
+
+class EvaluationPlan {
+public:
+    // Takes over a compiled table (slot 0 is not used).
+    void Build(std::span<const ETEntry> table);
+
+    // Gives each argument that a variable feeds the variable's value, or all of them one value.
+    void Load(std::span<const ExprArg> variables);
+    void Load(double value);
+
+    // Runs the operations; the value of the last, or nothing when one has failed. Results are kept
+    // up to there.
+    std::optional<double> Run(util::Random& random);
+
+    // The operation that failed in the last run.
+    struct Failure {
+        std::int32_t entry;
+        double a, b;
+    };
+    Failure LastFailure() const;
+
+    // Writes values of arguments and results into the table the plan was built from.
+    void CopyValues(std::span<ETEntry> table) const;
+
+private:
+    enum class Kind { Sum, Difference, Product, Ratio, OfOne, OfTwo, Random };
+    struct Step {
+        Kind kind;
+        double (*ofOne)(double);
+        double (*ofTwo)(double, double);
+        std::array<double, 2> arguments;
+        // Which of them the step before feeds. Its result is at hand then; waiting for it to come
+        // through memory would take longer than the operation.
+        std::array<bool, 2> takesLast;
+        double value;
+        double* receiver;
+        std::int32_t entry;
+    };
+    static void Bind(Step& step, const Function* function);
+    static double Apply(const Step& step, double a, double b, util::Random& random);
+
+    struct Feed {
+        std::int32_t variable;
+        double* argument;
+    };
+
+    std::vector<Step> steps_;
+    std::vector<Feed> feeds_;
+    double result_ = 0;
+    std::size_t failed_ = 0;
+};
+
+}  // namespace kelvra::parser

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parser/math_parser.h"
+
+#include <utility>
+
+#include "parser/compiler.h"
+#include "parser/special_functions.h"
+#include "util/text.h"
+
+namespace kelvra::parser {
+
+MathParser::MathParser(util::Random& random, util::NumberForm form)
+    : random_(random), form_(std::move(form)) {
+    table_.ET.resize(1);
+    table_.Vars.resize(1);
+}
+
+bool MathParser::StoreExpression(std::string_view text) {
+    expression_.assign(util::TrimSpaces(text));
+    errorDescription_.clear();
+    stored_ = Compile();
+    return stored_;
+}
+
+bool MathParser::Compile() {
+    Compiler compiler(expression_, table_);
+    if (!compiler.Compile()) {
+        errorDescription_ = compiler.Error();
+        return false;
+    }
+    plan_.Build(table_.ET);
+    return true;
+}
+
+std::string_view MathParser::VarName(int i) const {
+    return IsVariable(i) ? table_.Vars[i].Name : std::string_view();
+}
+
+double MathParser::Eval() {
+    if (!stored_) return 0;
+    plan_.Load(table_.Vars);
+    return Run();
+}
+
+double MathParser::Eval1(double x) {
+    if (!stored_) return 0;
+    if (VarTop() > 1) {
+        errorDescription_ = "too many variables";
+        return 0;
+    }
+    plan_.Load(x);
+    return Run();
+}
+
+double MathParser::Zeta_(double s) {
+    return Zeta(s);
+}
+
+std::span<const ETEntry> MathParser::ET() {
+    if (stored_) plan_.CopyValues(table_.ET);
+    return table_.ET;
+}
+
+double MathParser::Run() {
+    const auto value = plan_.Run(random_);
+    if (!value) errorDescription_ = FailureText(plan_.LastFailure());
+    return value.value_or(0);
+}
+
+std::string MathParser::FailureText(const EvaluationPlan::Failure& failure) const {
+    const ETEntry& entry = table_.ET[failure.entry];
+    const std::string a = util::GeneralText(failure.a, form_);
+    const std::string b = util::GeneralText(failure.b, form_);
+    std::string operation;
+    if (entry.ArgTop == 1)
+        operation = entry.Fun + "(" + a + ")";
+    else if (IsInList(entry.Fun, NameList::TwoArguments))
+        operation = entry.Fun + "(" + a + " , " + b + ")";
+    else
+        operation = a + " " + entry.Fun + " " + b;
+    return "Evaluation error <" + operation +
+           "> at pos:" + util::NumberText(std::int64_t{entry.PosInExpr});
+}
+
+}  // namespace kelvra::parser

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Wall clock, monotonic clock and sleep. The computer's own is in platform/posix; SetClock is one
+// that moves only when it is told to, for repeatable runs and for tests.
+#pragma once
+
+#include <chrono>
+
+#include "platform/files.h"
+
+namespace kelvra::platform {
+
+using Duration = std::chrono::nanoseconds;
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    virtual LocalTime Now() = 0;
+    // Time since some fixed moment; never goes back.
+    virtual Duration Monotonic() = 0;
+    virtual void Sleep(Duration duration) = 0;
+};
+
+// Starts at a given local time; days have 24 hours (no summer time).
+class SetClock final : public Clock {
+public:
+    explicit SetClock(const LocalTime& start);
+
+    LocalTime Now() override;
+    Duration Monotonic() override { return elapsed_; }
+    void Sleep(Duration duration) override { Advance(duration); }
+
+    void Advance(Duration duration) { elapsed_ += duration; }
+    // Does nothing for a moment that is past.
+    void AdvanceTo(Duration monotonic);
+
+private:
+    std::chrono::sys_time<Duration> start_;
+    Duration elapsed_{0};
+};
+
+}  // namespace kelvra::platform

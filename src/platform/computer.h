@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The computer that the program runs on: where its files are, its command line, its locale, its
+// registry and its shared libraries.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/files.h"
+#include "util/number_text.h"
+
+namespace kelvra::platform {
+
+// A shared library in this process. Symbols stay valid as long as the object lives.
+class Library {
+public:
+    virtual ~Library() = default;
+    // Address of an exported function, null if there is none of that name.
+    virtual void* Find(const char* name) = 0;
+};
+
+struct LoadedLibrary {
+    std::unique_ptr<Library> library;  // null when it could not be loaded
+    std::string fileName;              // "libpsdrv_32.so": the file that was looked for
+    std::string why;                   // the system's words when it could not be loaded
+};
+
+// The program's version as its build says.
+struct ProgramVersion {
+    std::string product;
+    int major = 0, minor = 0, revision = 0;
+};
+
+struct ScreenSize {
+    int width = 0, height = 0;  // twips
+};
+
+class Computer {
+public:
+    virtual ~Computer() = default;
+
+    // Folder of the application's own files (the INI file, help), without a separator at the end.
+    virtual std::string ProgramFolder() = 0;
+    // A path of the original's drive C, "C:\DebugKelvra.txt", as it is on this computer.
+    virtual std::string DrivePath(const std::string& windowsPath) = 0;
+    virtual std::string Join(const std::string& folder, const std::string& name) = 0;
+    // The words after the program's name, joined by blanks.
+    virtual std::string CommandLine() = 0;
+    virtual ProgramVersion Version() = 0;
+    // Local time of the program file: the .EXE in the program folder, else the running program.
+    virtual std::optional<LocalTime> ProgramFileDate() = 0;
+
+    virtual const util::NumberForm& Numbers() = 0;
+    virtual std::string DateText(const LocalTime& time) = 0;  // the locale's short form
+    virtual std::string TimeText(const LocalTime& time) = 0;
+
+    // By the library's plain name ("psdrv_32"), from the driver folder, then the folder of the
+    // running program; nowhere else.
+    virtual LoadedLibrary LoadDriverLibrary(const std::string& name) = 0;
+
+    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front. A failed write is ignored.
+    virtual void WriteRegistry(const std::string& key, const std::string& name,
+                               const std::string& value) = 0;
+
+    virtual ScreenSize Screen() = 0;
+};
+
+}  // namespace kelvra::platform

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/file_tools.h"
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+
+#include "util/text.h"
+
+namespace kelvra::platform {
+
+namespace {
+
+constexpr std::size_t ChunkSize = 64 * 1024;
+
+std::error_code ReadAll(Files& files, Files::Handle handle, std::string& bytes) {
+    std::string chunk(ChunkSize, '\0');
+    for (;;) {
+        std::size_t read = 0;
+        if (const auto error = files.Read(handle, chunk.data(), chunk.size(), read)) return error;
+        if (read == 0) return {};
+        if (read > LargestFile - bytes.size()) return make_error_code(std::errc::file_too_large);
+        bytes.append(chunk, 0, read);
+    }
+}
+
+std::error_code WriteAll(Files& files, Files::Handle handle, std::string_view bytes) {
+    while (!bytes.empty()) {
+        std::size_t written = 0;
+        if (const auto error = files.Write(handle, bytes, written)) return error;
+        // A device that takes nothing and complains of nothing would keep us here for ever.
+        if (written == 0) return make_error_code(std::errc::io_error);
+        bytes.remove_prefix(written);
+    }
+    return {};
+}
+
+// Closes the file after work that ended with `error`; the first of the two errors counts.
+std::error_code CloseAfter(std::error_code error, Files& files, Files::Handle handle) {
+    const auto closing = files.Close(handle);
+    return error ? error : closing;
+}
+
+// A new file beside the target. The name is of its own, so that a long file name stays possible,
+// and is taken from the time, so that files left by a crash don't use up the names.
+std::error_code CreateBeside(Files& files, const std::string& target, std::string& path,
+                             Files::Handle& handle) {
+    constexpr int Attempts = 16;
+    const auto ticks = std::chrono::system_clock::now().time_since_epoch().count();
+    std::error_code error;
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        const auto number = static_cast<std::uint32_t>(ticks + attempt);
+        const std::string name = "kelvra-" + util::HexText(number) + ".tmp";
+        path = std::filesystem::path(target).replace_filename(name).string();
+        error = files.Open(path, Files::Mode::Create, handle);
+        if (error != std::errc::file_exists) break;
+    }
+    return error;
+}
+
+// Permissions come first: what only its owner may read never stands open to others.
+std::error_code Fill(Files& files, Files::Handle handle, const std::string& old,
+                     std::string_view bytes) {
+    if (files.Exists(old))
+        if (const auto error = files.CopyPermissions(old, handle)) return error;
+    if (const auto error = WriteAll(files, handle, bytes)) return error;
+    return files.Sync(handle);
+}
+
+}  // namespace
+
+std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes) {
+    bytes.clear();
+    Files::Handle handle = -1;
+    if (const auto error = files.Open(path, Files::Mode::Read, handle)) return error;
+    const auto error = CloseAfter(ReadAll(files, handle, bytes), files, handle);
+    if (error) bytes.clear();
+    return error;
+}
+
+std::error_code ReplaceFile(Files& files, const std::string& path, std::string_view bytes) {
+    const std::string target = files.ResolveLinks(path);
+    if (files.Exists(target) && !files.Writable(target))
+        return make_error_code(std::errc::permission_denied);
+
+    std::string temporary;
+    Files::Handle handle = -1;
+    if (const auto error = CreateBeside(files, target, temporary, handle)) return error;
+
+    auto error = CloseAfter(Fill(files, handle, target, bytes), files, handle);
+    if (!error) error = files.Rename(temporary, target);
+    if (error) {
+        // Whether this succeeds or not, the error that brought us here is the one to report.
+        files.Remove(temporary);
+        return error;
+    }
+    return files.SyncFolderOf(target);
+}
+
+std::error_code AppendToFile(Files& files, const std::string& path, std::string_view bytes) {
+    Files::Handle handle = -1;
+    if (const auto error = files.Open(path, Files::Mode::Append, handle)) return error;
+    return CloseAfter(WriteAll(files, handle, bytes), files, handle);
+}
+
+}  // namespace kelvra::platform

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole files over the single operations of Files: read all, replace all or nothing, append.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "platform/files.h"
+
+namespace kelvra::platform {
+
+// More than any settings file or script has; keeps a device that never ends from filling the
+// memory.
+constexpr std::size_t LargestFile = 256 * 1024 * 1024;
+
+// All bytes of the file, none after an error. A missing file is an error
+// (no_such_file_or_directory) like any other; one above LargestFile is file_too_large.
+std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes);
+
+// The file holds the old bytes or the new ones, whole, whenever and wherever this stops: they are
+// written to a temporary file beside it, synced, and renamed over it. An error leaves the old file
+// and no temporary one; only if the very last step fails, the folder's sync, the new file stands
+// already. Links are followed, permissions kept, a read-only file is refused.
+std::error_code ReplaceFile(Files& files, const std::string& path, std::string_view bytes);
+
+// Opens, appends and closes; makes a missing file. An error may leave a part of the bytes.
+std::error_code AppendToFile(Files& files, const std::string& path, std::string_view bytes);
+
+}  // namespace kelvra::platform

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The few file operations that Kelvra needs, one virtual function each, so that a test can make the
+// n-th one fail, be short, or stop the program. Whole-file work is in file_tools.h.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace kelvra::platform {
+
+// Local time, to the millisecond.
+struct LocalTime {
+    int year = 1970, month = 1, day = 1;  // month and day from 1
+    int hour = 0, minute = 0, second = 0, ms = 0;
+
+    double SecondsSinceMidnight() const {
+        return hour * 3600.0 + minute * 60.0 + second + ms / 1000.0;
+    }
+};
+
+class Files {
+public:
+    enum class Mode {
+        Read,
+        Create,
+        Append
+    };  // Create: must not exist yet; Append: made if missing
+
+    // A file or folder that is open; -1 is none.
+    using Handle = int;
+
+    virtual ~Files() = default;
+
+    virtual std::error_code Open(const std::string& path, Mode mode, Handle& handle) = 0;
+    // Up to `size` bytes; 0 at the end of the file.
+    virtual std::error_code Read(Handle handle, char* bytes, std::size_t size,
+                                 std::size_t& read) = 0;
+    // Up to all of the bytes: may write fewer.
+    virtual std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) = 0;
+    virtual std::error_code Sync(Handle handle) = 0;
+    virtual std::error_code Close(Handle handle) = 0;
+    virtual std::error_code Rename(const std::string& from, const std::string& to) = 0;
+    virtual std::error_code Remove(const std::string& path) = 0;
+    // Makes the contents of the folder that holds the path survive a power cut.
+    virtual std::error_code SyncFolderOf(const std::string& path) = 0;
+    // The new file gets the permissions of the old one.
+    virtual std::error_code CopyPermissions(const std::string& from, Handle to) = 0;
+    // The file that a chain of links ends at; the path itself where there is no link.
+    virtual std::string ResolveLinks(const std::string& path) = 0;
+    virtual bool Exists(const std::string& path) = 0;
+    // False for a file that is there and may not be written.
+    virtual bool Writable(const std::string& path) = 0;
+    virtual std::error_code MakeFolders(const std::string& path) = 0;
+    // Local time of the last change, nothing for a file that is not there.
+    virtual std::optional<LocalTime> ModifiedAt(const std::string& path) = 0;
+};
+
+}  // namespace kelvra::platform

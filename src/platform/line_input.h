@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lines of a file or of standard input, one at a time and never read ahead, so that whoever writes them
+// can wait for what a line did before writing the next.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/clock.h"
+
+namespace kelvra::platform {
+
+class LineInput {
+public:
+    enum class Result {
+        Line,
+        NotYet,   // no complete line within the patience
+        End,
+        TooLong,  // more than LongestLine bytes without an end
+        Failed,
+    };
+    static constexpr std::size_t LongestLine = 16 << 20;
+
+    virtual ~LineInput() = default;
+
+    // Waits up to `patience` for a complete line, without its end (LF or CR LF). A last line without
+    // an end counts. Returns early, with NotYet, when a signal comes.
+    virtual Result Read(std::string& line, Duration patience) = 0;
+};
+
+}  // namespace kelvra::platform

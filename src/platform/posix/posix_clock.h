@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The computer's own clocks.
+#pragma once
+
+#include "platform/clock.h"
+
+namespace kelvra::platform {
+
+class PosixClock final : public Clock {
+public:
+    LocalTime Now() override;
+    Duration Monotonic() override;
+    // Sleeps on through signals; returns at once for no or a negative duration.
+    void Sleep(Duration duration) override;
+};
+
+}  // namespace kelvra::platform

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/posix/posix_computer.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include "platform/posix/posix_library.h"
+#include "platform/profile_file.h"
+
+namespace kelvra::platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* RunningProgram = "/proc/self/exe";
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string() : value;
+}
+
+// Nothing stays nothing. Without a separator at the end.
+std::string Absolute(const std::string& folder) {
+    if (folder.empty()) return {};
+    std::error_code noCurrentFolder;
+    const fs::path absolute = fs::absolute(folder, noCurrentFolder).lexically_normal();
+    const std::string path = noCurrentFolder ? folder : absolute.string();
+    return path.size() > 1 && path.ends_with('/') ? path.substr(0, path.size() - 1) : path;
+}
+
+std::string HomeFolder() {
+    if (const std::string home = Environment("HOME"); !home.empty()) return home;
+    const passwd* user = ::getpwuid(::getuid());
+    return user == nullptr ? "/" : user->pw_dir;
+}
+
+std::string DataFolder(const std::string& option) {
+    if (!option.empty()) return option;
+    if (const std::string own = Environment("KELVRA_DATA_DIR"); !own.empty()) return own;
+    // A relative XDG_DATA_HOME is void, as its makers have it.
+    const fs::path shared = Environment("XDG_DATA_HOME");
+    const fs::path base = shared.is_absolute() ? shared : fs::path(HomeFolder()) / ".local/share";
+    return (base / "kelvra").string();
+}
+
+// A folder that is not absolute would leave the choice to the current folder: it is left out.
+std::vector<std::string> DriverFolders(const std::string& option) {
+    const std::string chosen = option.empty() ? Environment("KELVRA_DRIVER_DIR") : option;
+    std::error_code unknown;
+    const fs::path program = fs::read_symlink(RunningProgram, unknown);
+    std::vector<std::string> folders{Absolute(chosen), program.parent_path().string()};
+    std::erase_if(folders, [](const std::string& folder) { return !folder.starts_with('/'); });
+    return folders;
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+    std::string line;
+    for (const std::string& word : words) line += line.empty() ? word : ' ' + word;
+    return line;
+}
+
+}  // namespace
+
+PosixComputer::PosixComputer(Files& files, const ComputerOptions& options)
+    : files_(files),
+      dataDir_(Absolute(DataFolder(options.dataDir))),
+      driverFolders_(DriverFolders(options.driverDir)),
+      commandLine_(Joined(options.commandLine)),
+      version_(options.version),
+      dataFolderError_(files_.MakeFolders(dataDir_)) {}
+
+std::string PosixComputer::DrivePath(const std::string& windowsPath) {
+    if (windowsPath.size() < 3 || windowsPath[1] != ':') return windowsPath;
+    std::string below = windowsPath.substr(3);
+    std::replace(below.begin(), below.end(), '\\', '/');
+    return Join(dataDir_, below);
+}
+
+std::string PosixComputer::Join(const std::string& folder, const std::string& name) {
+    return folder.ends_with('/') ? folder + name : folder + '/' + name;
+}
+
+std::optional<LocalTime> PosixComputer::ProgramFileDate() {
+    const auto original = files_.ModifiedAt(Join(dataDir_, "Kelvra.EXE"));
+    return original ? original : files_.ModifiedAt(RunningProgram);
+}
+
+LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {
+    LoadedLibrary loaded;
+    loaded.fileName = "lib" + name + ".so";
+    std::string searched;
+    for (const std::string& folder : driverFolders_) {
+        const std::string path = Join(folder, loaded.fileName);
+        if (files_.Exists(path)) {
+            loaded.library = LoadLibrary(path, loaded.why);
+            return loaded;
+        }
+        searched += searched.empty() ? folder : ", " + folder;
+    }
+    loaded.why = "not found in " + searched;
+    return loaded;
+}
+
+void PosixComputer::WriteRegistry(const std::string& key, const std::string& name,
+                                  const std::string& value) {
+    ProfileFile registry(files_, Join(dataDir_, "registry.ini"));
+    registry.Text().Write(key, name, value);
+    registry.Save();  // a failed write is ignored, as the interface says
+}
+
+ScreenSize PosixComputer::Screen() {
+    constexpr int TwipsPerPixel = 15;
+    return {1280 * TwipsPerPixel, 800 * TwipsPerPixel};
+}
+
+}  // namespace kelvra::platform

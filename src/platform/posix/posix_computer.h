@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A computer of this family of systems. One data folder stands for the program folder, for drive C
+// and for the registry.
+#pragma once
+
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "platform/computer.h"
+#include "platform/files.h"
+#include "platform/native.h"
+#include "platform/posix/posix_locale.h"
+
+namespace kelvra::platform {
+
+class PosixComputer final : public Computer {
+public:
+    // Makes the data folder if it is missing. Relative folders are taken from the current one, now.
+    PosixComputer(Files& files, const ComputerOptions& options);
+
+    // Why the data folder could not be made. Whatever is written there will fail as well.
+    const std::error_code& DataFolderError() const { return dataFolderError_; }
+
+    std::string ProgramFolder() override { return dataDir_; }
+    // A path that is on no drive stays as it is.
+    std::string DrivePath(const std::string& windowsPath) override;
+    std::string Join(const std::string& folder, const std::string& name) override;
+    std::string CommandLine() override { return commandLine_; }
+    ProgramVersion Version() override { return version_; }
+    std::optional<LocalTime> ProgramFileDate() override;
+
+    const util::NumberForm& Numbers() override { return locale_.Numbers(); }
+    std::string DateText(const LocalTime& time) override { return locale_.DateText(time); }
+    std::string TimeText(const LocalTime& time) override { return locale_.TimeText(time); }
+
+    // The first folder that has the file decides, whether it loads or not.
+    LoadedLibrary LoadDriverLibrary(const std::string& name) override;
+
+    // A section for each key, in "registry.ini" of the data folder.
+    void WriteRegistry(const std::string& key, const std::string& name,
+                       const std::string& value) override;
+
+    // A usual size; a front end that has a screen knows better.
+    ScreenSize Screen() override;
+
+private:
+    Files& files_;
+    std::string dataDir_;
+    std::vector<std::string> driverFolders_;  // absolute, in the order of the search
+    std::string commandLine_;
+    ProgramVersion version_;
+    PosixLocale locale_;
+    std::error_code dataFolderError_;
+};
+
+}  // namespace kelvra::platform

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/posix/posix_files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+#include "platform/posix/local_time.h"
+
+namespace kelvra::platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+// What a call says with 0 or -1.
+std::error_code Outcome(int result) {
+    return result == 0 ? std::error_code() : LastError();
+}
+
+template <typename Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR) result = call();
+    return result;
+}
+
+int OpenFlags(Files::Mode mode) {
+    switch (mode) {
+        case Files::Mode::Create:
+            return O_WRONLY | O_CREAT | O_EXCL;
+        case Files::Mode::Append:
+            return O_WRONLY | O_CREAT | O_APPEND;
+        case Files::Mode::Read:
+            break;
+    }
+    return O_RDONLY;
+}
+
+std::error_code OpenWith(const std::string& path, int flags, Files::Handle& handle) {
+    handle = Uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, 0666); });
+    return handle == -1 ? LastError() : std::error_code();
+}
+
+// For reads and writes: how many bytes there were, or -1.
+std::error_code Counted(ssize_t result, std::size_t& count) {
+    count = result < 0 ? 0 : static_cast<std::size_t>(result);
+    return result < 0 ? LastError() : std::error_code();
+}
+
+}  // namespace
+
+std::error_code PosixFiles::Open(const std::string& path, Mode mode, Handle& handle) {
+    return OpenWith(path, OpenFlags(mode), handle);
+}
+
+std::error_code PosixFiles::Read(Handle handle, char* bytes, std::size_t size, std::size_t& read) {
+    return Counted(Uninterrupted([&] { return ::read(handle, bytes, size); }), read);
+}
+
+std::error_code PosixFiles::Write(Handle handle, std::string_view bytes, std::size_t& written) {
+    return Counted(Uninterrupted([&] { return ::write(handle, bytes.data(), bytes.size()); }),
+                   written);
+}
+
+std::error_code PosixFiles::Sync(Handle handle) {
+    return Outcome(Uninterrupted([&] { return ::fsync(handle); }));
+}
+
+std::error_code PosixFiles::Close(Handle handle) {
+    // Interrupted or not, the handle is gone: a second call might close somebody else's file.
+    const auto error = Outcome(::close(handle));
+    return error == std::errc::interrupted ? std::error_code() : error;
+}
+
+std::error_code PosixFiles::Rename(const std::string& from, const std::string& to) {
+    return Outcome(std::rename(from.c_str(), to.c_str()));
+}
+
+std::error_code PosixFiles::Remove(const std::string& path) {
+    return Outcome(::unlink(path.c_str()));
+}
+
+std::error_code PosixFiles::SyncFolderOf(const std::string& path) {
+    const fs::path folder = fs::path(path).parent_path();
+    Handle handle = -1;
+    if (const auto error =
+            OpenWith(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY, handle))
+        return error;
+    const auto error = Sync(handle);
+    const auto closing = Close(handle);
+    // Some file systems have nothing to sync in a folder and say so.
+    if (error && error != std::errc::invalid_argument) return error;
+    return closing;
+}
+
+std::error_code PosixFiles::CopyPermissions(const std::string& from, Handle to) {
+    struct stat old {};
+    if (::stat(from.c_str(), &old) != 0) return LastError();
+    // Before the permissions, which a change of owner may reduce.
+    for (const auto& [owner, group] : {std::pair<uid_t, gid_t>(-1, old.st_gid), {old.st_uid, -1}})
+        if (::fchown(to, owner, group) != 0 && errno != EPERM) return LastError();
+    return Outcome(Uninterrupted([&] { return ::fchmod(to, old.st_mode & 07777); }));
+}
+
+std::string PosixFiles::ResolveLinks(const std::string& path) {
+    constexpr int MostLinks = 40;
+    fs::path current(path);
+    for (int followed = 0; followed < MostLinks; ++followed) {
+        std::error_code noLink;
+        const fs::path target = fs::read_symlink(current, noLink);
+        if (noLink) return current.string();
+        current = current.parent_path() / target;  // an absolute target stands alone
+    }
+    return path;  // links in a circle lead nowhere
+}
+
+bool PosixFiles::Exists(const std::string& path) {
+    struct stat file {};
+    return ::stat(path.c_str(), &file) == 0;
+}
+
+bool PosixFiles::Writable(const std::string& path) {
+    struct stat file {};
+    return ::stat(path.c_str(), &file) == 0 && (file.st_mode & 0222) != 0 &&
+           ::access(path.c_str(), W_OK) == 0;
+}
+
+std::error_code PosixFiles::MakeFolders(const std::string& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    return error;
+}
+
+std::optional<LocalTime> PosixFiles::ModifiedAt(const std::string& path) {
+    struct stat file {};
+    if (::stat(path.c_str(), &file) != 0) return std::nullopt;
+    return LocalTimeOf(file.st_mtim);
+}
+
+}  // namespace kelvra::platform

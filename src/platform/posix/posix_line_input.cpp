@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/posix/posix_line_input.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <limits>
+#include <utility>
+
+namespace kelvra::platform {
+
+namespace {
+
+// In milliseconds, rounded up, as poll wants it.
+int PollTime(Duration patience) {
+    const auto ms = std::chrono::ceil<std::chrono::milliseconds>(patience).count();
+    if (ms <= 0) return 0;
+    return ms > std::numeric_limits<int>::max() ? std::numeric_limits<int>::max()
+                                                : static_cast<int>(ms);
+}
+
+}  // namespace
+
+PosixLineInput::~PosixLineInput() {
+    if (own_) ::close(descriptor_);
+}
+
+LineInput::Result PosixLineInput::Read(std::string& line, Duration patience) {
+    using Steady = std::chrono::steady_clock;
+    const auto start = Steady::now();
+    while (!ended_) {
+        pollfd input{descriptor_, POLLIN, 0};
+        const auto left = patience - (Steady::now() - start);
+        const int ready = ::poll(&input, 1, PollTime(left));
+        if (ready < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
+        if (ready == 0) return Result::NotYet;
+        char byte = 0;
+        const ssize_t got = ::read(descriptor_, &byte, 1);
+        if (got < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
+        if (got == 0) {
+            ended_ = true;
+            if (!partial_.empty()) return Take(line);
+            break;
+        }
+        if (byte == '\n') return Take(line);
+        if (partial_.size() == LongestLine) return Result::TooLong;
+        partial_ += byte;
+    }
+    return Result::End;
+}
+
+LineInput::Result PosixLineInput::Take(std::string& line) {
+    line = std::exchange(partial_, {});
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    return Result::Line;
+}
+
+}  // namespace kelvra::platform

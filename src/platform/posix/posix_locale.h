@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the user writes numbers, dates and times, as the environment says. The process's own locale
+// stays "C", so that no library call changes its meaning.
+#pragma once
+
+#include <locale.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+#include "platform/files.h"
+#include "util/number_text.h"
+
+namespace kelvra::platform {
+
+class PosixLocale {
+public:
+    // By its name; the empty name is the one of the environment (LC_ALL, LC_..., LANG). "C" stands
+    // in for a locale that the system doesn't have.
+    explicit PosixLocale(const char* name = "");
+
+    const util::NumberForm& Numbers() const { return numbers_; }
+    std::string DateText(const LocalTime& time) const { return Text("%x", time); }
+    std::string TimeText(const LocalTime& time) const { return Text("%X", time); }
+
+private:
+    struct Free {
+        void operator()(locale_t locale) const { ::freelocale(locale); }
+    };
+
+    std::string Text(const char* pattern, const LocalTime& time) const;
+
+    std::unique_ptr<std::remove_pointer_t<locale_t>, Free>
+        locale_;  // null if there is not even "C"
+    util::NumberForm numbers_;
+};
+
+}  // namespace kelvra::platform

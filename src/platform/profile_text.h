@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Profile strings (the text of an INI file): sections of key=value lines, edited in place with one
+// pass over the text. Lines that are not concerned keep their bytes, whatever these are. Where the
+// text comes from and goes to is ProfileFile's business.
+//
+// The rules are those of the Windows profile functions: names without regard to ASCII case, the
+// first section and in it the first key of a name win, blanks around names and values are not part
+// of them, one pair of quotes around a value is taken off when reading, nothing is escaped when
+// writing, a value that is there already changes nothing.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace kelvra::platform {
+
+class ProfileText {
+public:
+    explicit ProfileText(std::string bytes = {});
+
+    // The value as a caller's buffer of 750 characters with its NUL would hold it: 749 bytes at
+    // most. The fallback, cut alike, stands in for a key that is not there.
+    static constexpr std::size_t BufferSize = 750;
+    std::string Read(std::string_view section, std::string_view key,
+                     std::string_view fallback) const;
+
+    void Write(std::string_view section, std::string_view key, std::string_view value);
+    void DeleteKey(std::string_view section, std::string_view key);
+
+    const std::string& Bytes() const { return bytes_; }
+    bool Changed() const { return changed_; }  // since construction
+
+private:
+    // A line that is not blank. Its parts count from its beginning, so that an edit before it moves
+    // nothing else.
+    struct Line {
+        std::size_t begin = 0;
+        std::size_t valueAt = 0;  // behind the "="; 0 in a line that holds no key
+        std::size_t end = 0;      // before the line break, if it has one
+    };
+
+    // The first section of its name. Keys are lower-cased, lines are indices into lines_.
+    struct Section {
+        std::size_t lastLine = 0;
+        std::unordered_map<std::string, std::size_t> keys;
+    };
+
+    void BuildIndex();
+    void IndexFrom(std::size_t begin, std::size_t end, Section* section);
+    Section* IndexSection(std::string_view name, const Line& line);
+    void IndexLine(Section& section, Line line);
+    Line LineAt(std::size_t begin) const;
+    std::size_t Behind(const Line& line) const;  // where the next line begins
+
+    static std::string NameKey(std::string_view name);  // trimmed and lower-cased
+    const Line* FindKey(std::string_view section, std::string_view key) const;
+    std::string_view TextOf(const Line& line) const;
+    std::string_view ValueOf(const Line& line) const;
+
+    void ReplaceValue(Line& line, std::string_view value);
+    void AddKey(Section& section, std::string_view key, std::string_view value);
+    void AddSection(std::string_view section, std::string_view key, std::string_view value);
+    void Replace(std::size_t at, std::size_t count, std::string_view text);
+
+    std::string bytes_;
+    bool changed_ = false;
+    std::vector<Line> lines_;                            // of the sections below, in any order
+    std::unordered_map<std::string, Section> sections_;  // by lower-cased name
+};
+
+}  // namespace kelvra::platform

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The last thirty readings of one channel, or of one time slot, and their spread. Knows nothing of
+// sensors; who reads and when is the cycle's business.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+
+namespace kelvra::sensors {
+
+class ReadingRing {
+public:
+    static constexpr int Length = 30;
+
+    // Takes a power in W, of either sign.
+    void Add(double powerW);
+    void Reset() { *this = ReadingRing(); }
+
+    // The ring itself, unused places 0; where the last reading stands (-1: there is none yet); and
+    // whether writing has started over at the front.
+    std::span<const double, Length> Values() const { return values_; }
+    int Index() const { return index_; }
+    bool Wrapped() const { return wrapped_; }
+
+    // Thirty readings are there.
+    bool Full() const { return wrapped_ || index_ == Length - 1; }
+
+    // Levels in dBm of the magnitudes of the readings, place by place.
+    std::span<const double, Length> Levels() const { return levels_; }
+    // Level of the last reading; there must be one.
+    double LastLevel() const { return levels_[static_cast<std::size_t>(index_)]; }
+
+    // Sample standard deviation (divided by n - 1) of the levels in dB; nothing before the ring is
+    // full. The levels are kept as they come, so that a reading costs one logarithm.
+    std::optional<double> Sigma() const;
+
+private:
+    std::array<double, Length> values_{};
+    std::array<double, Length> levels_{};
+    int index_ = -1;
+    bool wrapped_ = false;
+};
+
+}  // namespace kelvra::sensors

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The table of sensor positions that the whole application shares, and what belongs to a position
+// beside its entry: display limits and the latest readings. Channel = slot index + 1.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sensors/sensor_entry.h"
+
+namespace kelvra::sensors {
+
+// Limits of the displays' vertical axes for one slot, in dBm.
+struct DisplayScaling {
+    bool AutoScaleScope = false;
+    bool AutoScaleTime = false;
+    double MinScope = -65;
+    double MaxScope = 5;
+    double MinTime = -65;
+    double MaxTime = 5;
+};
+
+struct SensorTable {
+    static constexpr std::int16_t DefaultSlotCount = 8;
+
+    // Slots 0 .. SensorSlotCount - 1 and one spare element, which is always empty.
+    std::vector<SensorEntry> Sensors;
+    std::int16_t SensorSlotCount = 0;
+    std::int16_t CurrentSensor = 0;
+    bool SimulationMode = false;
+
+    bool DeviceTableChanged = false;  // asks discovery to switch sensors on and refresh the lists
+
+    std::vector<DisplayScaling> Scaling;                // one for each place of the device list, or more
+    std::vector<std::array<double, 2>> SlotReadings;  // latest scalar reading: W, dBm
+
+    // The slots in use, without the spare element.
+    int Slots() const { return SensorSlotCount; }
+    SensorEntry& operator[](int slot) { return Sensors[static_cast<std::size_t>(slot)]; }
+    const SensorEntry& operator[](int slot) const { return Sensors[static_cast<std::size_t>(slot)]; }
+
+    // The table with that many slots (1 .. 32767): what is kept stays, new elements are set up. A locked
+    // table is not resized; trying to is an error of the caller, which a debug build stops at.
+    void Resize(int slots);
+    void ResizeScaling(int elements);
+
+    // Everything that belongs to the two slots changes places; CurrentSensor follows its sensor.
+    void SwapSlots(int a, int b);
+
+    // Slot of the first sensor that is present and enabled and has that name, -1 if there is none.
+    int FindMeasured(std::string_view logicalName) const;
+
+    // Whether the user has switched this sensor off in this run; a simulated one goes by its resource.
+    bool SwitchedOff(const SensorEntry& entry) const;
+    void RememberSwitch(const SensorEntry& entry);
+
+    int locks = 0;
+
+private:
+    std::set<std::string> switchedOff_;
+};
+
+// Holds the table against resizing while an entry is handed to other routines by reference.
+class TableLock {
+public:
+    explicit TableLock(SensorTable& table) : table_(table) { ++table_.locks; }
+    ~TableLock() { --table_.locks; }
+    TableLock(const TableLock&) = delete;
+    TableLock& operator=(const TableLock&) = delete;
+
+private:
+    SensorTable& table_;
+};
+
+// Makes the working arrays of the slot ready for its mode: time slot statistics (time slot mode), the
+// ring of readings (continuous average, burst); the other modes have none.
+void PrepareWorkArrays(SensorTable& table, int slot);
+
+// The slot gives its sensor up: switched off, session closed, identity empty, no longer present.
+void ReleaseSlot(SensorEntry& entry);
+
+}  // namespace kelvra::sensors

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/sensor_name.h"
+
+#include <string>
+
+#include "driver/session.h"
+#include "util/number_text.h"
+#include "util/text.h"
+
+namespace kelvra::ui {
+
+namespace {
+constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
+}  // namespace
+
+SensorName::SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
+                       measure::ResultTable& results, measure::SensorSelection& selection)
+    : forms_(forms), table_(table), host_(host), results_(results), selection_(selection) {
+    forms_.setupForm.SensLogicalName.Commit.Connect(
+        [this] { StoreLogicalName(table_.CurrentSensor); });
+}
+
+void SensorName::StoreLogicalName(int slot) {
+    controls::TextBox& box = forms_.setupForm.SensLogicalName;
+    if (box.Text().empty())
+        box.SetText(util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)}));
+    sensors::SensorEntry& entry = table_[slot];
+    entry.LogicalName = box.Text();
+    host_.computer.WriteRegistry(NamesKey, entry.SensorId,
+                                 std::string(util::TrimSpaces(entry.LogicalName)));
+    if (entry.Enabled) results_.PaintName(slot);
+    selection_.UpdateSensSelect();
+}
+
+}  // namespace kelvra::ui

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The user's own name for a sensor: typed in the setup dialog, kept where the device-list library
+// finds it again.
+#pragma once
+
+#include "forms/forms.h"
+#include "measure/result_table.h"
+#include "measure/sensor_selection.h"
+#include "platform/host.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::ui {
+
+class SensorName {
+public:
+    // Connects to the commit of the dialog's name box.
+    SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
+               measure::ResultTable& results, measure::SensorSelection& selection);
+
+    // Takes the name box's text for the slot; an empty one becomes the channel number. A name that
+    // can't be stored is the sensor's name until discovery reads the old one again.
+    void StoreLogicalName(int slot);
+
+private:
+    forms::Forms& forms_;
+    sensors::SensorTable& table_;
+    platform::Host& host_;
+    measure::ResultTable& results_;
+    measure::SensorSelection& selection_;
+};
+
+}  // namespace kelvra::ui

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "util/number_reading.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace kelvra::util {
+
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t SkipDigits(std::string_view text, std::size_t position) {
+    while (position < text.size() && IsDigit(text[position])) ++position;
+    return position;
+}
+
+// End of "E", sign, digits at the position; the position itself when that is no exponent.
+std::size_t SkipExponent(std::string_view text, std::size_t position) {
+    if (position >= text.size() || (text[position] != 'E' && text[position] != 'e')) return position;
+    std::size_t digits = position + 1;
+    if (digits < text.size() && (text[digits] == '+' || text[digits] == '-')) ++digits;
+    const std::size_t end = SkipDigits(text, digits);
+    return end == digits ? position : end;
+}
+
+// A number out of the range of double: which side it left, told by its decimal exponent.
+double OutOfRange(std::string_view number) {
+    const bool negative = number.front() == '-';
+    const auto exponentAt = number.find_first_of("Ee");
+    const bool below = exponentAt == std::string_view::npos
+                           ? number.find_first_of("123456789") > number.find('.')
+                           : number[exponentAt + 1] == '-';
+    const double magnitude = below ? 0 : std::numeric_limits<double>::infinity();
+    return negative ? -magnitude : magnitude;
+}
+
+template <class Int>
+std::optional<Int> RoundTo(double value) {
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= std::numeric_limits<Int>::min() && rounded <= std::numeric_limits<Int>::max()))
+        return std::nullopt;
+    return static_cast<Int>(rounded);
+}
+
+}  // namespace
+
+NumberRead ReadNumberAt(std::string_view text) {
+    const auto start = text.find_first_not_of(' ');
+    if (start == std::string_view::npos) return {};
+    std::size_t digits = start;
+    if (text[digits] == '+' || text[digits] == '-') ++digits;
+    std::size_t end = SkipDigits(text, digits);
+    std::size_t digitCount = end - digits;
+    if (end < text.size() && text[end] == '.') {
+        const std::size_t fractionEnd = SkipDigits(text, end + 1);
+        digitCount += fractionEnd - end - 1;
+        end = fractionEnd;
+    }
+    if (digitCount == 0) return {};
+    end = SkipExponent(text, end);
+
+    const std::size_t first = text[start] == '+' ? start + 1 : start;
+    const std::string_view number = text.substr(first, end - first);
+    double value = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec == std::errc::result_out_of_range) value = OutOfRange(number);
+    return {value, end};
+}
+
+double ReadNumber(std::string_view text) { return ReadNumberAt(text).value; }
+
+std::optional<std::int64_t> ReadWholeNumber(std::string_view text) {
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    std::int64_t value = 0;
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    if (result.ec != std::errc{} || result.ptr != end) return std::nullopt;
+    return value;
+}
+
+std::optional<std::int16_t> RoundToInt16(double value) { return RoundTo<std::int16_t>(value); }
+std::optional<std::int32_t> RoundToInt32(double value) { return RoundTo<std::int32_t>(value); }
+
+}  // namespace kelvra::util

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/posix/posix_computer.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "platform/posix/posix_clock.h"
+#include "platform/posix/posix_files.h"
+#include "support/temp_folder.h"
+
+namespace kelvra::platform {
+
+class PosixComputerTest : public testing::Test {
+protected:
+    PosixComputer Make(const std::string& driverDir = {}) {
+        return {files_, {folder_.Path("data/"), driverDir, {"DEBUG", "x"}, {"Kelvra", 1, 2, 3}}};
+    }
+
+    test::TempFolder folder_;
+    PosixFiles files_;
+};
+
+TEST_F(PosixComputerTest, PutsProgramFolderAndDriveIntoTheDataFolder) {
+    PosixComputer computer = Make();
+    EXPECT_EQ(computer.ProgramFolder(), folder_.Path("data"));
+    EXPECT_EQ(folder_.Names(), std::set<std::string>{"data"});
+    EXPECT_EQ(computer.DrivePath("C:\\a\\b.txt"), folder_.Path("data/a/b.txt"));
+    EXPECT_EQ(computer.CommandLine(), "DEBUG x");
+    EXPECT_TRUE(computer.ProgramFileDate().has_value());  // of this test
+    folder_.Put("data/Kelvra.EXE", "");
+    const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::years(3);
+    std::filesystem::last_write_time(folder_.Path("data/Kelvra.EXE"), longAgo);
+    EXPECT_LE(computer.ProgramFileDate()->year, PosixClock().Now().year - 2);
+}
+
+TEST_F(PosixComputerTest, SaysWhyThereIsNoDataFolder) {
+    folder_.Put("data", "a file");
+    EXPECT_TRUE(Make().DataFolderError());
+}
+
+TEST_F(PosixComputerTest, KeepsRegistryKeysAsSections) {
+    PosixComputer computer = Make();
+    computer.WriteRegistry("HKLM\\SOFTWARE\\X", "PS-101;1", "left");
+    computer.WriteRegistry("HKLM\\SOFTWARE\\X", "PS-101;1", "right");
+    EXPECT_EQ(folder_.Get("data/registry.ini"), "[HKLM\\SOFTWARE\\X]\r\nPS-101;1=right\r\n");
+}
+
+TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {
+    const LoadedLibrary sample = Make(KELVRA_SAMPLE_FOLDER).LoadDriverLibrary("sample");
+    ASSERT_TRUE(sample.library) << sample.why;
+    EXPECT_EQ(sample.fileName, "libsample.so");
+    EXPECT_EQ(sample.library->Find("NoSuchFunction"), nullptr);
+    const auto answer = reinterpret_cast<int (*)()>(sample.library->Find("SampleAnswer"));
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer(), 42);
+
+    std::filesystem::create_directory(folder_.Path("data"));
+    std::filesystem::copy(KELVRA_SAMPLE_FOLDER "/libsample.so", folder_.Path("data/libsample.so"));
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder_.Path("data"));
+    const LoadedLibrary none = Make().LoadDriverLibrary("sample");
+    const LoadedLibrary here = Make(".").LoadDriverLibrary("sample");
+    std::filesystem::current_path(before);
+    EXPECT_FALSE(none.library);
+    EXPECT_NE(none.why, "");
+    EXPECT_TRUE(here.library) << here.why;
+}
+
+TEST_F(PosixComputerTest, SaysWhyALibraryDoesNotLoad) {
+    folder_.Put("libbroken.so", "no library");
+    const LoadedLibrary broken = Make(folder_.Path()).LoadDriverLibrary("broken");
+    EXPECT_FALSE(broken.library);
+    EXPECT_NE(broken.why.find("libbroken.so"), std::string::npos) << broken.why;
+}
+
+TEST(PosixLocale, WritesDateAndTimeAndFallsBackToC) {
+    for (const char* name : {"C", "xx_NOWHERE.nothing"}) {
+        const PosixLocale locale(name);
+        const LocalTime time{2005, 3, 7, 14, 5, 9, 0};
+        EXPECT_EQ(locale.DateText(time), "03/07/05") << name;
+        EXPECT_EQ(locale.TimeText(time), "14:05:09") << name;
+        EXPECT_EQ(locale.Numbers().decimal, ".") << name;
+        EXPECT_EQ(locale.Numbers().grouping, "") << name;
+    }
+}
+
+TEST(PosixClock, SleepsAtLeastAsLongAsAsked) {
+    PosixClock clock;
+    const Duration before = clock.Monotonic();
+    clock.Sleep(std::chrono::milliseconds(5));
+    EXPECT_GE(clock.Monotonic() - before, std::chrono::milliseconds(5));
+}
+
+}  // namespace kelvra::platform

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/file_tools.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/posix/posix_files.h"
+#include "platform/profile_file.h"
+#include "support/faulty_files.h"
+#include "support/temp_folder.h"
+
+namespace kelvra::platform {
+
+namespace fs = std::filesystem;
+using test::FaultyFiles;
+using Fault = FaultyFiles::Fault;
+using Names = std::set<std::string>;
+
+constexpr auto ReadOnly = fs::perms::owner_read | fs::perms::group_read;
+
+class FileToolsTest : public testing::Test {
+protected:
+    // Operations of one undisturbed replacement.
+    int OperationsOfReplace() {
+        folder_.Put("f", old_);
+        faulty_.Plan(0, Fault::None);
+        EXPECT_FALSE(ReplaceFile(faulty_, path_, new_));
+        // Open, permissions, write, sync, close, rename, sync of the folder.
+        EXPECT_EQ(faulty_.Operations(), 7);
+        return faulty_.Operations();
+    }
+
+    const std::string old_ = "old bytes";
+    const std::string new_ = std::string(200'000, 'n') + '\0' + "end";
+    test::TempFolder folder_;
+    const std::string path_ = folder_.Path("f");
+    PosixFiles files_;
+    FaultyFiles faulty_{files_};
+};
+
+TEST_F(FileToolsTest, AFailedReplacementKeepsTheOldFileAndLeavesNoOther) {
+    const int operations = OperationsOfReplace();
+    for (int n = 1; n <= operations; ++n) {
+        folder_.Put("f", old_);
+        faulty_.Plan(n, Fault::Fail);
+        EXPECT_EQ(ReplaceFile(faulty_, path_, new_), std::errc::no_space_on_device) << n;
+        // Only when the folder's sync fails, the last step, the new one is there already.
+        EXPECT_TRUE(folder_.Get("f") == (n == operations ? new_ : old_)) << n;
+        EXPECT_EQ(folder_.Names(), Names{"f"}) << n;
+    }
+}
+
+TEST_F(FileToolsTest, AShortWriteIsContinued) {
+    const int operations = OperationsOfReplace();
+    for (int n = 1; n <= operations; ++n) {
+        folder_.Put("f", old_);
+        faulty_.Plan(n, Fault::Short);
+        EXPECT_FALSE(ReplaceFile(faulty_, path_, new_)) << n;
+        EXPECT_TRUE(folder_.Get("f") == new_) << n;
+    }
+}
+
+TEST_F(FileToolsTest, AStopAnywhereLeavesOneOfTheTwoWhole) {
+    const int operations = OperationsOfReplace();
+    int replaced = 0;
+    for (int n = 1; n <= operations; ++n) {
+        folder_.Put("f", old_);
+        faulty_.Plan(n, Fault::Stop);
+        EXPECT_EXIT(ReplaceFile(faulty_, path_, new_),
+                    testing::ExitedWithCode(FaultyFiles::StopStatus), "");
+        const std::string found = folder_.Get("f");
+        EXPECT_TRUE(found == old_ || found == new_) << n;
+        if (found == new_) ++replaced;
+        // What the crash has left must not be in the way of the next one.
+        EXPECT_FALSE(ReplaceFile(files_, path_, new_)) << n;
+        EXPECT_TRUE(folder_.Get("f") == new_) << n;
+    }
+    EXPECT_EQ(replaced, 1);
+}
+
+TEST_F(FileToolsTest, ATakenTemporaryNameIsPassedOver) {
+    faulty_.Plan(1, Fault::Fail, make_error_code(std::errc::file_exists));
+    EXPECT_FALSE(ReplaceFile(faulty_, path_, new_));
+    EXPECT_EQ(folder_.Names(), Names{"f"});
+}
+
+TEST_F(FileToolsTest, ReplacementKeepsPermissionsAndLinks) {
+    folder_.Put("f", old_);
+    fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("f", folder_.Path("link"));
+    fs::create_symlink(folder_.Path("link"), folder_.Path("link to link"));
+    fs::create_symlink("new", folder_.Path("link to nothing"));
+    EXPECT_FALSE(ReplaceFile(files_, folder_.Path("link to link"), new_));
+    EXPECT_FALSE(ReplaceFile(files_, folder_.Path("link to nothing"), old_));
+    EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(folder_.Get("f") == new_);
+    EXPECT_EQ(folder_.Get("new"), old_);
+    EXPECT_EQ(folder_.Names(), (Names{"f", "link", "link to link", "link to nothing", "new"}));
+    EXPECT_TRUE(fs::is_symlink(folder_.Path("link")));
+}
+
+TEST_F(FileToolsTest, AReadOnlyFileIsRefused) {
+    folder_.Put("f", old_);
+    fs::permissions(path_, ReadOnly);
+    EXPECT_EQ(ReplaceFile(files_, path_, new_), std::errc::permission_denied);
+    EXPECT_EQ(folder_.Get("f"), old_);
+    EXPECT_EQ(folder_.Names(), Names{"f"});
+}
+
+TEST_F(FileToolsTest, ReadingGoesOnAfterAShortReadAndReportsEveryError) {
+    folder_.Put("f", new_);
+    std::string bytes;
+    faulty_.Plan(0, Fault::None);
+    EXPECT_FALSE(ReadWholeFile(faulty_, path_, bytes));
+    const int operations = faulty_.Operations();
+    for (int n = 1; n <= operations; ++n) {
+        faulty_.Plan(n, Fault::Short);
+        EXPECT_FALSE(ReadWholeFile(faulty_, path_, bytes)) << n;
+        EXPECT_TRUE(bytes == new_) << n;
+        faulty_.Plan(n, Fault::Fail);
+        EXPECT_EQ(ReadWholeFile(faulty_, path_, bytes), std::errc::no_space_on_device) << n;
+        EXPECT_EQ(bytes, "") << n;
+    }
+    EXPECT_EQ(ReadWholeFile(files_, folder_.Path(), bytes), std::errc::is_a_directory);
+    EXPECT_EQ(ReadWholeFile(files_, "/dev/zero", bytes), std::errc::file_too_large);
+}
+
+TEST_F(FileToolsTest, AppendingMakesTheFileAndContinuesAShortWrite) {
+    EXPECT_FALSE(AppendToFile(files_, path_, "one,"));
+    faulty_.Plan(2, Fault::Short);
+    EXPECT_FALSE(AppendToFile(faulty_, path_, "two"));
+    EXPECT_EQ(folder_.Get("f"), "one,two");
+    faulty_.Plan(3, Fault::Fail);
+    EXPECT_EQ(AppendToFile(faulty_, path_, "!"), std::errc::no_space_on_device);
+}
+
+TEST_F(FileToolsTest, AProfileThatCouldNotBeReadIsNeverOverwritten) {
+    folder_.Put("f", old_);
+    for (int n = 1; n <= 4; ++n) {
+        faulty_.Plan(n, Fault::Fail, make_error_code(std::errc::io_error));
+        ProfileFile profile(faulty_, path_);
+        profile.Text().Write("s", "k", "v");
+        EXPECT_EQ(profile.LoadError(), std::errc::io_error) << n;
+        EXPECT_EQ(profile.Save(), std::errc::io_error) << n;
+        EXPECT_EQ(folder_.Get("f"), old_) << n;
+    }
+}
+
+TEST_F(FileToolsTest, AProfileIsWrittenOnlyWhenItHasChanged) {
+    ProfileFile missing(files_, path_);
+    missing.Text().DeleteKey("s", "k");
+    EXPECT_FALSE(missing.LoadError());
+    EXPECT_FALSE(missing.Save());
+    EXPECT_EQ(folder_.Names(), Names{});
+    missing.Text().Write("s", "k", "v");
+    EXPECT_FALSE(missing.Save());
+    EXPECT_EQ(folder_.Get("f"), "[s]\r\nk=v\r\n");
+    fs::permissions(path_, ReadOnly);  // any write would fail now
+    ProfileFile same(files_, path_);
+    same.Text().Write("S", "K", "v");
+    EXPECT_FALSE(same.Save());
+}
+
+}  // namespace kelvra::platform
