@@ -14,10 +14,11 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       transferEvents_(results, errorStrip),
       transfer(driverSession, table, errorStrip, transferEvents_),
       readings(driverSession, table, results, host),
+      calcGrid(forms.mdiMain, table, host),
       store(host.files, log, forms.mdiMain),
       mainWindow(forms, state, host),
       cycle({forms, table, state, host, driverSession, transfer, errorStrip, selection, results,
-             readings, mainWindow}),
+             readings, calcGrid, mainWindow}),
       discovery({forms, table, catalogue, session, state, results, selection, store}),
       sensorName_(forms, table, host, results, selection),
       settingsCommands_(forms, table, host) {

@@ -13,6 +13,7 @@
 #include "driver/session.h"
 #include "driver/transfer.h"
 #include "forms/forms.h"
+#include "measure/calc_grid.h"
 #include "measure/cycle.h"
 #include "measure/readings.h"
 #include "measure/result_table.h"
@@ -71,6 +72,7 @@ private:
 public:
     driver::ConfigurationTransfer transfer;
     measure::Readings readings;
+    measure::CalcGrid calcGrid;
     SettingsStore store;
     MainWindow mainWindow;
     measure::Cycle cycle;

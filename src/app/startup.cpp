@@ -81,23 +81,8 @@ void Kelvra::CreateTable() {
 }
 
 void Kelvra::LayOutGrids() {
-    constexpr int formulaWidth = 3000;
     results.LayOut();
-    controls::Grid& calc = forms.mdiMain.CalcGrid;
-    const struct {
-        const char* cells[3];
-        controls::Align align;
-    } rows[] = {
-        {{"Name", "Formular", "RESULT"}, controls::Align::Centre},
-        {{"DIFF", "ABS(X1dB-X2dB)", ""}, controls::Align::Left},
-        {{"SWR", "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))", ""}, controls::Align::Left},
-    };
-    for (int row = 0; row < 3; ++row)
-        for (int column = 0; column < 3; ++column)
-            SetGridCell(calc, row, column, rows[row].cells[column], rows[row].align,
-                        row == 0 && column == 0, false);
-    calc.SetWidth(1, formulaWidth);
-
+    calcGrid.LayOut();
     controls::List& syncMode = forms.mdiMain.SensSyncMode;
     syncMode.Fill({{"Start Sync", 0}, {"Sequenced", 1}, {"Async", 2}});
     syncMode.SetIndex(2);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "console/dump.h"
+#include "console/evaluate.h"
 #include "console/print.h"
 #include "util/number_reading.h"
 #include "util/text.h"
@@ -239,6 +240,19 @@ CommandError Dump(CommandContext& c, std::string_view rest) {
     return std::nullopt;
 }
 
+CommandError Let(CommandContext& c, std::string_view rest) {
+    const std::string_view name = TakeWord(rest);
+    const auto value = RealNumber(TakeWord(rest));
+    if (name.empty() || !value) return "let VAR VALUE, the value a number";
+    c.variables.insert_or_assign(std::string(name), *value);
+    return std::nullopt;
+}
+
+CommandError Eval(CommandContext& c, std::string_view rest) {
+    c.output.Line(EvaluateToJson(rest, c.variables, c.kelvra.host));
+    return std::nullopt;
+}
+
 CommandError Echo(CommandContext& c, std::string_view rest) {
     c.output.Line(rest);
     return std::nullopt;
@@ -261,7 +275,8 @@ constexpr Command Commands[] = {
     {"click", Click},   {"choose", Choose}, {"open", Open},     {"type", Type},
     {"press", Press},   {"cell", ClickCell}, {"drag", Drag},    {"resize", Resize},
     {"answer", Answer}, {"cancel", Cancel}, {"wait", Wait},     {"print", Print},
-    {"dump", Dump},     {"echo", Echo},     {"close", Close},
+    {"dump", Dump},     {"let", Let},       {"eval", Eval},     {"echo", Echo},
+    {"close", Close},
 };
 
 }  // namespace

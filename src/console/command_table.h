@@ -3,6 +3,7 @@
 // nothing.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,7 @@ struct CommandContext {
     ScriptDialogs& dialogs;
     Output& output;
     Waiting& waiting;
+    std::map<std::string, double, std::less<>> variables{};  // for eval
     controls::TextBox* typedInto = nullptr;  // its edit is committed when a person turns elsewhere
 };
 

@@ -13,7 +13,7 @@ using platform::LineInput;
 Script::Script(const ScriptParts& parts)
     : p_(parts),
       waiting_(parts.kelvra.state, parts.clock),
-      context_{parts.kelvra, parts.dialogs, parts.output, waiting_, nullptr} {}
+      context_{parts.kelvra, parts.dialogs, parts.output, waiting_} {}
 
 bool Script::Step(platform::Duration patience) {
     if (ended_) return false;

@@ -62,6 +62,13 @@ void Grid::SetLook(int row, int column, Align align, bool bold, bool italic, Col
     SetCell(row, column, At(row, column).text, align, bold, italic, back);
 }
 
+void Grid::SetCellTooltip(int row, int column, std::string_view text) {
+    Cell& cell = cells_[Offset(row, column)];
+    if (cell.tooltip == text) return;
+    cell.tooltip = text;
+    MarkCell(cell, row, column);
+}
+
 void Grid::MarkCell(Cell& cell, int row, int column) {
     if (cell.changed) return;
     cell.changed = true;

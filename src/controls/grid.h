@@ -24,6 +24,7 @@ public:
         bool italic = false;
         Align align = Align::Left;
         std::optional<Colour> back;  // none: the grid's own colour
+        std::string tooltip;
         bool changed = false;        // since the last TakeChangedCells
     };
 
@@ -45,6 +46,8 @@ public:
                  std::optional<Colour> back = std::nullopt);
     // The same for a cell that is there and keeps its text.
     void SetLook(int row, int column, Align align, bool bold, bool italic, Colour back);
+
+    void SetCellTooltip(int row, int column, std::string_view text);
 
     // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up again.
     Event<int, int> MouseDown;

@@ -44,6 +44,7 @@ void Cycle::Pass() {
     if (p_.state.Ending()) return;
     speed_.UpdateSpeedAndBusy();
     Fetch();
+    p_.calcGrid.Compute();
     DoEvents();
     if (p_.state.exiting) return;
     if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);

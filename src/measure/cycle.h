@@ -10,6 +10,7 @@
 #include "driver/session.h"
 #include "driver/transfer.h"
 #include "forms/forms.h"
+#include "measure/calc_grid.h"
 #include "measure/pacing.h"
 #include "measure/readings.h"
 #include "measure/result_table.h"
@@ -34,6 +35,7 @@ struct CycleParts {
     SensorSelection& selection;
     ResultTable& results;
     Readings& readings;
+    CalcGrid& calcGrid;
     MeasurementView& view;
 };
 

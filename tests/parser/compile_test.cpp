@@ -152,6 +152,17 @@ TEST(Compile, TableHoldsWhatTheFormulaSays) {
     EXPECT_EQ(formula.parser.ET()[4].Arg[0].Value, 20);
 }
 
+TEST(Compile, LoneOperandIsAddedToNothing) {
+    Formula formula("(abc)");
+    const auto& entry = formula.parser.ET()[1];
+    EXPECT_EQ(entry.Fun, "+");
+    EXPECT_EQ(entry.PosInExpr, 1);
+    EXPECT_EQ(entry.PriLvl, 1);
+    EXPECT_EQ(entry.Arg[1].Name, "abc");
+    formula.parser.VarValue(1, 7);
+    EXPECT_EQ(formula.parser.Eval(), 7);
+}
+
 TEST(Compile, DumpListsEachEntryAndChangesNothing) {
     Formula formula("1+a");
     formula.parser.VarValue(1, 0.5);

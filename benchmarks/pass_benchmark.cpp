@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a pass costs over sensors that are complete at once: everything but the driver, in the whole
+// console. The floor beside it only makes a pass's texts and puts them into strings.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "console_run.h"
+#include "util/levels.h"
+#include "util/number_text.h"
+
+namespace {
+
+using namespace kelvra;
+
+// Until rings are full and the strings have their room.
+constexpr int WarmUpPasses = 100;
+
+// Seconds that the passes took.
+template <int Sensors>
+double MeasurePasses(benchmark::State& state, benchmark::IterationCount passes) {
+    benchmarks::SleeplessClock clock;
+    std::array<platform::Duration, 2> taken{};
+    int step = 0;
+    const auto wait = [](std::int64_t count) {
+        return "wait passes " + util::TrimmedNumberText(count);
+    };
+    benchmarks::ConsoleRun run(clock, [&](platform::Duration) -> std::string {
+        switch (step++) {
+            case 0:
+                return "click StartIt";
+            case 1:
+                return wait(WarmUpPasses);
+            case 2:
+                taken[0] = clock.Monotonic();
+                return wait(passes);
+            case 3:
+                taken[1] = clock.Monotonic();
+                return "click StopIt";
+            default:
+                return "";
+        }
+    });
+    benchmarks::PlugIn<Sensors>(run.kelvra, true);
+    if (run.kelvra.catalogue.Connected() != Sensors || !run.Run()) state.SkipWithError("no run");
+    return std::chrono::duration<double>(taken[1] - taken[0]).count();
+}
+
+template <int Sensors>
+void Pass(benchmark::State& state) {
+    while (state.KeepRunningBatch(state.max_iterations))
+        state.SetIterationTime(MeasurePasses<Sensors>(state, state.max_iterations));
+}
+
+// The cells of one sensor, and the texts that a pass gives them.
+struct Row {
+    std::string activity, watt, dbm, sigma, count;
+
+    static void Put(std::string& cell, const std::string& text) {
+        if (cell != text) cell = text;
+    }
+    void Show(double powerW, int pass) {
+        const util::NumberForm form;
+        const double level = util::W2dBm(powerW);
+        const std::string bar(static_cast<std::size_t>(pass % 8 + 1), '|');
+        Put(activity, bar + '.');
+        Put(activity, bar);
+        Put(watt, util::ScientificText(powerW, form));
+        Put(dbm, util::FixedText(level, 3, form));
+        Put(sigma, util::FixedText(level / 100, 3, form));
+        Put(count, util::TrimmedNumberText(std::int64_t{pass % 64}));
+    }
+};
+
+template <int Sensors>
+void TextsAlone(benchmark::State& state) {
+    std::vector<Row> rows(Sensors);
+    int pass = 0;
+    double power = 1e-6;
+    for (auto _ : state) {
+        ++pass;
+        power = power < 1e-2 ? power * 1.013 : 1e-6;
+        for (Row& row : rows) row.Show(power, pass);
+        benchmark::DoNotOptimize(rows.data());
+        benchmark::ClobberMemory();
+    }
+}
+
+}  // namespace
+
+BENCHMARK(TextsAlone<2>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Pass<2>)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(TextsAlone<64>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Pass<64>)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+BENCHMARK_MAIN();

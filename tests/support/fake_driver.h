@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Both driver libraries as functions with their C interface, which note every call and answer what
+// the test wants, however odd. The one that was made last is the one that is called.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "driver/operations.h"
+#include "support/fake_host.h"
+
+namespace kelvra::test {
+
+class FakeDriver {
+public:
+    FakeDriver();
+    ~FakeDriver();
+    FakeDriver(const FakeDriver&) = delete;
+    FakeDriver& operator=(const FakeDriver&) = delete;
+
+    // The functions by name, as a library exports them; or put in place of a loaded one's.
+    static FunctionTable InstrumentFunctions();
+    static FunctionTable DeviceListFunctions();
+    static void PutInto(driver::OperationList& operations, const FunctionTable& functions);
+
+    // "psdrv_avg_setCount(12, 1, 4)": what was given, without what is given back.
+    std::vector<std::string> calls;
+    std::map<std::string, int> count;  // by name
+    int Count(const std::string& name) const { return count.contains(name) ? count.at(name) : 0; }
+
+    // Status of the n-th call of a function, from 1. Outputs are written whatever it is.
+    std::function<driver::Status(std::string_view name, int n)> status;
+    std::function<void(std::string_view name)> onCall;
+
+    driver::Handle handle = 12;
+    std::string message = "bad value";
+    std::string query = "queue empty";
+    bool terminated = true;                     // texts end with a NUL
+    std::function<bool(int channel)> complete;  // nothing: at once
+    double reading = 0.001;                     // W
+    std::int32_t averagingCount = 4;
+    std::vector<double> array;               // W
+    std::optional<std::int32_t> arrayCount;  // as reported, where that isn't the truth
+
+    struct Device {
+        std::string name, type, serial;
+        std::int32_t connected = 1;
+    };
+    std::vector<Device> devices;
+    std::optional<std::int32_t> listLength;  // as reported, where that isn't the truth
+};
+
+}  // namespace kelvra::test

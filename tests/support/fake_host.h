@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The computer and the person as a test wants them: a clock that the test moves, events that happen
+// round by round, dialogs that are noted, libraries made of the test's own functions.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/host.h"
+#include "platform/timer_list.h"
+
+namespace kelvra::test {
+
+class FakeEvents final : public platform::Events {
+public:
+    explicit FakeEvents(platform::SetClock& clock) : clock_(clock) {}
+
+    // What the person does in round 1, 2, ... of a run; the timers come after it.
+    std::function<void(int round)> onRound;
+    std::chrono::milliseconds roundTime{0};  // what every round takes
+    int rounds = 0;
+    bool quit = false;
+
+    // A handler that never returns would otherwise hang the test.
+    static constexpr int MostRounds = 200'000;
+
+    void DoEvents(std::chrono::milliseconds patience) override {
+        clock_.Advance(patience + roundTime);
+        if (++rounds > MostRounds) throw std::runtime_error("the events run without end");
+        if (quit) return;
+        if (onRound) onRound(rounds);
+        if (!quit) timers_.RunDue(clock_.Monotonic());
+    }
+    TimerId StartTimer(std::chrono::milliseconds interval, std::function<void()> handler) override {
+        return timers_.Start(clock_.Monotonic(), interval, std::move(handler));
+    }
+    void StopTimer(TimerId timer) override { timers_.Stop(timer); }
+    void Quit() override { quit = true; }
+
+private:
+    platform::SetClock& clock_;
+    platform::TimerList timers_;
+};
+
+class FakeDialogs final : public platform::Dialogs {
+public:
+    struct Shown {
+        std::string title, text;
+        bool operator==(const Shown&) const = default;
+    };
+    std::vector<Shown> messages;
+    std::function<void()> onMessage;        // while a message box stands
+    std::optional<std::string> fileAnswer;  // nothing: the person cancels
+    platform::FileQuestion fileQuestion;    // the last one
+
+    void Message(const std::string& title, const std::string& text,
+                 platform::MessageIcon) override {
+        messages.push_back({title, text});
+        if (onMessage) onMessage();
+    }
+    std::optional<std::string> Prompt(const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> AskFile(const platform::FileQuestion& question) override {
+        fileQuestion = question;
+        return fileAnswer;
+    }
+    void OpenHelp(const std::string&, int) override {}
+};
+
+using FunctionTable = std::map<std::string, void*>;
+
+class FakeComputer final : public platform::Computer {
+public:
+    std::string folder;
+    std::string commandLine;
+    platform::ProgramVersion version{"Kelvra", 1, 0, 0};
+    std::optional<platform::LocalTime> programDate;
+    util::NumberForm numbers{".", ","};
+    std::map<std::string, FunctionTable> libraries;  // by plain name; others are not found
+    std::vector<std::string> registry;               // "key|name|value"
+
+    std::string ProgramFolder() override { return folder; }
+    std::string DrivePath(const std::string& path) override { return Join(folder, path.substr(3)); }
+    std::string Join(const std::string& parent, const std::string& name) override {
+        return parent + "/" + name;
+    }
+    std::string CommandLine() override { return commandLine; }
+    platform::ProgramVersion Version() override { return version; }
+    std::optional<platform::LocalTime> ProgramFileDate() override { return programDate; }
+    const util::NumberForm& Numbers() override { return numbers; }
+    std::string DateText(const platform::LocalTime&) override { return "date"; }
+    std::string TimeText(const platform::LocalTime&) override { return "time"; }
+    platform::LoadedLibrary LoadDriverLibrary(const std::string& name) override {
+        const std::string file = "lib" + name + ".so";
+        const auto found = libraries.find(name);
+        if (found == libraries.end()) return {nullptr, file, "no such file"};
+        return {std::make_unique<TableLibrary>(found->second), file, ""};
+    }
+    void WriteRegistry(const std::string& key, const std::string& name,
+                       const std::string& value) override {
+        registry.push_back(key + "|" + name + "|" + value);
+    }
+    platform::ScreenSize Screen() override { return {28800, 16200}; }
+
+private:
+    class TableLibrary final : public platform::Library {
+    public:
+        explicit TableLibrary(FunctionTable functions) : functions_(std::move(functions)) {}
+        void* Find(const char* name) override {
+            const auto found = functions_.find(name);
+            return found == functions_.end() ? nullptr : found->second;
+        }
+
+    private:
+        FunctionTable functions_;
+    };
+};
+
+struct FakeHost {
+    explicit FakeHost(platform::Files& files)
+        : host{events, dialogs, clock, files, computer, random} {}
+
+    platform::SetClock clock{platform::LocalTime{2005, 3, 7, 12, 0, 0, 0}};
+    FakeEvents events{clock};
+    FakeDialogs dialogs;
+    FakeComputer computer;
+    util::Random random{1};
+    platform::Host host;
+};
+
+}  // namespace kelvra::test
