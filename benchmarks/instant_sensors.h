@@ -3,8 +3,9 @@
 // Kelvra. They are put in place of the libraries after start-up; the next tick finds the sensors.
 #pragma once
 
-#include <algorithm>
 #include <cstring>
+#include <string>
+#include <type_traits>
 
 #include "app/kelvra.h"
 
@@ -15,13 +16,14 @@ using driver::Handle;
 using driver::Status;
 
 template <class... Arguments>
-void Plug(driver::Operation<Arguments...>& operation, Status (*function)(Arguments...)) {
+void Plug(driver::Operation<Arguments...>& operation,
+          std::type_identity_t<Status (*)(Arguments...)> function) {
     operation.address = reinterpret_cast<void*>(function);
 }
 
 template <class... Arguments>
 void Succeed(driver::Operation<Arguments...>& operation) {
-    Plug<Arguments...>(operation, [](Arguments...) -> Status { return 0; });
+    Plug(operation, [](Arguments...) -> Status { return 0; });
 }
 
 // What the settings of a sensor that only averages need.

@@ -13,11 +13,17 @@ using sensors::SensorEntry;
 using sensors::SensorTable;
 
 void Discovery::SensSearch_Timer() {
-    if (p_.state.exiting) return;
+    if (p_.state.exiting || running_ || p_.table.Slots() == 0) return;
     if (Rests()) {
         ShowConnection();
         return;
     }
+    running_ = true;
+    Tick();
+    running_ = false;
+}
+
+void Discovery::Tick() {
     changed_ = presenceChanged_ = vanished_ = false;
     const std::vector<bool> enabledBefore = EnabledSlots();
     p_.catalogue.BuildDeviceList(p_.table);
@@ -141,7 +147,7 @@ void Discovery::FindPresent() {
         const driver::DeviceListEntry* device = DeviceOf(entry);
         if (device == nullptr) continue;
         if (!entry.Present) {
-            Appear(entry, *device);
+            Appear(slot, *device);
             appeared.push_back(&entry);
         }
         NameSensor(slot, *device);
@@ -149,13 +155,18 @@ void Discovery::FindPresent() {
     p_.store.Read(appeared);
 }
 
-void Discovery::Appear(SensorEntry& entry, const driver::DeviceListEntry& device) {
+void Discovery::Appear(int slot, const driver::DeviceListEntry& device) {
+    SensorEntry& entry = p_.table[slot];
     entry.SensorId = device.Type + ";" + device.Serial;
     entry.NewScopeData = false;
     entry.NewTSlotData = false;
     entry.TSlotStatsActive = false;
     entry.Present = true;
     entry.Enabled = !p_.table.SwitchedOff(entry);
+    p_.table.SlotReadings[static_cast<std::size_t>(slot)] = {};
+    p_.results.ClearValues(slot);
+    if (!currentBefore_.empty() && entry.SensorId == currentBefore_)
+        p_.table.CurrentSensor = static_cast<std::int16_t>(slot);
     changed_ = presenceChanged_ = true;
 }
 
@@ -179,12 +190,14 @@ void Discovery::Simulation() {
 }
 
 void Discovery::EnterSimulation() {
+    p_.notices.ShowSensorError(false, 0, "", false);  // whose error it was has gone
     const struct {
         const char* name;
         const char* resource;
     } simulated[] = {{"SensSim1", "PS-101;"}, {"SensSim2", "PS-106;"}};
     int slot = 0;
     for (const auto& sensor : simulated) {
+        p_.results.ClearValues(slot);
         SensorEntry& entry = p_.table[slot++];
         sensors::ReleaseSlot(entry);
         entry.Enabled = true;
@@ -204,8 +217,10 @@ void Discovery::SwitchPresentOn() {
     changed_ = true;
 }
 
-// Their settings have been saved with those of the sensor that went.
+// Their settings have been saved with those of the sensor that went. Whoever is the current sensor
+// stays it, in whatever slot it is found again.
 void Discovery::ReleasePresent() {
+    currentBefore_ = p_.table[p_.table.CurrentSensor].SensorId;
     for (SensorEntry* entry : Present()) sensors::ReleaseSlot(*entry);
     sensors::PrepareWorkArrays(p_.table, p_.table.CurrentSensor);
 }

@@ -4,6 +4,7 @@
 // never calls the measurement driver, and rests while a measurement or a sensor command runs.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "app/settings_store.h"
@@ -25,6 +26,7 @@ struct DiscoveryParts {
     measure::MeasureState& state;
     measure::ResultTable& results;
     measure::SensorSelection& selection;
+    driver::SensorNotices& notices;
     SettingsStore& store;
 };
 
@@ -32,10 +34,11 @@ class Discovery {
 public:
     explicit Discovery(const DiscoveryParts& parts) : p_(parts) {}
 
-    // The handler of the search timer.
+    // The handler of the search timer. Entered again, or before there is a table, it does nothing.
     void SensSearch_Timer();
 
 private:
+    void Tick();
     bool Rests() const;
     void ShowConnection();
     void SaveWhatHasGone();
@@ -43,7 +46,7 @@ private:
     void RealSensors();
     void AssignDevices();
     void FindPresent();
-    void Appear(sensors::SensorEntry& entry, const driver::DeviceListEntry& device);
+    void Appear(int slot, const driver::DeviceListEntry& device);
     void NameSensor(int slot, const driver::DeviceListEntry& device);
     void Simulation();
     void EnterSimulation();
@@ -55,6 +58,8 @@ private:
     std::vector<bool> EnabledSlots() const;
 
     DiscoveryParts p_;
+    bool running_ = false;
+    std::string currentBefore_;     // SensorId of the current sensor when all were released
     bool changed_ = false;          // in this tick: the table is to be painted
     bool presenceChanged_ = false;  // in this tick: the lists are to be filled
     bool vanished_ = false;         // in this tick: a known sensor has gone

@@ -5,7 +5,9 @@ namespace kelvra::app {
 
 namespace {
 
-FlagValue Whole(std::int64_t value) { return value; }
+FlagValue Whole(std::int64_t value) {
+    return value;
+}
 
 constexpr Flag AllFlags[] = {
     {"Measuring", [](const Kelvra& k) -> FlagValue { return k.state.Measuring; }},
@@ -27,6 +29,8 @@ constexpr Flag AllFlags[] = {
 
 }  // namespace
 
-std::span<const Flag> Flags() { return AllFlags; }
+std::span<const Flag> Flags() {
+    return AllFlags;
+}
 
 }  // namespace kelvra::app

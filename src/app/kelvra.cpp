@@ -19,7 +19,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       mainWindow(forms, state, host),
       cycle({forms, table, state, host, driverSession, transfer, errorStrip, selection, results,
              readings, calcGrid, mainWindow}),
-      discovery({forms, table, catalogue, session, state, results, selection, store}),
+      discovery({forms, table, catalogue, session, state, results, selection, errorStrip, store}),
       sensorName_(forms, table, host, results, selection),
       settingsCommands_(forms, table, host) {
     errorStrip.Connect({driverSession, transfer, cycle, state, host});

@@ -32,9 +32,9 @@ public:
 
     // Start-up, once (startup.cpp).
     void Start();
-    // The exit routine, once: ends a measurement, closes the session, saves the settings of the present
-    // sensors, releases the device list, and ends the event loop. Handlers that are running return at
-    // their next look (exit.cpp).
+    // The exit routine, once: ends a measurement, closes the session, saves the settings of the
+    // present sensors, releases the device list, and ends the event loop. Handlers that are running
+    // return at their next look (exit.cpp).
     void MFileExit_Click();
 
     platform::Host& host;

@@ -8,8 +8,8 @@ using controls::Geometry;
 namespace {
 
 // Twips.
-constexpr int Margin = 60;        // to the frame
-constexpr int Step = 120;         // from the end of one window to the start of the next, both margins
+constexpr int Margin = 60;  // to the frame
+constexpr int Step = 120;   // from the end of one window to the start of the next, both margins
 constexpr int WidthMargins = 240;
 constexpr int HeightMargins = 180;
 constexpr int StartHeightMargin = 700;
@@ -109,6 +109,8 @@ void MainWindow::SettingAlwaysOnTop_Click() {
     AlwaysOnTop(forms_.setupForm, item.Checked);
 }
 
-void AlwaysOnTop(controls::Window& window, bool onTop) { window.TopMost = onTop; }
+void AlwaysOnTop(controls::Window& window, bool onTop) {
+    window.TopMost = onTop;
+}
 
 }  // namespace kelvra::app

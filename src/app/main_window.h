@@ -19,8 +19,8 @@ public:
     // Where the windows stand at start-up; the displays are hidden.
     void PlaceWindows();
 
-    // Shows or hides the displays and gives them their places: the displays share the height beside the
-    // result table, the slot table stands below it. A place without room is not applied.
+    // Shows or hides the displays and gives them their places: the displays share the height beside
+    // the result table, the slot table stands below it. A place without room is not applied.
     void MDIForm_Resize();
     void ModesChanged() override { MDIForm_Resize(); }
 

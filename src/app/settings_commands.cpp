@@ -21,8 +21,8 @@ void SettingsCommands::Load_Sensor_Settings_Click() {
     platform::FileQuestion question;
     question.title = "Load sensor configuration";
     question.filter = "Sensor Configuration (*.ini)|*.ini|All files (*.*)|*.*";
-    const auto path = host_.dialogs.AskFile(question);
-    if (!path || path->empty()) return;
+    const auto path = AskFile(question);
+    if (!path) return;
     platform::ProfileFile file(host_.files, *path);
     if (file.LoadError()) {
         Tell("read", *path, file.LoadError());
@@ -38,19 +38,30 @@ void SettingsCommands::Save_Sensor_Settings_Click() {
     question.filter = "Sensor Configuration (*.ini)|*.ini";
     question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), "Settings.ini");
     question.save = true;
-    const auto path = host_.dialogs.AskFile(question);
-    if (!path || path->empty()) return;
-    const std::error_code error =
-        sensors::TransferSettings(table_[table_.CurrentSensor].Settings, host_.files, *path, Stem,
-                                  sensors::Transfer::Write);
+    const auto path = AskFile(question);
+    if (!path) return;
+    const std::error_code error = sensors::TransferSettings(
+        table_[table_.CurrentSensor].Settings, host_.files, *path, Stem, sensors::Transfer::Write);
     if (error) Tell("saved", *path, error);
+}
+
+// Events run while the dialog is open: the sensor may be another one afterwards.
+std::optional<std::string> SettingsCommands::AskFile(const platform::FileQuestion& question) {
+    const std::string sensor = table_[table_.CurrentSensor].SensorId;
+    auto path = host_.dialogs.AskFile(question);
+    if (!path || path->empty()) return std::nullopt;
+    if (table_[table_.CurrentSensor].SensorId == sensor) return path;
+    host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
+                          platform::MessageIcon::Exclamation);
+    return std::nullopt;
 }
 
 void SettingsCommands::Tell(const char* what, const std::string& path,
                             const std::error_code& error) {
-    host_.dialogs.Message(
-        {}, std::string("The settings could not be ") + what + ".\r\n" + path + "\r\n" + error.message(),
-        platform::MessageIcon::Exclamation);
+    host_.dialogs.Message({},
+                          std::string("The settings could not be ") + what + ".\r\n" + path +
+                              "\r\n" + error.message(),
+                          platform::MessageIcon::Exclamation);
 }
 
 }  // namespace kelvra::app

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings_store.h"
 
+#include <algorithm>
+
 #include "measure/notice.h"
-#include "platform/profile_file.h"
 #include "sensors/settings_file.h"
 #include "util/number_text.h"
 
@@ -10,9 +11,21 @@ namespace kelvra::app {
 
 using sensors::Transfer;
 
+namespace {
+
+// A section's name for a sensor. What a device sends as its serial number must not end the name.
+std::string Stem(std::string sensorId) {
+    std::replace_if(
+        sensorId.begin(), sensorId.end(), [](char c) { return c == ']' || c == '\r' || c == '\n'; },
+        '_');
+    return sensorId;
+}
+
+}  // namespace
+
 void SettingsStore::ReadSlots(sensors::SensorTable& table) {
     platform::ProfileFile file(files_, AppIniPath);
-    if (file.LoadError()) Tell("read", file.LoadError().message());
+    if (file.LoadError()) Tell("read", file.LoadError());
     for (int slot = 0; slot < table.Slots(); ++slot)
         sensors::TransferSettings(table[slot].Settings, file.Text(),
                                   "SENS" + util::TrimmedNumberText(std::int64_t{slot + 1}),
@@ -22,24 +35,38 @@ void SettingsStore::ReadSlots(sensors::SensorTable& table) {
 void SettingsStore::Read(const std::vector<sensors::SensorEntry*>& entries) {
     if (entries.empty()) return;
     platform::ProfileFile file(files_, AppIniPath);
-    if (file.LoadError()) Tell("read", file.LoadError().message());
-    for (sensors::SensorEntry* entry : entries)
-        sensors::TransferSettings(entry->Settings, file.Text(), entry->SensorId, Transfer::Read);
+    if (file.LoadError()) Tell("read", file.LoadError());
+    for (sensors::SensorEntry* entry : entries) {
+        if (const auto kept = unsaved_.find(entry->SensorId); kept != unsaved_.end()) {
+            entry->Settings = kept->second;
+            continue;
+        }
+        sensors::TransferSettings(entry->Settings, file.Text(), Stem(entry->SensorId),
+                                  Transfer::Read);
+        if (file.LoadError())
+            unread_.insert(entry->SensorId);
+        else
+            unread_.erase(entry->SensorId);
+    }
 }
 
 void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
-    if (entries.empty()) return;
-    platform::ProfileFile file(files_, AppIniPath);
     for (sensors::SensorEntry* entry : entries)
-        if (!entry->SensorId.empty())
-            sensors::TransferSettings(entry->Settings, file.Text(), entry->SensorId,
-                                      Transfer::Write);
-    if (const std::error_code error = file.Save()) Tell("saved", error.message());
+        if (!entry->SensorId.empty() && !unread_.contains(entry->SensorId))
+            unsaved_.insert_or_assign(entry->SensorId, entry->Settings);
+    if (unsaved_.empty()) return;
+    platform::ProfileFile file(files_, AppIniPath);
+    for (auto& [sensorId, settings] : unsaved_)
+        sensors::TransferSettings(settings, file.Text(), Stem(sensorId), Transfer::Write);
+    if (const std::error_code error = file.Save())
+        Tell("saved", error);
+    else
+        unsaved_.clear();
 }
 
-void SettingsStore::Tell(const char* what, const std::string& reason) {
-    const std::string text =
-        std::string("The settings could not be ") + what + ": " + AppIniPath + ": " + reason;
+void SettingsStore::Tell(const char* what, const std::error_code& error) {
+    const std::string text = std::string("The settings could not be ") + what + ": " + AppIniPath +
+                             ": " + error.message();
     measure::ShowNotice(window_, text);
     log_.OutputDebug(text);
 }

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The application INI file: what it keeps for each slot and each sensor. Saves here are the program's
-// own; one that fails costs nothing that was there, and is told in the notice and the log.
+// The application INI file: what it keeps for each slot and each sensor. Saves here are the
+// program's own; one that fails costs nothing that was there, and is told in the notice and the
+// log. What could not be saved is kept and saved with the next; what could not be read is not
+// written over.
 #pragma once
 
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "driver/debug_log.h"
 #include "forms/main_window.h"
 #include "platform/files.h"
+#include "platform/profile_file.h"
 #include "sensors/sensor_table.h"
 
 namespace kelvra::app {
@@ -28,11 +33,13 @@ public:
     void Save(const std::vector<sensors::SensorEntry*>& entries);
 
 private:
-    void Tell(const char* what, const std::string& reason);
+    void Tell(const char* what, const std::error_code& error);
 
     platform::Files& files_;
     driver::DebugIf& log_;
     forms::MDIMain& window_;
+    std::map<std::string, sensors::SensorSettings> unsaved_;  // by SensorId
+    std::set<std::string> unread_;                            // SensorIds
 };
 
 }  // namespace kelvra::app

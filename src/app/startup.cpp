@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Start-up in its order: the debug log before any driver call, the INI path before settings are read,
-// the sensor table before discovery.
+// Start-up in its order: the debug log before any driver call, the INI path before settings are
+// read, the sensor table before discovery.
 #include <algorithm>
 #include <chrono>
 #include <string>
 
 #include "app/kelvra.h"
+#include "measure/notice.h"
 #include "util/number_text.h"
 #include "util/text.h"
 
@@ -16,7 +17,9 @@ namespace {
 constexpr auto SearchInterval = std::chrono::milliseconds(500);
 constexpr const char* DebugFile = "C:\\DebugKelvra.txt";
 
-std::string Number(int value) { return util::CleanText(util::NumberText(std::int64_t{value})); }
+std::string Number(int value) {
+    return util::CleanText(util::NumberText(std::int64_t{value}));
+}
 
 }  // namespace
 
@@ -47,8 +50,9 @@ void Kelvra::Start() {
 
 void Kelvra::StartDebugLog() {
     log.onFailure = [this](const std::string& path, const std::string& reason) {
-        host.dialogs.Message({}, "The debug log can't be written.\r\n" + path + "\r\n" + reason,
-                             platform::MessageIcon::Exclamation);
+        // No message box: lines are written in the middle of driver calls.
+        measure::ShowNotice(forms.mdiMain,
+                            "The debug log can't be written: " + path + ": " + reason);
     };
     const std::string commandLine = util::UpperCase(host.computer.CommandLine());
     log.STAT = commandLine.find("DEBUG") != std::string::npos;

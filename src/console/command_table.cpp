@@ -182,6 +182,7 @@ CommandError Drag(CommandContext& c, std::string_view rest) {
 }
 
 controls::Window* NamedWindow(CommandContext& c, std::string_view& rest) {
+    if (c.typedInto != nullptr) std::exchange(c.typedInto, nullptr)->Leave();
     return c.kelvra.forms.FindFormByName(TakeWord(rest));
 }
 
@@ -272,10 +273,10 @@ struct Command {
 };
 
 constexpr Command Commands[] = {
-    {"click", Click},   {"choose", Choose}, {"open", Open},     {"type", Type},
-    {"press", Press},   {"cell", ClickCell}, {"drag", Drag},    {"resize", Resize},
-    {"answer", Answer}, {"cancel", Cancel}, {"wait", Wait},     {"print", Print},
-    {"dump", Dump},     {"let", Let},       {"eval", Eval},     {"echo", Echo},
+    {"click", Click},   {"choose", Choose},  {"open", Open}, {"type", Type},
+    {"press", Press},   {"cell", ClickCell}, {"drag", Drag}, {"resize", Resize},
+    {"answer", Answer}, {"cancel", Cancel},  {"wait", Wait}, {"print", Print},
+    {"dump", Dump},     {"let", Let},        {"eval", Eval}, {"echo", Echo},
     {"close", Close},
 };
 

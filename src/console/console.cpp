@@ -4,9 +4,11 @@
 #include <cstdio>
 #include <memory>
 #include <random>
+#include <utility>
 
 #include "app/kelvra.h"
 #include "console/script.h"
+#include "options/version.h"
 #include "platform/native.h"
 
 namespace kelvra::console {
@@ -14,10 +16,6 @@ namespace kelvra::console {
 namespace {
 
 constexpr int CommandFailed = 1;
-constexpr int WrongUsage = 2;
-
-constexpr platform::ProgramVersion Version = {"Kelvra", KELVRA_VERSION_MAJOR, KELVRA_VERSION_MINOR,
-                                              KELVRA_VERSION_REVISION};
 
 std::uint64_t AnySeed() {
     std::random_device device;
@@ -26,14 +24,24 @@ std::uint64_t AnySeed() {
 
 }  // namespace
 
-int RunConsole(const Options& options) {
+ScriptChoice ChooseScript(std::vector<std::string> words) {
+    ScriptChoice choice;
+    if (words.empty()) return choice;
+    choice.script = std::move(words.back());
+    words.pop_back();
+    choice.commandLine = std::move(words);
+    return choice;
+}
+
+int RunConsole(const options::Options& options) {
+    const ScriptChoice choice = ChooseScript(options.words);
     Output output(stdout);
     Output errors(stderr);
     std::error_code inputError;
-    const auto input = platform::OpenLineInput(options.script, inputError);
+    const auto input = platform::OpenLineInput(choice.script, inputError);
     if (!input) {
-        errors.Line("The script " + options.script + " can't be read: " + inputError.message());
-        return WrongUsage;
+        errors.Line("The script " + choice.script + " can't be read: " + inputError.message());
+        return options::WrongUsage;
     }
     platform::WatchForTermination();
 
@@ -44,7 +52,7 @@ int RunConsole(const Options& options) {
     platform::Clock& clock = setClock ? static_cast<platform::Clock&>(*setClock) : *nativeClock;
     std::error_code dataFolderError;
     const auto computer = platform::NativeComputer(
-        *files, {options.dataDir, options.driverDir, options.commandLine, Version},
+        *files, {options.dataDir, options.driverDir, choice.commandLine, options::Version},
         dataFolderError);
     if (dataFolderError)
         errors.Line("The data folder " + computer->ProgramFolder() +
@@ -55,8 +63,8 @@ int RunConsole(const Options& options) {
     util::Random random(options.seed ? *options.seed : AnySeed());
     platform::Host host{events, dialogs, clock, *files, *computer, random};
     app::Kelvra kelvra(host);
-    Script script({kelvra, *input, dialogs, output, errors, clock, setClock != nullptr,
-                   options.echo});
+    Script script(
+        {kelvra, *input, dialogs, output, errors, clock, setClock != nullptr, options.echo});
     events.Connect(script);
     kelvra.Start();
     events.Run();

@@ -136,12 +136,23 @@ void OwnMembers(JsonLine& json, const Control& control, int member) {
 // What comes at the end, by kind.
 void ContentMembers(JsonLine& json, const Control& control) {
     switch (control.kind()) {
-        case Kind::Frame: Place(json, As<Frame>(control).Place); break;
-        case Kind::RichText: json.Member("rtf", As<RichText>(control).Rtf.Get()); break;
-        case Kind::List: ListMembers(json, As<List>(control)); break;
-        case Kind::Grid: GridMembers(json, As<Grid>(control)); break;
-        case Kind::Graph: GraphMembers(json, As<Graph>(control)); break;
-        default: break;
+        case Kind::Frame:
+            Place(json, As<Frame>(control).Place);
+            break;
+        case Kind::RichText:
+            json.Member("rtf", As<RichText>(control).Rtf.Get());
+            break;
+        case Kind::List:
+            ListMembers(json, As<List>(control));
+            break;
+        case Kind::Grid:
+            GridMembers(json, As<Grid>(control));
+            break;
+        case Kind::Graph:
+            GraphMembers(json, As<Graph>(control));
+            break;
+        default:
+            break;
     }
 }
 
@@ -161,10 +172,9 @@ std::string DumpControl(const Control& control, int member) {
     const bool isMember = control.kind() == Kind::OptionGroup && member >= 0;
     JsonLine json;
     json.BeginObject();
-    json.Member("name", isMember ? As<OptionGroup>(control)
-                                       .Options()[static_cast<std::size_t>(member)]
-                                       .name
-                                 : control.Name());
+    json.Member("name",
+                isMember ? As<OptionGroup>(control).Options()[static_cast<std::size_t>(member)].name
+                         : control.Name());
     json.Member("kind", isMember ? "option" : KindName(control.kind()));
     json.Member("enabled", control.Enabled.Get()).Member("visible", control.Visible.Get());
     OwnMembers(json, control, member);

@@ -18,11 +18,21 @@ std::string HexByte(std::uint32_t byte) {
 
 void AppendEscaped(std::string& text, char c) {
     switch (c) {
-        case '"': text += "\\\""; break;
-        case '\\': text += "\\\\"; break;
-        case '\n': text += "\\n"; break;
-        case '\r': text += "\\r"; break;
-        case '\t': text += "\\t"; break;
+        case '"':
+            text += "\\\"";
+            break;
+        case '\\':
+            text += "\\\\";
+            break;
+        case '\n':
+            text += "\\n";
+            break;
+        case '\r':
+            text += "\\r";
+            break;
+        case '\t':
+            text += "\\t";
+            break;
         default:
             if (static_cast<unsigned char>(c) < 0x20)
                 text += "\\u00" + HexByte(static_cast<unsigned char>(c));

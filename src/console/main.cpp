@@ -5,11 +5,14 @@
 #include "console/output.h"
 
 int main(int argc, char** argv) {
-    using namespace kelvra::console;
-    const ParsedOptions parsed = ParseOptions(argc, argv);
+    using namespace kelvra;
+    const options::Parsed parsed =
+        options::Parse(argc, argv,
+                       {"kelvra-console", "Kelvra without a display, driven by a script.",
+                        "[words of the command line...] [SCRIPT | -]", true});
     if (!parsed.options) {
-        Output(parsed.exitStatus == 0 ? stdout : stderr).Line(parsed.message);
+        console::Output(parsed.exitStatus == 0 ? stdout : stderr).Line(parsed.message);
         return parsed.exitStatus;
     }
-    return RunConsole(*parsed.options);
+    return console::RunConsole(*parsed.options);
 }

@@ -16,13 +16,21 @@ const T& As(const controls::Control& control) {
     return static_cast<const T&>(control);
 }
 
+// A TAB in a cell must not look like the next cell.
+std::string OneCell(std::string_view text) {
+    std::string cell = OneLine(text);
+    for (auto tab = cell.find('\t'); tab != std::string::npos; tab = cell.find('\t', tab))
+        cell.replace(tab, 1, "\\t");
+    return cell;
+}
+
 std::vector<std::string> GridLines(const controls::Grid& grid) {
     std::vector<std::string> lines;
     for (int row = 0; row < grid.Rows(); ++row) {
         std::string line;
         for (int column = 0; column < grid.Columns(); ++column) {
             if (column > 0) line += '\t';
-            line += OneLine(grid.At(row, column).text);
+            line += OneCell(grid.At(row, column).text);
         }
         lines.push_back(std::move(line));
     }
@@ -46,19 +54,32 @@ std::string OptionCaption(const controls::OptionGroup& group, int member) {
 std::vector<std::string> PrintLines(const controls::Control& control, int member) {
     using namespace controls;
     switch (control.kind()) {
-        case Kind::Grid: return GridLines(As<Grid>(control));
-        case Kind::List: return ListLines(As<List>(control));
-        case Kind::Label: return {OneLine(As<Label>(control).Caption.Get())};
-        case Kind::Button: return {OneLine(As<Button>(control).Caption.Get())};
-        case Kind::MenuItem: return {OneLine(As<MenuItem>(control).Caption.Get())};
-        case Kind::TextBox: return {OneLine(As<TextBox>(control).Text())};
-        case Kind::CheckBox: return {OneLine(As<CheckBox>(control).Caption.Get())};
-        case Kind::OptionGroup: return {OptionCaption(As<OptionGroup>(control), member)};
-        case Kind::RichText: return {OneLine(As<RichText>(control).Rtf.Get())};
-        case Kind::Picture: return {As<Picture>(control).Image.Get()};
-        case Kind::Frame: return {OneLine(As<Frame>(control).Caption.Get())};
-        case Kind::Window: return {OneLine(As<Window>(control).Caption.Get())};
-        case Kind::Graph: break;  // its content is for dump
+        case Kind::Grid:
+            return GridLines(As<Grid>(control));
+        case Kind::List:
+            return ListLines(As<List>(control));
+        case Kind::Label:
+            return {OneLine(As<Label>(control).Caption.Get())};
+        case Kind::Button:
+            return {OneLine(As<Button>(control).Caption.Get())};
+        case Kind::MenuItem:
+            return {OneLine(As<MenuItem>(control).Caption.Get())};
+        case Kind::TextBox:
+            return {OneLine(As<TextBox>(control).Text())};
+        case Kind::CheckBox:
+            return {OneLine(As<CheckBox>(control).Caption.Get())};
+        case Kind::OptionGroup:
+            return {OptionCaption(As<OptionGroup>(control), member)};
+        case Kind::RichText:
+            return {OneLine(As<RichText>(control).Rtf.Get())};
+        case Kind::Picture:
+            return {As<Picture>(control).Image.Get()};
+        case Kind::Frame:
+            return {OneLine(As<Frame>(control).Caption.Get())};
+        case Kind::Window:
+            return {OneLine(As<Window>(control).Caption.Get())};
+        case Kind::Graph:
+            break;  // its content is for dump
     }
     return {};
 }

@@ -10,6 +10,16 @@ namespace kelvra::console {
 
 using platform::LineInput;
 
+namespace {
+
+// Comments and empty lines are no commands and take no round.
+bool IsRemark(const std::string& line) {
+    const auto start = line.find_first_not_of(' ');
+    return start == std::string::npos || line[start] == '#';
+}
+
+}  // namespace
+
 Script::Script(const ScriptParts& parts)
     : p_(parts),
       waiting_(parts.kelvra.state, parts.clock),
@@ -28,9 +38,13 @@ bool Script::Step(platform::Duration patience) {
             break;
     }
     std::string line;
-    switch (ReadLine(line, patience)) {
+    LineInput::Result result = LineInput::Result::Line;
+    do {
+        result = ReadLine(line, patience);
+        if (result == LineInput::Result::Line) ++lineNumber_;
+    } while (result == LineInput::Result::Line && IsRemark(line));
+    switch (result) {
         case LineInput::Result::Line:
-            ++lineNumber_;
             Run(line);
             return true;
         case LineInput::Result::NotYet:
@@ -60,8 +74,6 @@ LineInput::Result Script::ReadLine(std::string& line, platform::Duration patienc
 }
 
 void Script::Run(const std::string& line) {
-    const auto start = line.find_first_not_of(' ');
-    if (start == std::string::npos || line[start] == '#') return;
     if (p_.echo) p_.output.Line("> " + line);
     const int number = lineNumber_;
     if (const CommandError error = RunCommand(context_, line)) {
@@ -77,11 +89,15 @@ void Script::Fail(const std::string& why) {
     End();
 }
 
-bool Script::EndRequested() const { return platform::TerminationRequested() || !p_.output.Good(); }
+bool Script::EndRequested() const {
+    return platform::TerminationRequested() || !p_.output.Good();
+}
 
 void Script::End() {
     if (ended_) return;
     ended_ = true;
+    interrupted_ = EndRequested();
+    if (context_.typedInto != nullptr) std::exchange(context_.typedInto, nullptr)->Leave();
     p_.kelvra.MFileExit_Click();
 }
 

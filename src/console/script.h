@@ -29,8 +29,9 @@ public:
     bool EndRequested() const override;
     void End() override;
 
-    // A command failed, or a line could not be read.
-    bool Failed() const { return failed_; }
+    // The script did not run to its end: a command failed, a line could not be read, or the system
+    // wanted the program to end.
+    bool Failed() const { return failed_ || interrupted_; }
 
 private:
     platform::LineInput::Result ReadLine(std::string& line, platform::Duration patience);
@@ -43,6 +44,7 @@ private:
     int lineNumber_ = 0;
     bool ended_ = false;
     bool failed_ = false;
+    bool interrupted_ = false;
 };
 
 }  // namespace kelvra::console

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Message boxes, prompts and file dialogs of a run without a person: written as lines, answered from a
-// queue that the script fills. One without an answer counts as cancelled.
+// Message boxes, prompts and file dialogs of a run without a person: written as lines, answered
+// from a queue that the script fills. One without an answer counts as cancelled.
 #pragma once
 
 #include <deque>
@@ -21,7 +21,8 @@ public:
 
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
-    std::optional<std::string> Prompt(const std::string& text, const std::string& proposed) override;
+    std::optional<std::string> Prompt(const std::string& text,
+                                      const std::string& proposed) override;
     std::optional<std::string> AskFile(const platform::FileQuestion& question) override;
     void OpenHelp(const std::string& file, int topic) override;
 

@@ -17,7 +17,8 @@ constexpr Duration LongSleep = std::chrono::hours(1);
 
 }  // namespace
 
-platform::Events::TimerId ScriptEvents::StartTimer(milliseconds interval, std::function<void()> handler) {
+platform::Events::TimerId ScriptEvents::StartTimer(milliseconds interval,
+                                                   std::function<void()> handler) {
     return timers_.Start(clock_.Monotonic(), interval, std::move(handler));
 }
 

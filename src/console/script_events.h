@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The event loop of a run without a person: timers, and the script, whose commands are the events. One
-// command is taken in a round. With a clock of its own, time moves only here and in sleeps: 1 ms a
-// round, and on to what is due next when nothing is.
+// The event loop of a run without a person: timers, and the script, whose commands are the events.
+// One command is taken in a round. With a clock of its own, time moves only here and in sleeps: 1
+// ms a round, and on to what is due next when nothing is.
 #pragma once
 
 #include <functional>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which controls have changed since a front end last looked. A front end that paints drains the list
-// at its own pace; one that doesn't never looks, and the list stays as short as there are controls.
+// Which controls have changed since a front end last looked. A front end that paints drains the
+// list at its own pace; one that doesn't never looks, and the list stays as short as there are
+// controls.
 #pragma once
 
 #include <functional>

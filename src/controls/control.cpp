@@ -7,8 +7,8 @@ namespace kelvra::controls {
 
 const char* KindName(Kind kind) {
     constexpr const char* names[] = {
-        "label", "button", "menu item", "text box",  "check box", "option group", "list",
-        "grid",  "graph",  "rich text", "picture", "frame",     "window",
+        "label", "button", "menu item", "text box", "check box", "option group", "list",
+        "grid",  "graph",  "rich text", "picture",  "frame",     "window",
     };
     return names[static_cast<int>(kind)];
 }
@@ -22,13 +22,13 @@ Control::Control(Kind kind, Changes& changes, std::string name)
     : kind_(kind), name_(std::move(name)), changes_(changes) {}
 
 bool Control::EffectivelyEnabled() const {
-    return Enabled && (parent_ == nullptr || parent_->kind_ == Kind::Window ||
-                       parent_->EffectivelyEnabled());
+    return Enabled &&
+           (parent_ == nullptr || parent_->kind_ == Kind::Window || parent_->EffectivelyEnabled());
 }
 
 bool Control::EffectivelyVisible() const {
-    return Visible && (parent_ == nullptr || parent_->kind_ == Kind::Window ||
-                       parent_->EffectivelyVisible());
+    return Visible &&
+           (parent_ == nullptr || parent_->kind_ == Kind::Window || parent_->EffectivelyVisible());
 }
 
 }  // namespace kelvra::controls

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What every control has: a name, a place in its window's tree, and properties that mark the control
-// as changed when they are given another value. Controls hold state and raise events; the rules that
-// read and write them are elsewhere, and so is all drawing.
+// What every control has: a name, a place in its window's tree, and properties that mark the
+// control as changed when they are given another value. Controls hold state and raise events; the
+// rules that read and write them are elsewhere, and so is all drawing.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,19 @@
 namespace kelvra::controls {
 
 enum class Kind {
-    Label, Button, MenuItem, TextBox, CheckBox, OptionGroup, List, Grid, Graph, RichText, Picture,
-    Frame, Window,
+    Label,
+    Button,
+    MenuItem,
+    TextBox,
+    CheckBox,
+    OptionGroup,
+    List,
+    Grid,
+    Graph,
+    RichText,
+    Picture,
+    Frame,
+    Window,
 };
 
 // The kind's name for people and scripts: "text box".
@@ -32,7 +43,9 @@ public:
     Property& operator=(const Property&) = delete;
 
     const T& Get() const { return value_; }
-    operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor): reads like the value
+    operator const T&() const {
+        return value_;
+    }  // NOLINT(google-explicit-constructor): reads like the value
     const T* operator->() const { return &value_; }
 
     // True when the value was another one.
@@ -59,8 +72,8 @@ public:
     Control* Parent() const { return parent_; }
     const std::vector<Control*>& Children() const { return children_; }
 
-    // What a person meets: a control is disabled or hidden when its own flag or that of a frame around
-    // it says so. That its window is hidden does not count.
+    // What a person meets: a control is disabled or hidden when its own flag or that of a frame
+    // around it says so. That its window is hidden does not count.
     bool EffectivelyEnabled() const;
     bool EffectivelyVisible() const;
 

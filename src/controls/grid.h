@@ -25,7 +25,7 @@ public:
         Align align = Align::Left;
         std::optional<Colour> back;  // none: the grid's own colour
         std::string tooltip;
-        bool changed = false;        // since the last TakeChangedCells
+        bool changed = false;  // since the last TakeChangedCells
     };
 
     // Row 0 is the heading.
@@ -40,8 +40,8 @@ public:
     void SetRows(int rows);  // new cells are empty
     void SetWidth(int column, int width);
 
-    // The one writer of cells. A row or column (from 0) beyond the last one makes the grid grow to it.
-    // Without a colour the cell keeps its own.
+    // The one writer of cells. A row or column (from 0) beyond the last one makes the grid grow to
+    // it. Without a colour the cell keeps its own.
     void SetCell(int row, int column, std::string_view text, Align align, bool bold, bool italic,
                  std::optional<Colour> back = std::nullopt);
     // The same for a cell that is there and keeps its text.
@@ -49,7 +49,8 @@ public:
 
     void SetCellTooltip(int row, int column, std::string_view text);
 
-    // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up again.
+    // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up
+    // again.
     Event<int, int> MouseDown;
     Event<int, int> Click;
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The simple kinds of controls. What a person does comes in through the functions named after the
-// act (Press, Type, ...) and always raises the event; the program's own writes go to the properties,
-// and raise the event only where the comment at the property says so, and only for another value.
+// act (Press, Type, ...) and always raises the event; the program's own writes go to the
+// properties, and raise the event only where the comment at the property says so, and only for
+// another value.
 #pragma once
 
 #include <string>
@@ -138,7 +139,8 @@ private:
 
 class RichText : public Control {
 public:
-    RichText(Control& parent, std::string name) : Control(Kind::RichText, parent, std::move(name)) {}
+    RichText(Control& parent, std::string name)
+        : Control(Kind::RichText, parent, std::move(name)) {}
 
     Property<std::string> Rtf{*this, {}};
 };

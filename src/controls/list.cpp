@@ -47,7 +47,9 @@ void List::Add(std::string text, int data) {
     MarkChanged();
 }
 
-void List::Preselect(int index) { Select(index); }
+void List::Preselect(int index) {
+    Select(index);
+}
 
 void List::SetIndex(int index) {
     if (Select(index)) Click.Raise();

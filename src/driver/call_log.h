@@ -15,12 +15,12 @@ namespace kelvra::driver {
 
 // How the two lines of a call are written; the arguments are numbers with their sign place.
 enum class LogForm {
-    General,            // name( a, b ) STARTING         name -> FINISHED
-    BlankAfterName,     // name ( a, b ) STARTING        name  -> FINISHED
-    NameAlone,          // name                          name -> FINISHED
-    ArgumentsAgain,     // name( a, b ) STARTING         name( a, b ) FINISHED
-    TypeNormal,         // name( a, b, 0) STARTING       name -> FINISHED   (the last argument is 0)
-    TypeNoise,          // name( a, b, 1 ) STARTING      name -> FINISHED   (the last argument is 1)
+    General,         // name( a, b ) STARTING         name -> FINISHED
+    BlankAfterName,  // name ( a, b ) STARTING        name  -> FINISHED
+    NameAlone,       // name                          name -> FINISHED
+    ArgumentsAgain,  // name( a, b ) STARTING         name( a, b ) FINISHED
+    TypeNormal,      // name( a, b, 0) STARTING       name -> FINISHED   (the last argument is 0)
+    TypeNoise,       // name( a, b, 1 ) STARTING      name -> FINISHED   (the last argument is 1)
 };
 
 struct LogFrame {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The sensor models: under which USB product id the driver knows each, and which measurement modes it
-// offers. One table; a new model is a line of it.
+// The sensor models: under which USB product id the driver knows each, and which measurement modes
+// it offers. One table; a new model is a line of it.
 #pragma once
 
 #include <span>

@@ -27,7 +27,7 @@ std::string DebugIf::Line(std::string_view text) {
 void DebugIf::KillOld() {
     if (DebugFileName.empty() || !files_.Exists(DebugFileName)) return;
     const std::error_code error = files_.Remove(DebugFileName);
-    if (error && onFailure) onFailure(DebugFileName, error.message());
+    if (error && STAT && onFailure) onFailure(DebugFileName, error.message());
 }
 
 }  // namespace kelvra::driver

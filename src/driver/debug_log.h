@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The debug log: a text file that gets a line for whatever is worth tracing, while it is switched on.
-// Opens, appends and closes for every line, so that the last line before a crash is there.
+// The debug log: a text file that gets a line for whatever is worth tracing, while it is switched
+// on. Opens, appends and closes for every line, so that the last line before a crash is there.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ public:
     DebugIf(platform::Files& files, platform::Clock& clock, const util::NumberForm& numbers)
         : files_(files), clock_(clock), numbers_(numbers) {}
 
-    bool STAT = false;         // logging is on
+    bool STAT = false;  // logging is on
     std::string DebugFileName;
     bool TimeSamping = false;  // each line begins with the time of day: "00,043,200.000:"
     std::string DebugHeader;   // each line's prefix behind the time, after a blank
@@ -28,7 +28,7 @@ public:
     // Deletes an existing log file, whether logging is on or off.
     void KillOld();
 
-    // Told once, with the system's reason, when the log can't be written.
+    // Told once, with the system's reason, when the log can't be written while logging is on.
     std::function<void(const std::string& path, const std::string& reason)> onFailure;
 
 private:

@@ -11,7 +11,8 @@ std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugIf
                                            const char* name, OperationList& operations) {
     platform::LoadedLibrary loaded = computer.LoadDriverLibrary(name);
     operations.libraryFile = loaded.fileName;
-    operations.libraryFound = loaded.library != nullptr;
+    operations.libraryLoaded = loaded.library != nullptr;
+    operations.whyNotLoaded = loaded.why;
     if (!loaded.library) {
         log.OutputDebug("Driver library " + loaded.fileName + " was not loaded: " + loaded.why);
         return nullptr;
@@ -33,9 +34,11 @@ void DriverLibrary::Load(platform::Computer& computer, DebugIf& log) {
 }
 
 std::string MissingText(const OperationList& operations, const OperationBase& missing) {
-    if (!operations.libraryFound)
-        return "The driver library " + operations.libraryFile + " was not found.";
-    return "The driver library " + operations.libraryFile + " has no function " + missing.name + ".";
+    if (!operations.libraryLoaded)
+        return "The driver library " + operations.libraryFile +
+               " could not be loaded: " + operations.whyNotLoaded;
+    return "The driver library " + operations.libraryFile + " has no function " + missing.name +
+           ".";
 }
 
 }  // namespace kelvra::driver

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two driver libraries in this process: loaded by name, their functions found by the names of the
-// operations. Neither a missing library nor a missing function is an error here; the log says so, and
-// calls fail.
+// The two driver libraries in this process: loaded by name, their functions found by the names of
+// the operations. Neither a missing library nor a missing function is an error here; the log says
+// so, and calls fail.
 #pragma once
 
 #include <memory>

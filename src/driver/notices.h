@@ -12,7 +12,8 @@ public:
 
     // Shows an error text of a slot's sensor, or clears what is shown. A general message is one of
     // the program's own and gets no sensor name in front.
-    virtual void ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) = 0;
+    virtual void ShowSensorError(bool isError, int slot, const std::string& text,
+                                 bool isGeneral) = 0;
 };
 
 class TransferMarks {

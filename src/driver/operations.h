@@ -3,9 +3,9 @@
 // loaded by name, called, and named in the log. The libraries behind them are plugged in by
 // driver_library.h, or by a test.
 //
-// What an operation is given or gives back is typed by the libraries' C interface: statuses and whole
-// numbers of 32 bits, booleans of 16 (0 or 1), texts of 8-bit characters. On 32-bit Windows the functions
-// are called by __stdcall.
+// What an operation is given or gives back is typed by the libraries' C interface: statuses and
+// whole numbers of 32 bits, booleans of 16 (0 or 1), texts of 8-bit characters. On 32-bit Windows
+// the functions are called by __stdcall.
 #pragma once
 
 #include <cstdint>
@@ -20,10 +20,10 @@ namespace kelvra::driver {
 #define KELVRA_DRIVER_CALL
 #endif
 
-using Status = std::int32_t;     // 0: success
-using Handle = std::uint32_t;    // of a session; 0: none
-using Channel = std::int32_t;    // slot index + 1
-using Switch = std::uint16_t;    // 0 or 1
+using Status = std::int32_t;   // 0: success
+using Handle = std::uint32_t;  // of a session; 0: none
+using Channel = std::int32_t;  // slot index + 1
+using Switch = std::uint16_t;  // 0 or 1
 constexpr Status MissingFunction = -1;
 
 class OperationList;
@@ -47,8 +47,9 @@ private:
 class OperationList {
 public:
     std::vector<OperationBase*> all;
-    std::string libraryFile;              // as it was looked for
-    bool libraryFound = false;
+    std::string libraryFile;  // as it was looked for
+    bool libraryLoaded = false;
+    std::string whyNotLoaded;
     const OperationBase* missing = nullptr;  // set while the last call was of one that isn't there
 };
 
@@ -100,7 +101,8 @@ struct InstrumentOperations : OperationList {
     Op<Handle, Channel> psdrv_meass_sendSoftwareTrigger{*this, "psdrv_meass_sendSoftwareTrigger"};
     Op<Handle, Channel, Switch*> psdrv_chan_isMeasurementComplete{
         *this, "psdrv_chan_isMeasurementComplete"};
-    Op<Handle, Channel, double*> psdrv_meass_fetchMeasurement{*this, "psdrv_meass_fetchMeasurement"};
+    Op<Handle, Channel, double*> psdrv_meass_fetchMeasurement{*this,
+                                                              "psdrv_meass_fetchMeasurement"};
     Op<Handle, Channel, Int, double*, Int*> psdrv_meass_fetchBufferMeasurement{
         *this, "psdrv_meass_fetchBufferMeasurement"};
     Op<Handle, Channel, Int*> psdrv_avg_getCount{*this, "psdrv_avg_getCount"};
@@ -121,7 +123,8 @@ struct InstrumentOperations : OperationList {
     SwitchSetter psdrv_corr_setOffsetEnabled{*this, "psdrv_corr_setOffsetEnabled"};
     DoubleSetter psdrv_corr_setOffset{*this, "psdrv_corr_setOffset"};
     SwitchSetter psdrv_corr_setSParamDeviceEnabled{*this, "psdrv_corr_setSParamDeviceEnabled"};
-    SwitchSetter psdrv_chan_setSourceGammaCorrEnabled{*this, "psdrv_chan_setSourceGammaCorrEnabled"};
+    SwitchSetter psdrv_chan_setSourceGammaCorrEnabled{*this,
+                                                      "psdrv_chan_setSourceGammaCorrEnabled"};
     DoubleSetter psdrv_chan_setSourceGammaMagnitude{*this, "psdrv_chan_setSourceGammaMagnitude"};
     DoubleSetter psdrv_chan_setSourceGammaPhase{*this, "psdrv_chan_setSourceGammaPhase"};
     SwitchSetter psdrv_corr_setDutyCycleEnabled{*this, "psdrv_corr_setDutyCycleEnabled"};
@@ -146,10 +149,11 @@ struct InstrumentOperations : OperationList {
     // measurement modes
     SwitchSetter psdrv_chan_setContAvBufferedEnabled{*this, "psdrv_chan_setContAvBufferedEnabled"};
     DoubleSetter psdrv_chan_setContAvAperture{*this, "psdrv_chan_setContAvAperture"};
-    SwitchSetter psdrv_chan_setContAvSmoothingEnabled{*this, "psdrv_chan_setContAvSmoothingEnabled"};
+    SwitchSetter psdrv_chan_setContAvSmoothingEnabled{*this,
+                                                      "psdrv_chan_setContAvSmoothingEnabled"};
     IntSetter psdrv_chan_setContAvBufferSize{*this, "psdrv_chan_setContAvBufferSize"};
-    Op<Handle, Channel, Int, double> psdrv_tslot_configureTimeSlot{
-        *this, "psdrv_tslot_configureTimeSlot"};
+    Op<Handle, Channel, Int, double> psdrv_tslot_configureTimeSlot{*this,
+                                                                   "psdrv_tslot_configureTimeSlot"};
     Op<Handle, Channel, double, double> psdrv_timing_configureExclude{
         *this, "psdrv_timing_configureExclude"};
     DoubleSetter psdrv_chan_setBurstDropoutTolerance{*this, "psdrv_chan_setBurstDropoutTolerance"};

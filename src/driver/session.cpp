@@ -19,7 +19,9 @@ constexpr auto OpeningPause = std::chrono::milliseconds(100);
 constexpr std::int32_t CheckIdentity = 1;
 constexpr std::int32_t ResetDevice = 1;
 
-std::string Trimmed(std::int64_t number) { return util::TrimmedNumberText(number); }
+std::string Trimmed(std::int64_t number) {
+    return util::TrimmedNumberText(number);
+}
 
 }  // namespace
 
@@ -31,12 +33,14 @@ void Session::OpenSensor(int slot) {
         return;
     }
     entry.SessionOpen = false;
+    entry.LastErrorText.clear();
     const std::string resource = entry.ResourceName;
     if (util::TrimSpaces(resource).empty()) return;
     if (slot != 0 && state.instrumentHandle == 0) return;
     const Status status = slot == 0 ? OpenFirst(resource) : AddFurther(slot, resource);
     if (state.instrumentHandle != 0) state.SessionClosed = false;
-    if (CheckStatus(status, true)) return;
+    // Without a handle there is no session, whatever the status says.
+    if (CheckStatus(status, true) || state.instrumentHandle == 0) return;
     table_[slot].SessionOpen = true;
     table_[slot].WaitTicks = 0;
 }
@@ -78,39 +82,44 @@ void Session::Close() {
     for (sensors::SensorEntry& entry : table_.Sensors) entry.SessionOpen = false;
 }
 
-Session::ErrorWords Session::WordsFor(Status status, bool logged) {
+template <class Call>
+void Session::Framed(bool logged, const OperationBase& operation, Status status, Call call) {
+    const bool write = logged && log.STAT;
+    const std::string name(operation.name);
+    if (write)
+        log.OutputDebug(name + "( " + ArgumentText(state.instrumentHandle, status) + " ) STARTING");
+    call();
+    if (write) log.OutputDebug(name + " -> FINISHED");
+}
+
+std::string Session::Message(Status status, bool logged) {
+    // Who shows the same status next has to name what is missing too.
     const OperationBase* missing = status == MissingFunction ? operations.missing : nullptr;
-    const auto framed = [&](const OperationBase& operation, auto call) {
-        const bool write = logged && log.STAT;
-        const std::string name(operation.name);
-        if (write)
-            log.OutputDebug(name + "( " + ArgumentText(state.instrumentHandle, status) +
-                            " ) STARTING");
-        call();
-        if (write) log.OutputDebug(name + " -> FINISHED");
-    };
     TextBuffer message;
-    framed(operations.psdrv_error_message, [&] {
-        operations.psdrv_error_message(state.instrumentHandle, status, message.Data());
-    });
+    Framed(logged, operations.psdrv_error_message, status,
+           [&] { operations.psdrv_error_message(state.instrumentHandle, status, message.Data()); });
+    operations.missing = missing;
+    if (missing != nullptr) return MissingText(operations, *missing);
+    const std::string text = message.Text();
+    return text.empty() ? Trimmed(status) : text;
+}
+
+std::string Session::Query(Status status, bool logged) {
+    const OperationBase* missing = operations.missing;
     TextBuffer query;
     std::int32_t code = 0;
-    framed(operations.psdrv_error_query, [&] {
-        operations.psdrv_error_query(state.instrumentHandle, &code, query.Data());
-    });
-    ErrorWords words{missing != nullptr ? MissingText(operations, *missing) : message.Text(),
-                     query.Text()};
-    if (words.message.empty()) words.message = Trimmed(status);
-    operations.missing = missing;  // who shows the same status next has to name it too
-    return words;
+    Framed(logged, operations.psdrv_error_query, status,
+           [&] { operations.psdrv_error_query(state.instrumentHandle, &code, query.Data()); });
+    operations.missing = missing;
+    return query.Text();
 }
 
 bool Session::CheckStatus(Status status, bool closeOnError) {
     std::string message;
     if (status != 0) {
-        const ErrorWords words = WordsFor(status, true);
-        message = words.message;
-        host_.dialogs.Message({}, words.message + "\r\n(" + words.query + ")",
+        message = Message(status, true);
+        const std::string query = Query(status, true);
+        host_.dialogs.Message({}, message + "\r\n(" + query + ")",
                               platform::MessageIcon::Exclamation);
         if (closeOnError) Close();
     }
@@ -120,17 +129,17 @@ bool Session::CheckStatus(Status status, bool closeOnError) {
 
 void Session::ReportError(Status status, int slot, const char* context) {
     if (status == 0) return;
-    const ErrorWords words = WordsFor(status, false);
-    if (log.STAT) {
+    if (log.STAT)
         log.OutputDebug("   ERROR: Session " +
                         util::NumberText(std::int64_t{state.instrumentHandle}) + ", Code " +
                         util::NumberText(std::int64_t{status}) + "=0x" +
                         util::HexText(static_cast<std::uint32_t>(status)));
-        log.OutputDebug("   error_message: " + words.message);
-        log.OutputDebug("   error_query: '" + words.query + "'");
-    }
+    const std::string message = Message(status, false);
+    log.OutputDebug("   error_message: " + message);
+    const std::string query = Query(status, false);
+    log.OutputDebug("   error_query: '" + query + "'");
     std::string& text = table_[slot].LastErrorText;
-    text += std::string(context) + "\r\n  " + words.message + "\r\n  " + words.query + "\r\n";
+    text += std::string(context) + "\r\n  " + message + "\r\n  " + query + "\r\n";
     notices_.ShowSensorError(true, slot, text, false);
 }
 

@@ -36,9 +36,9 @@ public:
     InstrumentOperations& operations;
     DebugIf& log;
 
-    // Opens the slot's channel: slot 0 opens the session, the others are added to it and stay closed
-    // until there is one. A failure is shown in a message box and ends the session. In simulation mode
-    // the slot is open at once. The entry's SessionOpen says how it went.
+    // Opens the slot's channel: slot 0 opens the session, the others are added to it and stay
+    // closed until there is one. A failure is shown in a message box and ends the session. In
+    // simulation mode the slot is open at once. The entry's SessionOpen says how it went.
     void OpenSensor(int slot);
 
     // Ends the session, if there is one: handle, flag and every slot's SessionOpen together.
@@ -48,18 +48,20 @@ public:
     // context is a short label of what was called.
     void ReportError(Status status, int slot, const char* context);
 
-    // The driver's words for a status, and the sensor's own. A driver that lacks the function that was
+    // The driver's words for the status of the last call. A driver that lacks the function that was
     // called gets Kelvra's words, one without messages the number of the status.
-    struct ErrorWords {
-        std::string message;
-        std::string query;
-    };
-    ErrorWords WordsFor(Status status, bool logged);
+    std::string MessageFor(Status status) { return Message(status, true); }
 
 private:
     Status OpenFirst(const std::string& resource);
     Status AddFurther(int slot, const std::string& resource);
-    // Shows a failed status to the user; true when it was one. ReconnectPrompt follows from the words.
+    std::string Message(Status status, bool logged);
+    // The sensor's own words, an entry of its error queue.
+    std::string Query(Status status, bool logged);
+    template <class Call>
+    void Framed(bool logged, const OperationBase& operation, Status status, Call call);
+    // Shows a failed status to the user; true when it was one. ReconnectPrompt follows from the
+    // words.
     bool CheckStatus(Status status, bool closeOnError);
 
     sensors::SensorTable& table_;
@@ -67,6 +69,8 @@ private:
     SensorNotices& notices_;
 };
 
-constexpr Channel ChannelOf(int slot) { return slot + 1; }
+constexpr Channel ChannelOf(int slot) {
+    return slot + 1;
+}
 
 }  // namespace kelvra::driver

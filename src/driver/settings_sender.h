@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sends single settings of one channel, each framed in the log. A setting with a label has its status
-// reported under it; one without is sent unchecked.
+// Sends single settings of one channel, each framed in the log. A setting with a label has its
+// status reported under it; one without is sent unchecked.
 #pragma once
 
 #include "driver/call_log.h"
@@ -23,8 +23,9 @@ public:
     template <class... Parameters, class... Values>
     void Send(LogForm form, const Operation<Handle, Channel, Parameters...>& operation,
               const char* label, Values... values) {
-        const Status status = FramedCall(session_.log, form, operation,
-                                         session_.state.instrumentHandle, ChannelOf(slot_), values...);
+        const Status status =
+            FramedCall(session_.log, form, operation, session_.state.instrumentHandle,
+                       ChannelOf(slot_), values...);
         if (label != Unchecked) session_.ReportError(status, slot_, label);
     }
 

@@ -25,10 +25,14 @@ constexpr Switch On = 1;
 constexpr std::int32_t TypeNormal = 0;
 constexpr std::int32_t TypeNoise = 1;
 
-Switch SwitchOf(bool on) { return on ? On : Off; }
+Switch SwitchOf(bool on) {
+    return on ? On : Off;
+}
 
 // How results are delivered while averaging goes on.
-std::int32_t TerminalControl(bool moving) { return moving ? 0 : 1; }
+std::int32_t TerminalControl(bool moving) {
+    return moving ? 0 : 1;
+}
 
 // The resolution as the driver's whole number; the driver refuses what no one could mean.
 std::int32_t Resolution(double value) {
@@ -169,7 +173,8 @@ void SendMode(SettingsSender& send, InstrumentOperations& op, const SensorSettin
             break;
         case sensors::BufferedAverage:
             send(op.psdrv_chan_setContAvBufferedEnabled, "BufferedAV", On);
-            send(op.psdrv_chan_setContAvBufferSize, "BufferedAV Size", std::int32_t{s.BuffAVBuffer});
+            send(op.psdrv_chan_setContAvBufferSize, "BufferedAV Size",
+                 std::int32_t{s.BuffAVBuffer});
             break;
         case sensors::TimeSlot:
             send(op.psdrv_tslot_configureTimeSlot, "Time Slot Configuration",

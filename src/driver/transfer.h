@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The transfer of one sensor's settings to the driver: reset, averaging, corrections, range, trigger,
-// mode, in a fixed order. A failing call is reported and the transfer goes on.
+// The transfer of one sensor's settings to the driver: reset, averaging, corrections, range,
+// trigger, mode, in a fixed order. A failing call is reported and the transfer goes on.
 #pragma once
 
 #include "driver/session.h"
@@ -13,8 +13,9 @@ public:
                           TransferMarks& marks)
         : session_(session), table_(table), notices_(notices), marks_(marks) {}
 
-    // Sends the slot's settings and clears its SettingsChanged, whatever the driver said; at the end
-    // the errors of the transfer are shown, or the error strip is cleared. Never in simulation mode.
+    // Sends the slot's settings and clears its SettingsChanged, whatever the driver said; at the
+    // end the errors of the transfer are shown, or the error strip is cleared. Never in simulation
+    // mode.
     void ConfigureSensor(int slot);
 
 private:

@@ -22,8 +22,8 @@ constexpr const char* NoReading = "---";
 std::optional<double> ReadingOf(const sensors::SensorTable& table, const ReadingName& name) {
     if (name.slot < 0 || name.slot >= table.Slots()) return std::nullopt;
     const sensors::SensorEntry& entry = table[name.slot];
-    const bool scalar = entry.Settings.Mode == sensors::ContinuousAverage ||
-                        entry.Settings.Mode == sensors::Burst;
+    const bool scalar =
+        entry.Settings.Mode == sensors::ContinuousAverage || entry.Settings.Mode == sensors::Burst;
     if (!entry.Present || !entry.Enabled || !scalar) return std::nullopt;
     return name.inDbm ? util::W2dBm(std::abs(entry.LastReading)) : entry.LastReading;
 }
@@ -74,7 +74,8 @@ void CalcGrid::ComputeRow(int row) {
     const double result = parser.Eval();
     SetGridCell(grid_, row, ResultColumn, util::FixedText(result, 3, host_.computer.Numbers()),
                 Align::Left, false, false);
-    grid_.SetCellTooltip(row, ResultColumn, parser.ErrorDescription());
+    grid_.SetCellTooltip(row, ResultColumn,
+                         parser.Failed() ? std::string_view(parser.ErrorDescription()) : "");
 }
 
 // An unchanged formula stays compiled.

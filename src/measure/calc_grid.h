@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The calculation grid: two formulas of the user's over the latest readings, computed once a pass. A
-// click on a cell asks for its new text. The formula language itself is parser/.
+// The calculation grid: two formulas of the user's over the latest readings, computed once a pass.
+// A click on a cell asks for its new text. The formula language itself is parser/.
 #pragma once
 
 #include <memory>
@@ -21,9 +21,9 @@ public:
     // Heading and the two default rows.
     void LayOut();
 
-    // Writes the result of both rows: the value as "0.000" (0.000 for a formula that fails), or "---"
-    // when a variable names no sensor with a scalar reading. A row without a name is left alone. The
-    // result cell's tooltip says what is wrong.
+    // Writes the result of both rows: the value as "0.000" (0.000 for a formula that fails), or
+    // "---" when a variable names no sensor with a scalar reading. A row without a name is left
+    // alone. The result cell's tooltip says what is wrong.
     void Compute();
 
 private:

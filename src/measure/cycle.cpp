@@ -33,8 +33,8 @@ void Cycle::Pass() {
     pacing_.PassBegins();
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) continue;
-        PrepareSlot(slot);
-        if (p_.state.Ending()) return;
+        const bool prepared = PrepareSlot(slot);
+        if (!prepared || p_.state.Ending()) return;
     }
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].TriggerNowRequest = false;
     speed_.Restart();
@@ -55,36 +55,38 @@ void Cycle::Pass() {
     ++p_.state.Passes;
 }
 
-// A slot that was closed since the last pass is opened again; changed settings are sent.
-void Cycle::PrepareSlot(int slot) {
+// A slot that was closed since the last pass is opened again; changed settings are sent. A failed
+// opening has closed the session of all: then the pass starts over.
+bool Cycle::PrepareSlot(int slot) {
     if (!p_.table[slot].SessionOpen) {
         p_.session.OpenSensor(slot);
-        if (p_.state.exiting) return;
+        if (p_.state.exiting) return false;
         if (!p_.table[slot].SessionOpen) {
+            ShowSwitch(slot);
             TakeOut(slot);
-            return;
+            return false;
         }
         sensors::PrepareWorkArrays(p_.table, slot);
         Configure(slot);
-        if (p_.state.exiting) return;
+        if (p_.state.exiting) return false;
     }
     if (p_.table[slot].SettingsChanged) {
         Configure(slot);
-        if (p_.state.exiting) return;
+        if (p_.state.exiting) return false;
         if (!p_.table.SimulationMode) sensors::PrepareWorkArrays(p_.table, slot);
     }
     sensors::SensorEntry& entry = p_.table[slot];
     entry.MeasPending = 1;
     ++entry.WaitTicks;
     p_.results.ShowActivity(slot, true);
+    return true;
 }
 
-// What can't be opened again isn't tried in every pass, with a message each time.
+// What can't be opened again isn't tried in every pass, with a message each time. Without slot 0
+// there is no session for the others.
 void Cycle::TakeOut(int slot) {
     measured_[static_cast<std::size_t>(slot)] = false;
-    for (int other = 0; other < p_.table.Slots(); ++other)
-        if (Takes(other)) return;
-    StopIt_Click();
+    if (slot == 0) StopIt_Click();
 }
 
 void Cycle::Configure(int slot) {
@@ -136,8 +138,8 @@ bool Cycle::AskWhetherComplete(int slot) {
     const driver::Handle handle = p_.session.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     if (p_.table[slot].TriggerNowRequest) {
-        driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger, handle,
-                           channel);
+        driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger,
+                           handle, channel);
         p_.table[slot].TriggerNowRequest = false;
     }
     const std::string name = log.STAT ? op.psdrv_chan_isMeasurementComplete.name : "";
@@ -157,7 +159,7 @@ void Cycle::ShowWaiting(int slot, driver::Status status) {
     if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.ErrorShown) return;
     std::string text = "Waiting for a trigger signal at sensor " +
                        util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
-    if (status != 0) text += ": " + p_.session.WordsFor(status, false).message;
+    if (status != 0) text += ": " + p_.session.MessageFor(status);
     ShowNotice(p_.forms.mdiMain, std::move(text));
     lastNotice_ = now;
 }

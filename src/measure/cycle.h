@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The measurement cycle: what the Start button runs until Stop. It keeps the program alive by letting
-// events run at fixed points; Stop, the windows and the timers act in those gaps and talk to it
-// through flags. Preparing a measurement is in cycle_start.cpp, the passes are in cycle.cpp.
+// The measurement cycle: what the Start button runs until Stop. It keeps the program alive by
+// letting events run at fixed points; Stop, the windows and the timers act in those gaps and talk
+// to it through flags. Preparing a measurement is in cycle_start.cpp, the passes are in cycle.cpp.
 #pragma once
 
 #include <chrono>
@@ -43,8 +43,9 @@ class Cycle {
 public:
     explicit Cycle(const CycleParts& parts);
 
-    // Runs the whole measurement and returns after Stop, or after a start that failed: then the window
-    // stays as if measuring until Stop is pressed. Does nothing while it, or a sensor command, runs.
+    // Runs the whole measurement and returns after Stop, or after a start that failed: then the
+    // window stays as if measuring until Stop is pressed. Does nothing while it, or a sensor
+    // command, runs.
     void StartIt_Click();
 
     // Ends the measurement, and a recording, at the cycle's next look; the window is idle at once.
@@ -59,6 +60,7 @@ private:
     void FindModes();
     Prepared OpenSensors();
     bool OpenAndConfigure(int slot);
+    void ShowSwitch(int slot);
     void ShowStartFailure();
     void ShowIdle();
     void LetEventsRunIfLate();
@@ -66,7 +68,7 @@ private:
     // cycle.cpp
     void DoEvents(std::chrono::milliseconds patience = {});
     void Pass();
-    void PrepareSlot(int slot);
+    bool PrepareSlot(int slot);
     void TakeOut(int slot);
     void Configure(int slot);
     void Initiate();

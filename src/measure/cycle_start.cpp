@@ -68,6 +68,7 @@ void Cycle::StopIt_Click() {
     p_.state.StopRequested = true;
     p_.state.RecordInterval = 0;
     p_.forms.mdiMain.FileSaveData.Caption = "Record Data...";
+    if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);
     ShowIdle();
 }
 
@@ -143,11 +144,21 @@ Cycle::Prepared Cycle::OpenSensors() {
 bool Cycle::OpenAndConfigure(int slot) {
     if (!p_.table[slot].SessionOpen) {
         p_.session.OpenSensor(slot);
-        if (!p_.table[slot].SessionOpen) return false;
+        if (!p_.table[slot].SessionOpen) {
+            ShowSwitch(slot);
+            return false;
+        }
         sensors::PrepareWorkArrays(p_.table, slot);
     }
     Configure(slot);
     return true;
+}
+
+// A sensor that can't be added to the session has been switched off.
+void Cycle::ShowSwitch(int slot) {
+    if (p_.state.exiting || p_.table[slot].Enabled) return;
+    p_.results.PaintName(slot);
+    p_.selection.UpdateSensSelect();
 }
 
 void Cycle::LetEventsRunIfLate() {

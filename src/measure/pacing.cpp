@@ -14,6 +14,8 @@ using std::chrono::seconds;
 namespace {
 
 constexpr auto Pause = milliseconds(1);
+// A pass that began this much behind the last deadline has lost the spacing.
+constexpr auto Slack = milliseconds(50);
 constexpr int NoSlot = 0;  // general messages name no sensor
 
 }  // namespace
@@ -22,9 +24,10 @@ platform::Duration Pacing::Deadline() const {
     const platform::Duration interval = seconds(state_.RecordInterval);
     const platform::Duration own = passBegan_ + interval;
     if (!lastDeadline_) return own;
-    // A pass that began at the last deadline, or a moment behind it, keeps to the even spacing.
     const platform::Duration even = *lastDeadline_ + interval;
-    return even > host_.clock.Monotonic() ? even : own;
+    const bool keepsSpacing =
+        passBegan_ - *lastDeadline_ <= Slack && even > host_.clock.Monotonic();
+    return keepsSpacing ? even : own;
 }
 
 void Pacing::WaitForDeadline() {
@@ -42,13 +45,15 @@ void Pacing::WaitForDeadline() {
         ShowDelay(left);
         host_.clock.Sleep(Pause);
     }
-    lastDeadline_ = keepsUp ? std::optional(deadline) : std::nullopt;
+    const bool reached = host_.clock.Monotonic() >= deadline;
+    lastDeadline_ = keepsUp && reached ? std::optional(deadline) : std::nullopt;
 }
 
 void Pacing::ShowDelay(platform::Duration left) {
     const auto whole = std::chrono::ceil<seconds>(left).count();
     notices_.ShowSensorError(
-        true, NoSlot, "Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}) + "    ", true);
+        true, NoSlot, "Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}) + "    ",
+        true);
 }
 
 }  // namespace kelvra::measure

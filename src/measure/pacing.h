@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Holds each pass back to the recording interval. While passes keep up, the deadlines are an interval
-// apart exactly, so a recording doesn't drift; after a pass that took longer they start anew. Goes by
-// the monotonic clock, so midnight and a clock that is set don't matter.
+// Holds each pass back to the recording interval. While passes keep up, the deadlines are an
+// interval apart exactly, so a recording doesn't drift; after a pass that took longer they start
+// anew. Goes by the monotonic clock, so midnight and a clock that is set don't matter.
 #pragma once
 
 #include <optional>

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string>
 
+#include "driver/call_log.h"
 #include "measure/simulation.h"
 #include "util/levels.h"
 #include "util/number_text.h"
@@ -15,8 +16,15 @@ namespace {
 
 using controls::Align;
 
-std::string Number(std::int64_t value) { return util::NumberText(value); }
-std::string Number(double value) { return util::NumberText(value); }
+std::string Number(std::int32_t value) {
+    return util::NumberText(std::int64_t{value});
+}
+std::string Number(std::int64_t value) {
+    return util::NumberText(value);
+}
+std::string Number(double value) {
+    return util::NumberText(value);
+}
 
 // The frame of a call that gives back a value: the value stands in both lines.
 template <class Value>
@@ -26,8 +34,7 @@ void FramedFetch(driver::DebugIf& log, const char* name, driver::Handle handle,
         log.OutputDebug(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
                         Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
     call();
-    if (log.STAT)
-        log.OutputDebug(std::string(name) + " -> " + Number(value) + " ) FINISHED");
+    if (log.STAT) log.OutputDebug(std::string(name) + " -> " + Number(value) + " ) FINISHED");
 }
 
 }  // namespace
@@ -57,15 +64,13 @@ void Readings::FetchScalar(int slot) {
     const driver::Handle handle = session_.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     sensors::SensorEntry& entry = table_[slot];
-    FramedFetch(session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.LastReading,
-                [&] {
-                    session_.operations.psdrv_meass_fetchMeasurement(handle, channel,
-                                                                     &entry.LastReading);
-                });
+    FramedFetch(
+        session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.LastReading, [&] {
+            session_.operations.psdrv_meass_fetchMeasurement(handle, channel, &entry.LastReading);
+        });
     std::int32_t& count = entry.AvgCountRead;
-    FramedFetch(session_.log, "psdrv_avg_getCount", handle, channel, std::int64_t{count}, [&] {
-        session_.operations.psdrv_avg_getCount(handle, channel, &count);
-    });
+    FramedFetch(session_.log, "psdrv_avg_getCount", handle, channel, count,
+                [&] { session_.operations.psdrv_avg_getCount(handle, channel, &count); });
 }
 
 void Readings::GetMultiReading(int slot) {
@@ -87,13 +92,13 @@ int Readings::FetchArray(int slot) {
     const driver::Handle handle = session_.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     const std::string name = session_.operations.psdrv_meass_fetchBufferMeasurement.name;
-    if (session_.log.STAT)
-        session_.log.OutputDebug(name + "( " + Number(std::int64_t{handle}) + ", " +
-                                 Number(std::int64_t{channel}) + ", ... ) STARTING");
     std::int32_t count = 0;
-    session_.operations.psdrv_meass_fetchBufferMeasurement(
-        handle, channel, ArraySize, table_[slot].Results.data(), &count);
-    session_.log.OutputDebug(name + " -> ... FINISHED");
+    if (session_.log.STAT)
+        session_.log.OutputDebug(
+            name + "( " + driver::ArgumentText(handle, channel, ArraySize, count) + " ) STARTING");
+    session_.operations.psdrv_meass_fetchBufferMeasurement(handle, channel, ArraySize,
+                                                           table_[slot].Results.data(), &count);
+    if (session_.log.STAT) session_.log.OutputDebug(name + " -> " + Number(count) + " FINISHED");
     return count;
 }
 

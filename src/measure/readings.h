@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Fetches results from the driver, or from the simulation, stores them in the sensor's entry and shows
-// scalar ones in the result table. Statuses are not looked at: what the driver leaves in the output
-// is the reading, whatever it is.
+// Fetches results from the driver, or from the simulation, stores them in the sensor's entry and
+// shows scalar ones in the result table. Statuses are not looked at: what the driver leaves in the
+// output is the reading, whatever it is.
 #pragma once
 
 #include "driver/session.h"

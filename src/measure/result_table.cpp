@@ -15,7 +15,9 @@ using controls::Align;
 constexpr Column ValueColumns[] = {WattColumn, DbmColumn, StatusColumn, SigmaColumn, CountColumn};
 constexpr Column MarkedColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
 
-int RowOf(int slot) { return slot + 1; }
+int RowOf(int slot) {
+    return slot + 1;
+}
 
 }  // namespace
 

@@ -36,7 +36,8 @@ public:
     // The value cells are emptied and keep their colour.
     void ClearValues(int slot);
 
-    // Colours the value cells for the kind of result that comes next: scalar on white, array on grey.
+    // Colours the value cells for the kind of result that comes next: scalar on white, array on
+    // grey.
     void SetTableMark(int slot, bool scalar);
     void SetValue(int slot, Column column, std::string_view text, controls::Align align);
     // The activity bar, with a point while the sensor is waited for.

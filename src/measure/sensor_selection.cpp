@@ -2,7 +2,6 @@
 #include "measure/sensor_selection.h"
 
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace kelvra::measure {
@@ -21,11 +20,12 @@ void SensorSelection::UpdateSensSelect() {
     controls::List& dialogList = forms_.setupForm.SensSelect;
     controls::List& mainList = forms_.mdiMain.TimeSensor_select_new;
     mainList.Fill(items);
-    dialogList.Fill(std::move(items));
-    const int current = dialogList.IndexOfData(table_.CurrentSensor);
-    const int selected = current < 0 && dialogList.Count() > 0 ? 0 : current;
-    mainList.Preselect(selected);
-    dialogList.SetIndex(selected);
+    dialogList.Fill(items);
+    const bool listed = dialogList.IndexOfData(table_.CurrentSensor) >= 0;
+    if (listed || items.empty())
+        Select(table_.CurrentSensor);
+    else
+        Select(items.front().data);
 }
 
 void SensorSelection::Select(int slot) {

@@ -23,7 +23,7 @@ constexpr Level FirstSensor{0.1, -8.72};
 constexpr Level OtherSensors{0.051, -4.05};
 
 // A trace by eighths: floor, rising edge's overshoot, a step, a gap, the main pulse, its tail.
-constexpr Level TraceEighths[] = {{5, -65},  {5, -65},   {0.2, 1},   {0.5, -12},
+constexpr Level TraceEighths[] = {{5, -65},  {5, -65}, {0.2, 1},   {0.5, -12},
                                   {10, -55}, {0.1, 6}, {0.5, -25}, {0.5, -25}};
 
 // Time slots, over and over.

@@ -37,12 +37,14 @@ std::string_view MathParser::VarName(int i) const {
 }
 
 double MathParser::Eval() {
+    failed_ = true;
     if (!stored_) return 0;
     plan_.Load(table_.Vars);
     return Run();
 }
 
 double MathParser::Eval1(double x) {
+    failed_ = true;
     if (!stored_) return 0;
     if (VarTop() > 1) {
         errorDescription_ = "too many variables";
@@ -63,6 +65,7 @@ std::span<const ETEntry> MathParser::ET() {
 
 double MathParser::Run() {
     const auto value = plan_.Run(random_);
+    failed_ = !value;
     if (!value) errorDescription_ = FailureText(plan_.LastFailure());
     return value.value_or(0);
 }

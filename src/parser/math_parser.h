@@ -46,6 +46,9 @@ public:
     // Why the last failure was; it stays until a formula is stored.
     const std::string& ErrorDescription() const { return errorDescription_; }
 
+    // Whether the last evaluation failed (or there was none, and the formula is not compiled).
+    bool Failed() const { return failed_; }
+
     // The value of the formula; 0 when it can't be compiled or computed. A result that is not
     // finite is a failure. Allocates nothing unless it fails.
     double Eval();
@@ -77,6 +80,7 @@ private:
     ExpressionTable table_;
     EvaluationPlan plan_;
     bool stored_ = false;
+    bool failed_ = true;
 };
 
 }  // namespace kelvra::parser

@@ -13,7 +13,7 @@ SetClock::SetClock(const LocalTime& start) {
 
 LocalTime SetClock::Now() {
     using namespace std::chrono;
-    const auto now = start_ + elapsed_;
+    const auto now = start_ + floor<milliseconds>(elapsed_);
     const auto midnight = floor<days>(now);
     const year_month_day date{midnight};
     const hh_mm_ss time{floor<milliseconds>(now - midnight)};

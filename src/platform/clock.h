@@ -35,7 +35,7 @@ public:
     void AdvanceTo(Duration monotonic);
 
 private:
-    std::chrono::sys_time<Duration> start_;
+    std::chrono::sys_time<std::chrono::milliseconds> start_;
     Duration elapsed_{0};
 };
 

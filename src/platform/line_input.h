@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lines of a file or of standard input, one at a time and never read ahead, so that whoever writes them
-// can wait for what a line did before writing the next.
+// Lines of a file or of standard input, one at a time and never read ahead, so that whoever writes
+// them can wait for what a line did before writing the next.
 #pragma once
 
 #include <memory>
@@ -14,7 +14,7 @@ class LineInput {
 public:
     enum class Result {
         Line,
-        NotYet,   // no complete line within the patience
+        NotYet,  // no complete line within the patience
         End,
         TooLong,  // more than LongestLine bytes without an end
         Failed,
@@ -23,8 +23,8 @@ public:
 
     virtual ~LineInput() = default;
 
-    // Waits up to `patience` for a complete line, without its end (LF or CR LF). A last line without
-    // an end counts. Returns early, with NotYet, when a signal comes.
+    // Waits up to `patience` for a complete line, without its end (LF or CR LF). A last line
+    // without an end counts. Returns early, with NotYet, when a signal comes.
     virtual Result Read(std::string& line, Duration patience) = 0;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The computer that the program was built for, behind the interfaces of this room. The one place where
-// a front end gets them.
+// The computer that the program was built for, behind the interfaces of this room. The one place
+// where a front end gets them.
 #pragma once
 
 #include <memory>
@@ -16,8 +16,10 @@
 namespace kelvra::platform {
 
 struct ComputerOptions {
-    std::string dataDir;    // empty: the environment's (KELVRA_DATA_DIR), else the user's own data folder
-    std::string driverDir;  // empty: the environment's (KELVRA_DRIVER_DIR), else the program's folder
+    std::string
+        dataDir;  // empty: the environment's (KELVRA_DATA_DIR), else the user's own data folder
+    std::string
+        driverDir;  // empty: the environment's (KELVRA_DRIVER_DIR), else the program's folder
     std::vector<std::string> commandLine;
     ProgramVersion version;
 };
@@ -31,8 +33,12 @@ std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& op
 // Standard input for "-". Null, with an error, for a file that can't be read.
 std::unique_ptr<LineInput> OpenLineInput(const std::string& path, std::error_code& error);
 
-// From now on a request of the system to end the program (a signal) is noted instead of ending it at once.
+// From now on a request of the system to end the program (a signal that is not ignored already) is
+// noted instead of ending it at once, and an output that nobody reads any more is an error of the
+// write.
 void WatchForTermination();
 bool TerminationRequested();
+// Becomes readable with the first request, for event loops that sleep on descriptors.
+int TerminationDescriptor();
 
 }  // namespace kelvra::platform

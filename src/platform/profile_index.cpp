@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the sections and keys of a ProfileText stand in its bytes: the pass that finds them, and
-// the look-ups.
+// Where the sections and keys of a ProfileText stand in its bytes: the pass that finds the
+// sections, and the look-ups.
 #include <optional>
 
 #include "platform/profile_text.h"
@@ -12,8 +12,17 @@ using util::TrimBlanks;
 
 namespace {
 
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+bool IsLineBreak(char c) {
+    return c == '\r' || c == '\n';
+}
+
 // The name between the first "[" and "]" of a section line.
 std::optional<std::string_view> SectionName(std::string_view line) {
+    if (line.find('[') == std::string_view::npos)
+        return std::nullopt;  // most lines, at little cost
     const std::string_view text = TrimBlanks(line);
     if (!text.starts_with('[')) return std::nullopt;
     const auto [name, rest, closed] = util::SplitAtFirst(text.substr(1), ']');
@@ -24,48 +33,25 @@ std::optional<std::string_view> SectionName(std::string_view line) {
 }  // namespace
 
 void ProfileText::BuildIndex() {
-    lines_.clear();
     sections_.clear();
-    IndexFrom(0, bytes_.size(), nullptr);
+    IndexFrom(0);
 }
 
-// `section` owns the lines up to the next section line; null where nothing can be found: before the
-// first section, and in one whose name an earlier one has.
-void ProfileText::IndexFrom(std::size_t begin, std::size_t end, Section* section) {
-    while (begin < end) {
-        const Line line = LineAt(begin);
-        const std::string_view text = TextOf(line);
-        begin = Behind(line);
-        if (const auto name = SectionName(text)) {
-            section = IndexSection(*name, line);
-        } else if (section != nullptr && !TrimBlanks(text).empty()) {
-            IndexLine(*section, line);
-        }
+// Goes from bracket to bracket instead of from line to line: there are few of them.
+void ProfileText::IndexFrom(std::size_t begin) {
+    for (std::size_t at = begin; (at = bytes_.find('[', at)) != std::string::npos; ++at) {
+        std::size_t lineBegin = at;
+        while (lineBegin > 0 && IsBlank(bytes_[lineBegin - 1])) --lineBegin;
+        if (lineBegin > 0 && !IsLineBreak(bytes_[lineBegin - 1])) continue;
+        if (const auto name = SectionName(TextOf(LineAt(lineBegin))))
+            sections_.try_emplace(NameKey(*name), lineBegin);
     }
 }
 
-ProfileText::Section* ProfileText::IndexSection(std::string_view name, const Line& line) {
-    const auto [entry, isFirst] = sections_.try_emplace(NameKey(name));
-    if (!isFirst) return nullptr;
-    entry->second.lastLine = lines_.size();
-    lines_.push_back(line);
-    return &entry->second;
-}
-
-void ProfileText::IndexLine(Section& section, Line line) {
-    const std::string_view text = TextOf(line);
-    const auto [key, value, isKey] = util::SplitAtFirst(text, '=');
-    if (isKey && !TrimBlanks(text).starts_with(';')) {
-        line.valueAt = key.size() + 1;
-        section.keys.try_emplace(NameKey(key), lines_.size());
-    }
-    section.lastLine = lines_.size();
-    lines_.push_back(line);
-}
-
+// A loop of its own: the library's search for one of several characters is several times slower.
 ProfileText::Line ProfileText::LineAt(std::size_t begin) const {
-    const std::size_t found = bytes_.find_first_of("\r\n", begin);
-    const std::size_t end = found == std::string::npos ? bytes_.size() : found;
+    std::size_t end = begin;
+    while (end < bytes_.size() && !IsLineBreak(bytes_[end])) ++end;
     return {begin, 0, end - begin};
 }
 
@@ -80,12 +66,23 @@ std::string ProfileText::NameKey(std::string_view name) {
     return util::LowerCase(TrimBlanks(name));
 }
 
-const ProfileText::Line* ProfileText::FindKey(std::string_view section,
-                                              std::string_view key) const {
-    const auto owner = sections_.find(NameKey(section));
-    if (owner == sections_.end()) return nullptr;
-    const auto found = owner->second.keys.find(NameKey(key));
-    return found == owner->second.keys.end() ? nullptr : &lines_[found->second];
+ProfileText::Place ProfileText::FindKey(std::size_t sectionBegin, std::string_view key) const {
+    const std::string_view wanted = TrimBlanks(key);
+    Line last = LineAt(sectionBegin);
+    for (std::size_t at = Behind(last); at < bytes_.size();) {
+        Line line = LineAt(at);
+        at = Behind(line);
+        const std::string_view text = TextOf(line);
+        if (SectionName(text)) break;
+        if (TrimBlanks(text).empty()) continue;
+        last = line;
+        const auto [name, value, isKey] = util::SplitAtFirst(text, '=');
+        if (!isKey || TrimBlanks(text).starts_with(';')) continue;
+        if (!util::EqualNoCase(TrimBlanks(name), wanted)) continue;
+        line.valueAt = name.size() + 1;
+        return {line, true};
+    }
+    return {last, false};
 }
 
 std::string_view ProfileText::TextOf(const Line& line) const {

@@ -39,49 +39,41 @@ ProfileText::ProfileText(std::string bytes) : bytes_(std::move(bytes)) {
 
 std::string ProfileText::Read(std::string_view section, std::string_view key,
                               std::string_view fallback) const {
-    const Line* line = FindKey(section, key);
-    const std::string_view value = line == nullptr ? fallback : WithoutQuotes(ValueOf(*line));
+    std::string_view value = fallback;
+    if (const auto present = sections_.find(NameKey(section)); present != sections_.end())
+        if (const Place place = FindKey(present->second, key); place.found)
+            value = WithoutQuotes(ValueOf(place.line));
     return std::string(value.substr(0, BufferSize - 1));
 }
 
 void ProfileText::Write(std::string_view section, std::string_view key, std::string_view value) {
     const auto present = sections_.find(NameKey(section));
     if (present == sections_.end()) return AddSection(TrimBlanks(section), TrimBlanks(key), value);
-    const auto line = present->second.keys.find(NameKey(key));
-    if (line == present->second.keys.end()) return AddKey(present->second, TrimBlanks(key), value);
-    ReplaceValue(lines_[line->second], value);
+    const Place place = FindKey(present->second, key);
+    if (!place.found) return AddKey(place.line, TrimBlanks(key), value);
+    ReplaceValue(place.line, value);
 }
 
 void ProfileText::DeleteKey(std::string_view section, std::string_view key) {
-    const Line* line = FindKey(section, key);
-    if (line == nullptr) return;
-    Replace(line->begin, Behind(*line) - line->begin, {});
-    BuildIndex();  // a second key of the name is the first one now
+    const auto present = sections_.find(NameKey(section));
+    if (present == sections_.end()) return;
+    const Place place = FindKey(present->second, key);
+    if (place.found) Replace(place.line.begin, Behind(place.line) - place.line.begin, {});
 }
 
-void ProfileText::ReplaceValue(Line& line, std::string_view value) {
+void ProfileText::ReplaceValue(const Line& line, std::string_view value) {
     if (ValueOf(line) == value) return;
     // "[a=" is a key, but "[a=b]" is a section.
     const bool plain = !HasLineBreak(value) && !TrimBlanks(TextOf(line)).starts_with('[');
-    const std::size_t oldSize = line.end - line.valueAt;
-    Replace(line.begin + line.valueAt, oldSize, value);
-    line.end += value.size() - oldSize;
+    Replace(line.begin + line.valueAt, line.end - line.valueAt, value);
     if (!plain) BuildIndex();
 }
 
-void ProfileText::AddKey(Section& section, std::string_view key, std::string_view value) {
-    const std::string added = NewLine(key, value);
-    const Line& last = lines_[section.lastLine];
+void ProfileText::AddKey(const Line& last, std::string_view key, std::string_view value) {
     if (last.begin + last.end == bytes_.size()) Replace(bytes_.size(), 0, LineBreak);
-    const std::size_t at = Behind(last);
-    Replace(at, 0, added);
+    Replace(Behind(last), 0, NewLine(key, value));
     // An added line that starts a section takes lines, or a name, from others.
-    const bool plain = !HasLineBreak(key) && !HasLineBreak(value) && !key.starts_with('[');
-    if (plain) {
-        IndexFrom(at, at + added.size(), &section);
-    } else {
-        BuildIndex();
-    }
+    if (HasLineBreak(key) || HasLineBreak(value) || key.starts_with('[')) BuildIndex();
 }
 
 void ProfileText::AddSection(std::string_view section, std::string_view key,
@@ -97,7 +89,7 @@ void ProfileText::AddSection(std::string_view section, std::string_view key,
     added += NewLine(key, value);
     Replace(bytes_.size(), 0, added);
     if (startsSection) {
-        IndexFrom(at, bytes_.size(), nullptr);
+        IndexFrom(at);
     } else {
         BuildIndex();
     }
@@ -109,8 +101,8 @@ void ProfileText::Replace(std::size_t at, std::size_t count, std::string_view te
     const std::size_t growth = text.size() - count;  // wraps round for a shorter text, as does +=
     bytes_.replace(at, count, text);
     changed_ = true;
-    for (Line& line : lines_)
-        if (line.begin >= behind) line.begin += growth;
+    for (auto& [name, begin] : sections_)
+        if (begin >= behind) begin += growth;
 }
 
 }  // namespace kelvra::platform

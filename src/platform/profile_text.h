@@ -12,7 +12,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace kelvra::platform {
 
@@ -33,41 +32,39 @@ public:
     bool Changed() const { return changed_; }  // since construction
 
 private:
-    // A line that is not blank. Its parts count from its beginning, so that an edit before it moves
-    // nothing else.
+    // Its parts count from its beginning.
     struct Line {
         std::size_t begin = 0;
         std::size_t valueAt = 0;  // behind the "="; 0 in a line that holds no key
         std::size_t end = 0;      // before the line break, if it has one
     };
 
-    // The first section of its name. Keys are lower-cased, lines are indices into lines_.
-    struct Section {
-        std::size_t lastLine = 0;
-        std::unordered_map<std::string, std::size_t> keys;
+    // A key's line, or where it would be added: behind the last line of its section.
+    struct Place {
+        Line line;
+        bool found = false;
     };
 
     void BuildIndex();
-    void IndexFrom(std::size_t begin, std::size_t end, Section* section);
-    Section* IndexSection(std::string_view name, const Line& line);
-    void IndexLine(Section& section, Line line);
+    void IndexFrom(std::size_t begin);
     Line LineAt(std::size_t begin) const;
     std::size_t Behind(const Line& line) const;  // where the next line begins
 
     static std::string NameKey(std::string_view name);  // trimmed and lower-cased
-    const Line* FindKey(std::string_view section, std::string_view key) const;
+    Place FindKey(std::size_t sectionBegin, std::string_view key) const;
     std::string_view TextOf(const Line& line) const;
     std::string_view ValueOf(const Line& line) const;
 
-    void ReplaceValue(Line& line, std::string_view value);
-    void AddKey(Section& section, std::string_view key, std::string_view value);
+    void ReplaceValue(const Line& line, std::string_view value);
+    void AddKey(const Line& last, std::string_view key, std::string_view value);
     void AddSection(std::string_view section, std::string_view key, std::string_view value);
     void Replace(std::size_t at, std::size_t count, std::string_view text);
 
     std::string bytes_;
     bool changed_ = false;
-    std::vector<Line> lines_;                            // of the sections below, in any order
-    std::unordered_map<std::string, Section> sections_;  // by lower-cased name
+    // Where the first section of each name begins, by lower-cased name. Keys have no index: a block
+    // of settings looks into few of the sections, and these are short.
+    std::unordered_map<std::string, std::size_t> sections_;
 };
 
 }  // namespace kelvra::platform

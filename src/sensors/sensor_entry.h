@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One sensor position, connected, simulated or free: who the sensor is, its settings, and the working
-// state of the measurement.
+// One sensor position, connected, simulated or free: who the sensor is, its settings, and the
+// working state of the measurement.
 #pragma once
 
 #include <array>
@@ -34,7 +34,7 @@ struct SensorEntry {
     bool NewScopeData = false;
     bool TSlotStatsActive = false;
     std::string LogicalName;
-    std::string SensorId;  // type, ";", serial number
+    std::string SensorId;          // type, ";", serial number
     std::int32_t MeasPending = 0;  // 1: started and not yet complete
     std::int16_t WaitTicks = 0;    // length of the activity bar, 0 .. 8
     double LastReading = 0;        // W

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a user can set on one sensor. Times in s, frequencies in Hz, levels in dBm, differences in dB.
-// Defaults, file keys and order are in settings_fields.h; here is the plain record.
+// What a user can set on one sensor. Times in s, frequencies in Hz, levels in dBm, differences in
+// dB. Defaults, file keys and order are in settings_fields.h; here is the plain record.
 #pragma once
 
 #include <cstdint>

@@ -86,6 +86,16 @@ void ReleaseSlot(SensorEntry& entry) {
     entry.LogicalName.clear();
     entry.ResourceName.clear();
     entry.SensorId.clear();
+    // What was measured and reported is that sensor's; whoever takes the slot next starts clean.
+    entry.MeasPending = 0;
+    entry.WaitTicks = 0;
+    entry.LastReading = 0;
+    entry.Results.clear();
+    entry.History.Reset();
+    entry.AvgCountRead = 0;
+    entry.SettingsChanged = false;
+    entry.LastErrorText.clear();
+    entry.TriggerNowRequest = false;
 }
 
 }  // namespace kelvra::sensors

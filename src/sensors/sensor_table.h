@@ -35,16 +35,19 @@ struct SensorTable {
 
     bool DeviceTableChanged = false;  // asks discovery to switch sensors on and refresh the lists
 
-    std::vector<DisplayScaling> Scaling;                // one for each place of the device list, or more
+    std::vector<DisplayScaling> Scaling;  // one for each place of the device list, or more
     std::vector<std::array<double, 2>> SlotReadings;  // latest scalar reading: W, dBm
 
     // The slots in use, without the spare element.
     int Slots() const { return SensorSlotCount; }
     SensorEntry& operator[](int slot) { return Sensors[static_cast<std::size_t>(slot)]; }
-    const SensorEntry& operator[](int slot) const { return Sensors[static_cast<std::size_t>(slot)]; }
+    const SensorEntry& operator[](int slot) const {
+        return Sensors[static_cast<std::size_t>(slot)];
+    }
 
-    // The table with that many slots (1 .. 32767): what is kept stays, new elements are set up. A locked
-    // table is not resized; trying to is an error of the caller, which a debug build stops at.
+    // The table with that many slots (1 .. 32767): what is kept stays, new elements are set up. A
+    // locked table is not resized; trying to is an error of the caller, which a debug build stops
+    // at.
     void Resize(int slots);
     void ResizeScaling(int elements);
 
@@ -54,7 +57,8 @@ struct SensorTable {
     // Slot of the first sensor that is present and enabled and has that name, -1 if there is none.
     int FindMeasured(std::string_view logicalName) const;
 
-    // Whether the user has switched this sensor off in this run; a simulated one goes by its resource.
+    // Whether the user has switched this sensor off in this run; a simulated one goes by its
+    // resource.
     bool SwitchedOff(const SensorEntry& entry) const;
     void RememberSwitch(const SensorEntry& entry);
 
@@ -76,11 +80,12 @@ private:
     SensorTable& table_;
 };
 
-// Makes the working arrays of the slot ready for its mode: time slot statistics (time slot mode), the
-// ring of readings (continuous average, burst); the other modes have none.
+// Makes the working arrays of the slot ready for its mode: time slot statistics (time slot mode),
+// the ring of readings (continuous average, burst); the other modes have none.
 void PrepareWorkArrays(SensorTable& table, int slot);
 
-// The slot gives its sensor up: switched off, session closed, identity empty, no longer present.
+// The slot gives its sensor up: switched off, session closed, identity and readings empty, no
+// longer present. The settings stay until the next sensor's are read.
 void ReleaseSlot(SensorEntry& entry);
 
 }  // namespace kelvra::sensors

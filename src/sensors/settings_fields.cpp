@@ -93,9 +93,13 @@ constexpr auto FieldsInFileOrder = InFileOrder();
 
 }  // namespace
 
-std::span<const SettingsField> SettingsFields() { return Fields; }
+std::span<const SettingsField> SettingsFields() {
+    return Fields;
+}
 
-std::span<const SettingsField* const> FileFields() { return FieldsInFileOrder; }
+std::span<const SettingsField* const> FileFields() {
+    return FieldsInFileOrder;
+}
 
 SensorSettings DefaultSettings() {
     SensorSettings settings;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one list of settings fields: name, where a file keeps it, type, default. Reset, load, save and
-// dump all loop over it; a new setting is a line here and a member of SensorSettings.
+// The one list of settings fields: name, where a file keeps it, type, default. Reset, load, save
+// and dump all loop over it; a new setting is a line here and a member of SensorSettings.
 #pragma once
 
 #include <span>
@@ -10,9 +10,8 @@
 
 namespace kelvra::sensors {
 
-using SettingsMember =
-    std::variant<bool SensorSettings::*, std::int16_t SensorSettings::*,
-                 std::int32_t SensorSettings::*, double SensorSettings::*>;
+using SettingsMember = std::variant<bool SensorSettings::*, std::int16_t SensorSettings::*,
+                                    std::int32_t SensorSettings::*, double SensorSettings::*>;
 
 struct SettingsField {
     const char* name;

@@ -33,8 +33,12 @@ bool MeansTrue(std::string_view text) {
     return word == "1" || word == "WAHR" || word == "TRUE";
 }
 
-SettingValue Parse(std::string_view text, bool) { return MeansTrue(text); }
-SettingValue Parse(std::string_view text, const std::string&) { return std::string(text); }
+SettingValue Parse(std::string_view text, bool) {
+    return MeansTrue(text);
+}
+SettingValue Parse(std::string_view text, const std::string&) {
+    return std::string(text);
+}
 SettingValue Parse(std::string_view text, double fallback) {
     const double value = util::ReadNumber(text);
     return std::isfinite(value) ? value : fallback;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A sensor's settings in INI files: the application's own, with a group of sections for each sensor,
-// and the files that a user saves and loads. Values are texts without regard to the locale.
+// A sensor's settings in INI files: the application's own, with a group of sections for each
+// sensor, and the files that a user saves and loads. Values are texts without regard to the locale.
 #pragma once
 
 #include <string>
@@ -19,9 +19,9 @@ enum class Transfer { Reset = 0, Read = 1, Write = 2 };
 // The types of values that files keep.
 using SettingValue = std::variant<bool, std::int16_t, std::int32_t, double, std::string>;
 
-// One key, converted to the type of the fallback, which stands in for a missing key. A number out of
-// its type's range, or not finite, reads as the fallback; a boolean is true for "1", "WAHR" and "TRUE"
-// in any case; whatever else is no number reads as 0.
+// One key, converted to the type of the fallback, which stands in for a missing key. A number out
+// of its type's range, or not finite, reads as the fallback; a boolean is true for "1", "WAHR" and
+// "TRUE" in any case; whatever else is no number reads as 0.
 SettingValue IniRead(const platform::ProfileText& file, std::string_view section,
                      std::string_view key, const SettingValue& fallback);
 

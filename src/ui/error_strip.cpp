@@ -41,6 +41,7 @@ void ErrorStrip::ShowSensorError(bool isError, int slot, const std::string& text
 }
 
 void ErrorStrip::Show(int slot, const std::string& text, bool isGeneral) {
+    if (isGeneral && session_.ErrorShown) return;  // an error stays to be read
     const std::string named = table_[slot].LogicalName + ": " + text;
     if (!isGeneral) session_.ErrorShown = true;
     measure::ShowNotice(forms_.mdiMain, isGeneral ? text : named);
@@ -55,18 +56,29 @@ void ErrorStrip::Clear() {
     SetHeaderHeight(forms_.setupForm.Frame1, ClosedHeight);
 }
 
+// The session first, which slot 0 opens; then the sensor that met the complaint.
+bool ErrorStrip::Reopen(int slot) {
+    recovery_->session.Close();
+    for (const int opened : {0, slot}) {
+        if (recovery_->state.exiting || table_[opened].SessionOpen) continue;
+        recovery_->session.OpenSensor(opened);
+    }
+    if (recovery_->state.exiting || !table_[slot].SessionOpen) return false;
+    recovery_->transfer.ConfigureSensor(slot);
+    return true;
+}
+
 void ErrorStrip::RecoverAfterTransfer(int slot) {
     if (!handleRefused_ || !recovery_ || recoveredInStart_ == recovery_->state.starts) return;
     recoveredInStart_ = recovery_->state.starts;
     Clear();
-    recovery_->session.OpenSensor(slot);
-    if (!recovery_->state.exiting && table_[slot].SessionOpen)
-        recovery_->transfer.ConfigureSensor(slot);
+    const bool reopened = Reopen(slot);
     if (recovery_->state.exiting) return;
     recovery_->cycle.StopIt_Click();
     measure::ShowNotice(forms_.mdiMain,
-                        "The driver session was lost and has been opened again. The measurement, and a "
-                        "recording, has ended.");
+                        std::string("The driver session was lost and ") +
+                            (reopened ? "has been opened again" : "could not be opened again") +
+                            ". The measurement, and a recording, has ended.");
     recovery_->host.events.DoEvents();
 }
 

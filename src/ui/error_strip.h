@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The error strip of the setup dialog and the notice of the main window: where the errors of sensors
-// are shown. And the recovery from an invalid session handle, which such an error asks for.
+// The error strip of the setup dialog and the notice of the main window: where the errors of
+// sensors are shown. And the recovery from an invalid session handle, which such an error asks for.
 #pragma once
 
 #include <cstdint>
@@ -32,8 +32,8 @@ public:
     };
     void Connect(const Recovery& recovery) { recovery_.emplace(recovery); }
 
-    // Nothing is shown in simulation mode. Line breaks at the end of the text are left out, of a general
-    // message its four last characters (blanks); a general message is no error.
+    // Nothing is shown in simulation mode. Line breaks at the end of the text are left out, of a
+    // general message its four last characters (blanks); a general message is no error.
     void ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) override;
 
     // Complaints from here on are this transfer's.
@@ -43,6 +43,7 @@ public:
     void RecoverAfterTransfer(int slot);
 
 private:
+    bool Reopen(int slot);
     void Show(int slot, const std::string& text, bool isGeneral);
     void Clear();
 

@@ -21,13 +21,15 @@ SensorName::SensorName(forms::Forms& forms, sensors::SensorTable& table, platfor
 }
 
 void SensorName::StoreLogicalName(int slot) {
+    if (!table_[slot].Present) return;
     controls::TextBox& box = forms_.setupForm.SensLogicalName;
     if (box.Text().empty())
         box.SetText(util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)}));
     sensors::SensorEntry& entry = table_[slot];
     entry.LogicalName = box.Text();
-    host_.computer.WriteRegistry(NamesKey, entry.SensorId,
-                                 std::string(util::TrimSpaces(entry.LogicalName)));
+    if (!entry.SensorId.empty())
+        host_.computer.WriteRegistry(NamesKey, entry.SensorId,
+                                     std::string(util::TrimSpaces(entry.LogicalName)));
     if (entry.Enabled) results_.PaintName(slot);
     selection_.UpdateSensSelect();
 }

@@ -17,8 +17,9 @@ public:
     SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
                measure::ResultTable& results, measure::SensorSelection& selection);
 
-    // Takes the name box's text for the slot; an empty one becomes the channel number. A name that
-    // can't be stored is the sensor's name until discovery reads the old one again.
+    // Takes the name box's text for the slot; an empty one becomes the channel number. A slot
+    // without a sensor has no name; a simulated sensor's is not stored. A name that can't be stored
+    // is the sensor's name until discovery reads the old one again.
     void StoreLogicalName(int slot);
 
 private:

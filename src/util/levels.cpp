@@ -20,6 +20,8 @@ void ArrayW2dBm(std::span<double> values) {
     for (double& value : values) value = W2dBm(std::abs(value));
 }
 
-double dBmToW(double levelDbm) { return std::pow(10, levelDbm / 10 - 3); }
+double dBmToW(double levelDbm) {
+    return std::pow(10, levelDbm / 10 - 3);
+}
 
 }  // namespace kelvra::util

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "util/number_reading.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -9,7 +10,9 @@ namespace kelvra::util {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 std::size_t SkipDigits(std::string_view text, std::size_t position) {
     while (position < text.size() && IsDigit(text[position])) ++position;
@@ -18,22 +21,31 @@ std::size_t SkipDigits(std::string_view text, std::size_t position) {
 
 // End of "E", sign, digits at the position; the position itself when that is no exponent.
 std::size_t SkipExponent(std::string_view text, std::size_t position) {
-    if (position >= text.size() || (text[position] != 'E' && text[position] != 'e')) return position;
+    if (position >= text.size() || (text[position] != 'E' && text[position] != 'e'))
+        return position;
     std::size_t digits = position + 1;
     if (digits < text.size() && (text[digits] == '+' || text[digits] == '-')) ++digits;
     const std::size_t end = SkipDigits(text, digits);
     return end == digits ? position : end;
 }
 
-// A number out of the range of double: which side it left, told by its decimal exponent.
+// A number out of the range of double: which side it left is told by the decimal exponent of its
+// first significant digit.
 double OutOfRange(std::string_view number) {
-    const bool negative = number.front() == '-';
-    const auto exponentAt = number.find_first_of("Ee");
-    const bool below = exponentAt == std::string_view::npos
-                           ? number.find_first_of("123456789") > number.find('.')
-                           : number[exponentAt + 1] == '-';
-    const double magnitude = below ? 0 : std::numeric_limits<double>::infinity();
-    return negative ? -magnitude : magnitude;
+    const auto digitsEnd = std::min(number.find_first_of("Ee"), number.size());
+    const std::string_view digits = number.substr(0, digitsEnd);
+    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+    const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
+    std::int64_t exponent = 0;
+    if (digitsEnd < number.size()) {
+        std::string_view text = number.substr(digitsEnd + 1);
+        const bool below = text.front() == '-';
+        // More digits than fit: larger than any text is long.
+        exponent = ReadWholeNumber(text).value_or(below ? INT64_MIN / 2 : INT64_MAX / 2);
+    }
+    const double magnitude =
+        point - first + exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
+    return number.front() == '-' ? -magnitude : magnitude;
 }
 
 template <class Int>
@@ -69,10 +81,12 @@ NumberRead ReadNumberAt(std::string_view text) {
     return {value, end};
 }
 
-double ReadNumber(std::string_view text) { return ReadNumberAt(text).value; }
+double ReadNumber(std::string_view text) {
+    return ReadNumberAt(text).value;
+}
 
 std::optional<std::int64_t> ReadWholeNumber(std::string_view text) {
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     std::int64_t value = 0;
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, value);
@@ -80,7 +94,11 @@ std::optional<std::int64_t> ReadWholeNumber(std::string_view text) {
     return value;
 }
 
-std::optional<std::int16_t> RoundToInt16(double value) { return RoundTo<std::int16_t>(value); }
-std::optional<std::int32_t> RoundToInt32(double value) { return RoundTo<std::int32_t>(value); }
+std::optional<std::int16_t> RoundToInt16(double value) {
+    return RoundTo<std::int16_t>(value);
+}
+std::optional<std::int32_t> RoundToInt32(double value) {
+    return RoundTo<std::int32_t>(value);
+}
 
 }  // namespace kelvra::util

@@ -37,8 +37,7 @@ struct Decimal {
 
 Decimal Split(double value, int significant) {
     Buffer buffer;
-    std::string_view text =
-        Write(buffer, value, std::chars_format::scientific, significant - 1);
+    std::string_view text = Write(buffer, value, std::chars_format::scientific, significant - 1);
     Decimal decimal;
     if (text.front() == '-') {
         decimal.negative = true;
@@ -96,7 +95,8 @@ std::string WithSignPlace(std::string text) {
 
 // A fixed-point text in the locale's form, without the sign of what is zero as shown.
 std::string Localised(std::string_view text, const NumberForm& form) {
-    if (text.front() == '-' && text.find_first_not_of("-0.") == std::string_view::npos)
+    if (text.front() == '-' &&
+        text.substr(0, text.find('e')).find_first_not_of("-0.") == std::string_view::npos)
         text.remove_prefix(1);
     std::string shown(text);
     if (form.decimal != ".") {
@@ -119,8 +119,12 @@ std::string TrimmedNumberText(std::int64_t value) {
     return {buffer.data(), end};
 }
 
-std::string NumberText(double value) { return WithSignPlace(TrimmedNumberText(value)); }
-std::string NumberText(std::int64_t value) { return WithSignPlace(TrimmedNumberText(value)); }
+std::string NumberText(double value) {
+    return WithSignPlace(TrimmedNumberText(value));
+}
+std::string NumberText(std::int64_t value) {
+    return WithSignPlace(TrimmedNumberText(value));
+}
 
 std::string ExactNumberText(double value) {
     if (!std::isfinite(value)) return std::string(NotFinite(value));

@@ -16,8 +16,8 @@ struct NumberForm {
 };
 
 // Up to 15 significant digits with a period, a blank before what is not negative, no zero before
-// the point (" .1"), "E" form below 1E-04 and from 1E+15 on (" 1E-05"). " NaN", " Inf" and "-Inf" for
-// what is not finite.
+// the point (" .1"), "E" form below 1E-04 and from 1E+15 on (" 1E-05"). " NaN", " Inf" and "-Inf"
+// for what is not finite.
 std::string NumberText(double value);
 std::string NumberText(std::int64_t value);
 

@@ -10,8 +10,12 @@ namespace kelvra::util {
 
 namespace {
 
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char Upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char Lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 std::string_view TrimAny(std::string_view text, std::string_view unwanted) {
     const auto first = text.find_first_not_of(unwanted);
@@ -51,9 +55,13 @@ std::size_t Utf8Length(std::string_view bytes) {
 
 }  // namespace
 
-std::string_view TrimSpaces(std::string_view text) { return TrimAny(text, " "); }
+std::string_view TrimSpaces(std::string_view text) {
+    return TrimAny(text, " ");
+}
 
-std::string_view TrimBlanks(std::string_view text) { return TrimAny(text, " \t"); }
+std::string_view TrimBlanks(std::string_view text) {
+    return TrimAny(text, " \t");
+}
 
 std::string CleanText(std::string_view text) {
     return std::string(TrimAny(TrimSpaces(text), "\r\n"));

@@ -33,7 +33,8 @@ struct SplitText {
 };
 SplitText SplitAtFirst(std::string_view text, char separator);
 
-// A buffer that a library has filled: up to its first NUL, or without one up to its trailing blanks.
+// A buffer that a library has filled: up to its first NUL, or without one up to its trailing
+// blanks.
 std::string TextOfBuffer(std::string_view buffer);
 
 // Valid UTF-8 for people to read: each byte that belongs to no valid sequence becomes U+FFFD.

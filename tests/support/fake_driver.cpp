@@ -41,8 +41,12 @@ void Note(std::string& list, Argument argument) {
 // What the functions give back, told apart by what they take.
 template <class... Arguments>
 void Answer(Arguments...) {}
-void Answer(const char*, Int, Int, Handle* handle) { *handle = current->handle; }
-void Answer(Handle, Status, char* text) { WriteText(text, DriverText, current->message); }
+void Answer(const char*, Int, Int, Handle* handle) {
+    *handle = current->handle;
+}
+void Answer(Handle, Status, char* text) {
+    WriteText(text, DriverText, current->message);
+}
 void Answer(Handle, Int* code, char* text) {
     *code = 1;
     WriteText(text, DriverText, current->query);
@@ -50,8 +54,12 @@ void Answer(Handle, Int* code, char* text) {
 void Answer(Handle, Channel channel, Switch* complete) {
     *complete = !current->complete || current->complete(channel) ? 1 : 0;
 }
-void Answer(Handle, Channel, double* reading) { *reading = current->reading; }
-void Answer(Handle, Channel, Int* averagingCount) { *averagingCount = current->averagingCount; }
+void Answer(Handle, Channel, double* reading) {
+    *reading = current->reading;
+}
+void Answer(Handle, Channel, Int* averagingCount) {
+    *averagingCount = current->averagingCount;
+}
 void Answer(Handle, Channel, Int size, double* values, Int* count) {
     const auto& array = current->array;
     std::copy_n(array.begin(), std::min(array.size(), static_cast<std::size_t>(size)), values);
@@ -72,7 +80,7 @@ void Answer(Int index, char* name, char* type, char* serial, Int* connected) {
 template <auto Member>
 struct Function;
 
-template <class List, class... Arguments, driver::Operation<Arguments...> List::* Member>
+template <class List, class... Arguments, driver::Operation<Arguments...> List::*Member>
 struct Function<Member> {
     static inline const char* name = nullptr;
 
@@ -93,7 +101,8 @@ struct Function<Member> {
 
 }  // namespace
 
-#define FUNCTION(list, name) {#name, Function<&list::name>::Named(#name)}
+#define FUNCTION(list, name) \
+    { #name, Function < &list::name> ::Named(#name) }
 #define PSDRV(name) FUNCTION(InstrumentOperations, psdrv_##name)
 #define TESK(name) FUNCTION(DeviceListOperations, Tesk##name)
 
@@ -101,7 +110,8 @@ struct Function<Member> {
 FunctionTable FakeDriver::InstrumentFunctions() {
     return {
         PSDRV(init), PSDRV(AddSensor), PSDRV(close), PSDRV(error_message), PSDRV(error_query),
-        PSDRV(chan_reset), PSDRV(chan_mode), PSDRV(chans_initiate), PSDRV(meass_sendSoftwareTrigger),
+        PSDRV(chan_reset), PSDRV(chan_mode), PSDRV(chans_initiate),
+        PSDRV(meass_sendSoftwareTrigger),
         PSDRV(chan_isMeasurementComplete), PSDRV(meass_fetchMeasurement),
         PSDRV(meass_fetchBufferMeasurement), PSDRV(avg_getCount),
         PSDRV(avg_setEnabled), PSDRV(avg_setAutoEnabled), PSDRV(avg_setAutoType),
@@ -138,14 +148,18 @@ FunctionTable FakeDriver::DeviceListFunctions() {
 
 void FakeDriver::PutInto(driver::OperationList& operations, const FunctionTable& functions) {
     operations.libraryFile = "libfake.so";
-    operations.libraryFound = true;
+    operations.libraryLoaded = true;
     for (driver::OperationBase* operation : operations.all) {
         const auto found = functions.find(operation->name);
         operation->address = found == functions.end() ? nullptr : found->second;
     }
 }
 
-FakeDriver::FakeDriver() { current = this; }
-FakeDriver::~FakeDriver() { current = nullptr; }
+FakeDriver::FakeDriver() {
+    current = this;
+}
+FakeDriver::~FakeDriver() {
+    current = nullptr;
+}
 
 }  // namespace kelvra::test

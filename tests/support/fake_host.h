@@ -42,6 +42,11 @@ public:
     }
     void StopTimer(TimerId timer) override { timers_.Stop(timer); }
     void Quit() override { quit = true; }
+    // For the next program: nothing is left of the one before.
+    void Renew() {
+        timers_ = {};
+        quit = false;
+    }
 
 private:
     platform::SetClock& clock_;

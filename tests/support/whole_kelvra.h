@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The whole program over a fake driver and a fake computer, its files in a folder of its own. A test
-// sets up what it wants, starts it, and does in the event rounds what a person would do.
+// The whole program over a fake driver and a fake computer, its files in a folder of its own. A
+// test sets up what it wants, starts it, and does in the event rounds what a person would do.
 #pragma once
 
 #include <memory>
@@ -21,19 +21,19 @@ struct WholeKelvra {
     FaultyFiles files{*disk};
     FakeHost fake{files};
     FakeDriver driver;
-    std::unique_ptr<app::Kelvra> kelvra;
+    std::unique_ptr<app::Kelvra> program;
 
     WholeKelvra() {
         fake.computer.folder = folder.Path();
         fake.computer.libraries = {{"psdrv_32", FakeDriver::InstrumentFunctions()},
                                    {"TeskControl2", FakeDriver::DeviceListFunctions()}};
-        fake.clock.Advance(std::chrono::hours(1));
     }
 
     app::Kelvra& Start() {
-        kelvra = std::make_unique<app::Kelvra>(fake.host);
-        kelvra->Start();
-        return *kelvra;
+        fake.events.Renew();
+        program = std::make_unique<app::Kelvra>(fake.host);
+        program->Start();
+        return *program;
     }
     // Sensors of that type with the serial numbers 1, 2, ... and names A, B, ...
     app::Kelvra& StartWith(int sensors, const std::string& type = "PS-101") {
@@ -50,23 +50,23 @@ struct WholeKelvra {
     }
     void PressStart() {
         fake.events.rounds = 0;
-        kelvra->forms.mdiMain.StartIt.Press();
+        program->forms.mdiMain.StartIt.Press();
     }
-    void PressStop() { kelvra->forms.mdiMain.StopIt.Press(); }
-    void PressExit() { kelvra->forms.mdiMain.MFileExit.Press(); }
+    void PressStop() { program->forms.mdiMain.StopIt.Press(); }
+    void PressExit() { program->forms.mdiMain.MFileExit.Press(); }
     // Measures until that many passes are complete.
     void Measure(int passes) {
-        const auto enough = kelvra->state.Passes + passes;
+        const auto enough = program->state.Passes + passes;
         fake.events.onRound = [this, enough](int) {
-            if (kelvra->state.Passes >= enough) PressStop();
+            if (program->state.Passes >= enough) PressStop();
         };
         PressStart();
         fake.events.onRound = nullptr;
     }
     const controls::Grid::Cell& Cell(int slot, int column) const {
-        return kelvra->forms.statusForm.ResultGrid.At(slot + 1, column);
+        return program->forms.statusForm.ResultGrid.At(slot + 1, column);
     }
-    std::string Notice() const { return kelvra->forms.mdiMain.lblMeasAwait.Caption; }
+    std::string Notice() const { return program->forms.mdiMain.lblMeasAwait.Caption; }
 };
 
 }  // namespace kelvra::test

@@ -6,12 +6,18 @@
 
 #include <cerrno>
 #include <chrono>
+#include <iterator>
 #include <limits>
 #include <utility>
+
+#include "platform/native.h"
 
 namespace kelvra::platform {
 
 namespace {
+
+// A flood without a line's end must not keep everything else from running.
+constexpr int MostAtOnce = 1 << 16;
 
 // In milliseconds, rounded up, as poll wants it.
 int PollTime(Duration patience) {
@@ -30,12 +36,14 @@ PosixLineInput::~PosixLineInput() {
 LineInput::Result PosixLineInput::Read(std::string& line, Duration patience) {
     using Steady = std::chrono::steady_clock;
     const auto start = Steady::now();
-    while (!ended_) {
-        pollfd input{descriptor_, POLLIN, 0};
+    for (int taken = 0; !ended_; ++taken) {
+        if (taken == MostAtOnce) return Result::NotYet;
+        // A request to end the program must not be slept through.
+        pollfd inputs[] = {{descriptor_, POLLIN, 0}, {TerminationDescriptor(), POLLIN, 0}};
         const auto left = patience - (Steady::now() - start);
-        const int ready = ::poll(&input, 1, PollTime(left));
+        const int ready = ::poll(inputs, std::size(inputs), PollTime(left));
         if (ready < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
-        if (ready == 0) return Result::NotYet;
+        if (ready == 0 || inputs[0].revents == 0) return Result::NotYet;
         char byte = 0;
         const ssize_t got = ::read(descriptor_, &byte, 1);
         if (got < 0) return errno == EINTR ? Result::NotYet : Result::Failed;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -15,14 +16,27 @@ namespace kelvra::platform {
 
 namespace {
 
-volatile std::sig_atomic_t terminationRequested = 0;  // all that a signal handler may write
+// All that a signal handler may touch: a flag, and a pipe that wakes a sleeping event loop.
+volatile std::sig_atomic_t terminationRequested = 0;
+int terminationPipe[2] = {-1, -1};
 
-extern "C" void NoteTermination(int) { terminationRequested = 1; }
+extern "C" void NoteTermination(int) {
+    const int error = errno;
+    terminationRequested = 1;
+    const char byte = 0;
+    // A full pipe wakes as well as one more byte would.
+    [[maybe_unused]] const ssize_t written = ::write(terminationPipe[1], &byte, 1);
+    errno = error;
+}
 
 }  // namespace
 
-std::unique_ptr<Files> NativeFiles() { return std::make_unique<PosixFiles>(); }
-std::unique_ptr<Clock> NativeClock() { return std::make_unique<PosixClock>(); }
+std::unique_ptr<Files> NativeFiles() {
+    return std::make_unique<PosixFiles>();
+}
+std::unique_ptr<Clock> NativeClock() {
+    return std::make_unique<PosixClock>();
+}
 
 std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& options,
                                          std::error_code& dataFolderError) {
@@ -39,15 +53,34 @@ std::unique_ptr<LineInput> OpenLineInput(const std::string& path, std::error_cod
         error = {errno, std::generic_category()};
         return nullptr;
     }
-    return std::make_unique<PosixLineInput>(descriptor, true);
+    auto input = std::make_unique<PosixLineInput>(descriptor, true);
+    struct stat about = {};
+    if (::fstat(descriptor, &about) == 0 && S_ISDIR(about.st_mode)) {
+        error = std::make_error_code(std::errc::is_a_directory);
+        return nullptr;
+    }
+    return input;
 }
 
 void WatchForTermination() {
+    if (terminationPipe[0] < 0 && ::pipe2(terminationPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
     struct sigaction action = {};
     action.sa_handler = NoteTermination;
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) ::sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction inherited = {};
+        ::sigaction(signal, nullptr, &inherited);
+        // Whoever started the program may want it to outlive a logout.
+        if (inherited.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
+    }
+    // A reader that has gone shows up as a failed write.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
-bool TerminationRequested() { return terminationRequested != 0; }
+bool TerminationRequested() {
+    return terminationRequested != 0;
+}
+int TerminationDescriptor() {
+    return terminationPipe[0];
+}
 
 }  // namespace kelvra::platform

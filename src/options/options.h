@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The command line of the front ends: the same options for both, and words.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace kelvra::options {
+
+struct Options {
+    std::string driverDir;
+    std::string dataDir;
+    std::optional<platform::LocalTime> clock;  // Kelvra's own clock starts there
+    std::optional<std::uint64_t> seed;
+    bool echo = false;               // where the program says it has scripts
+    std::vector<std::string> words;  // whatever no option took
+};
+
+// What a program says of itself.
+struct Program {
+    const char* name;
+    const char* description;
+    const char* footer;      // the words in its usage
+    bool hasScript = false;  // takes --echo
+};
+
+constexpr int WrongUsage = 2;
+
+struct Parsed {
+    std::optional<Options> options;  // nothing: the program ends with `exitStatus`
+    int exitStatus = 0;
+    std::string message;  // help, or what is wrong
+};
+
+// A word may begin with "-" ("-DEBUG"), an unknown option ("--debug") is wrong usage.
+Parsed Parse(int argc, const char* const* argv, const Program& program);
+
+}  // namespace kelvra::options

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A session over a fake driver, with eight slots, its log in a file, and what it tells noted.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "driver/session.h"
+#include "driver/transfer.h"
+#include "platform/native.h"
+#include "support/fake_driver.h"
+#include "support/temp_folder.h"
+
+namespace kelvra::driver {
+
+class DriverTest : public testing::Test, public SensorNotices, public TransferMarks {
+protected:
+    DriverTest() {
+        test::FakeDriver::PutInto(operations_, test::FakeDriver::InstrumentFunctions());
+        log_.DebugFileName = folder_.Path("log");
+        log_.STAT = true;
+        table_.Resize(8);
+        for (int slot = 0; slot < 3; ++slot) {
+            table_[slot].ResourceName = "USB::" + std::to_string(slot + 1);
+            table_[slot].LogicalName = "A";
+            table_[slot].Present = table_[slot].Enabled = true;
+        }
+    }
+
+    void ShowSensorError(bool isError, int slot, const std::string& text, bool) override {
+        shown_.push_back((isError ? "show " : "clear ") + std::to_string(slot) + " " + text);
+    }
+    void TransferBegins(int slot) override { marks_.push_back("begins " + std::to_string(slot)); }
+    void TransferEnds(int slot) override { marks_.push_back("ends " + std::to_string(slot)); }
+
+    std::vector<std::string> LogLines() const {
+        std::vector<std::string> lines;
+        const std::string bytes = folder_.Get("log");
+        for (std::size_t at = 0, end; (end = bytes.find("\r\n", at)) != std::string::npos;
+             at = end + 2)
+            lines.push_back(bytes.substr(at, end - at));
+        return lines;
+    }
+
+    using Lines = std::vector<std::string>;
+
+    test::TempFolder folder_;
+    std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
+    test::FakeHost fake_{*files_};
+    test::FakeDriver driver_;
+    SessionState state_;
+    InstrumentOperations operations_;
+    sensors::SensorTable table_;
+    DebugIf log_{*files_, fake_.clock, fake_.computer.numbers};
+    Session session_{state_, operations_, log_, table_, fake_.host, *this};
+    ConfigurationTransfer transfer_{session_, table_, *this, *this};
+    Lines shown_;
+    Lines marks_;
+};
+
+}  // namespace kelvra::driver
