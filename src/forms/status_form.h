@@ -12,6 +12,7 @@ struct StatusForm : controls::Window {
     // Wide enough for all columns (5000 twips) with a scroll bar and margins.
     explicit StatusForm(controls::Changes& changes)
         : Window(changes, "StatusForm", "Results", {60, 60, 5520, 4200}) {
+        closesByRule = true;  // and no rule closes it: the readings stay in sight
         ResultGrid.SetWidth(0, 1200);
     }
 

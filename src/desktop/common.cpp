@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/common.h"
+
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+namespace {
+constexpr int TwipsPerPixel = 15;
+constexpr int DarkBelow = 110;  // of 255, as the eye weighs it
+}  // namespace
+
+QColor ToolkitColour(controls::Colour colour) {
+    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+            static_cast<int>(colour >> 16 & 0xFF)};
+}
+
+int Pixels(int twips) {
+    return twips / TwipsPerPixel;
+}
+int Twips(int pixels) {
+    return pixels * TwipsPerPixel;
+}
+
+namespace {
+
+void UpdateColours(QWidget& widget, const controls::Control& control) {
+    const auto& back = control.Back.Get();
+    const auto& fore = control.Fore.Get();
+    if (!back && !fore) return;
+    QPalette palette = widget.palette();
+    if (back) {
+        const QColor colour = ToolkitColour(*back);
+        palette.setColor(QPalette::Window, colour);
+        if (qGray(colour.rgb()) < DarkBelow) palette.setColor(QPalette::WindowText, Qt::white);
+        widget.setAutoFillBackground(true);
+    }
+    if (fore) palette.setColor(QPalette::WindowText, ToolkitColour(*fore));
+    if (palette != widget.palette()) widget.setPalette(palette);
+}
+
+}  // namespace
+
+void UpdateCommon(QWidget& widget, const controls::Control& control) {
+    widget.setEnabled(control.Enabled);
+    widget.setVisible(control.Visible);
+    const QString tooltip = Shown(control.Tooltip.Get());
+    if (!tooltip.isEmpty() && widget.toolTip() != tooltip) widget.setToolTip(tooltip);
+    UpdateColours(widget, control);
+}
+
+void Describe(QWidget& widget, const QString& name) {
+    widget.setAccessibleName(name);
+}
+
+}  // namespace kelvra::desktop

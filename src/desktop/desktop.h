@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop front end: the whole program behind Qt Widgets.
+#pragma once
+
+#include <memory>
+
+#include "app/kelvra.h"
+#include "desktop/main_window_view.h"
+#include "desktop/mirror.h"
+#include "desktop/preferences.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_events.h"
+#include "desktop/result_window_view.h"
+
+namespace kelvra::desktop {
+
+// The windows of a Kelvra, mirrored from its start-up on.
+class Desktop {
+public:
+    Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dataFolder);
+
+    Mirror& Painter() { return mirror_; }
+    MainWindowView& Main() { return main_; }
+    ResultWindowView& Results() { return results_; }
+
+private:
+    Preferences preferences_;
+    Mirror mirror_;
+    MainWindowView main_;
+    ResultWindowView results_;
+};
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/grid_adapter.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/common.h"
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+constexpr int LeastZoom = -3;
+constexpr int MostZoom = 24;
+constexpr qreal ZoomStep = 1.15;
+constexpr int CellMargin = 16;  // pixels beside a text
+
+Qt::Alignment ToolkitAlign(controls::Align align) {
+    return Qt::AlignVCenter | (align == controls::Align::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
+}
+
+QFont FontOf(const QFont& base, bool bold, bool italic) {
+    QFont font = base;
+    font.setBold(bold);
+    font.setItalic(italic);
+    return font;
+}
+
+int TextWidth(const QString& text, const QFont& font) {
+    const QFontMetrics metrics(font);
+    int width = 0;
+    for (const QString& line : text.split('\n'))
+        width = std::max(width, metrics.horizontalAdvance(line));
+    return width + CellMargin;
+}
+
+}  // namespace
+
+GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
+    : QTableWidget(parent), grid_(grid), normalSize_(font().pointSizeF()) {
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    connect(this, &QTableWidget::cellPressed,
+            [this](int row, int column) { grid_.MouseDown.Raise(row + 1, column); });
+    connect(this, &QTableWidget::cellClicked,
+            [this](int row, int column) { grid_.Click.Raise(row + 1, column); });
+}
+
+void GridWidget::SetZoom(int steps) {
+    zoom_ = std::clamp(steps, LeastZoom, MostZoom);
+    QFont zoomed = font();
+    zoomed.setPointSizeF(normalSize_ * std::pow(ZoomStep, zoom_));
+    setFont(zoomed);
+    horizontalHeader()->setFont(zoomed);
+}
+
+void GridWidget::ChangeZoom(int steps) {
+    SetZoom(steps);
+    if (onZoom) onZoom(zoom_);
+}
+
+void GridWidget::Activate() {
+    const int row = currentRow();
+    const int column = currentColumn();
+    if (row < 0 || column < 0) return;
+    grid_.MouseDown.Raise(row + 1, column);
+    grid_.Click.Raise(row + 1, column);
+}
+
+QSize GridWidget::sizeHint() const {
+    const int frame = 2 * frameWidth();
+    const int heading =
+        std::max(horizontalHeader()->sizeHint().height(), horizontalHeader()->minimumHeight());
+    return {horizontalHeader()->length() + frame, verticalHeader()->length() + heading + frame};
+}
+
+QString GridWidget::SelectedText() const {
+    QString text;
+    for (const QTableWidgetSelectionRange& range : selectedRanges()) {
+        for (int row = range.topRow(); row <= range.bottomRow(); ++row) {
+            for (int column = range.leftColumn(); column <= range.rightColumn(); ++column) {
+                if (column > range.leftColumn()) text += '\t';
+                if (const QTableWidgetItem* cell = item(row, column)) text += cell->text();
+            }
+            text += '\n';
+        }
+    }
+    return text;
+}
+
+void GridWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        QApplication::clipboard()->setText(SelectedText());
+    } else if (event->matches(QKeySequence::ZoomIn)) {
+        ChangeZoom(zoom_ + 1);
+    } else if (event->matches(QKeySequence::ZoomOut)) {
+        ChangeZoom(zoom_ - 1);
+    } else if (event->key() == Qt::Key_0 && event->modifiers() == Qt::ControlModifier) {
+        ChangeZoom(0);
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+               event->key() == Qt::Key_Space) {
+        Activate();
+    } else {
+        QTableWidget::keyPressEvent(event);
+    }
+}
+
+void GridWidget::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers() != Qt::ControlModifier) {
+        QTableWidget::wheelEvent(event);
+        return;
+    }
+    ChangeZoom(zoom_ + (event->angleDelta().y() > 0 ? 1 : -1));
+    event->accept();
+}
+
+GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid), widget_(widget) {}
+
+void GridAdapter::Update() {
+    const std::array colours{grid_.Back.Get(), grid_.FixedBack.Get(), grid_.EmptyBack.Get()};
+    if (widget_.rowCount() != grid_.Rows() - 1 || widget_.columnCount() != grid_.Columns() ||
+        colours != colours_) {
+        colours_ = colours;
+        Shape();
+    }
+    for (const auto& [row, column] : grid_.TakeChangedCells()) {
+        if (row == 0)
+            ShowHeading(column);
+        else
+            ShowCell(row, column);
+    }
+    UpdateCommon(widget_, grid_);
+}
+
+// The first time, and whenever the grid has grown or changed its colours: every cell is shown.
+void GridAdapter::Shape() {
+    widget_.setRowCount(grid_.Rows() - 1);
+    widget_.setColumnCount(grid_.Columns());
+    QPalette palette = widget_.palette();
+    if (grid_.EmptyBack.Get())
+        palette.setColor(QPalette::Base, ToolkitColour(*grid_.EmptyBack.Get()));
+    widget_.setPalette(palette);
+    FitColumns();
+    if (onGrowth) onGrowth();
+}
+
+void GridAdapter::FitColumns() {
+    const QFontMetrics metrics(widget_.font());
+    const qreal scale = std::pow(ZoomStep, widget_.Zoom());
+    for (int column = 0; column < grid_.Columns(); ++column) {
+        widget_.setColumnWidth(column, static_cast<int>(Pixels(grid_.Width(column)) * scale));
+        ShowHeading(column);
+        for (int row = 1; row < grid_.Rows(); ++row) ShowCell(row, column);
+    }
+    widget_.horizontalHeader()->setMinimumHeight(
+        std::max(3 * metrics.horizontalAdvance('H'), 2 * metrics.height() + CellMargin / 2));
+    widget_.verticalHeader()->setDefaultSectionSize(metrics.height() + CellMargin / 2);
+    for (int row = 0; row < widget_.rowCount(); ++row)
+        widget_.setRowHeight(row, metrics.height() + CellMargin / 2);
+    widget_.updateGeometry();
+}
+
+void GridAdapter::ShowHeading(int column) {
+    const controls::Grid::Cell& cell = grid_.At(0, column);
+    auto* item = widget_.horizontalHeaderItem(column);
+    if (item == nullptr) {
+        item = new QTableWidgetItem;
+        widget_.setHorizontalHeaderItem(column, item);
+    }
+    const QFont font = FontOf(widget_.font(), cell.bold, cell.italic);
+    const QString text = Shown(cell.text).replace("\r\n", "\n");
+    item->setText(text);
+    item->setFont(font);
+    item->setTextAlignment(ToolkitAlign(cell.align));
+    if (grid_.FixedBack.Get()) item->setBackground(ToolkitColour(*grid_.FixedBack.Get()));
+    Widen(column, text, font);
+}
+
+void GridAdapter::ShowCell(int row, int column) {
+    const controls::Grid::Cell& cell = grid_.At(row, column);
+    QTableWidgetItem* item = widget_.item(row - 1, column);
+    if (item == nullptr) {
+        item = new QTableWidgetItem;
+        widget_.setItem(row - 1, column, item);
+    }
+    const QString text = Shown(cell.text);
+    if (item->text() != text) item->setText(text);
+    if (const QFont font = FontOf(widget_.font(), cell.bold, cell.italic); item->font() != font)
+        item->setFont(font);
+    item->setTextAlignment(ToolkitAlign(cell.align));
+    const auto& back = cell.back ? cell.back : grid_.Back.Get();
+    if (back && item->background().color() != ToolkitColour(*back))
+        item->setBackground(ToolkitColour(*back));
+    item->setForeground(Qt::black);
+    if (const QString tooltip = Shown(cell.tooltip); item->toolTip() != tooltip)
+        item->setToolTip(tooltip);
+    Widen(column, text, item->font());
+}
+
+// Columns grow with their texts and don't shrink: a table that jumps can't be read.
+void GridAdapter::Widen(int column, const QString& text, const QFont& font) {
+    if (text.isEmpty()) return;
+    const int needed = TextWidth(text, font);
+    if (needed <= widget_.columnWidth(column)) return;
+    widget_.setColumnWidth(column, needed);
+    if (onGrowth) onGrowth();
+}
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The adapter of a grid: a table whose heading is the grid's row 0. Only cells that have changed
+// are touched. A person presses and clicks cells with the mouse, or with Enter and Space on the
+// keyboard, copies the selected ones with Ctrl+C, and enlarges the font with Ctrl and "+", "-", "0"
+// or the wheel.
+#pragma once
+
+#include <QTableWidget>
+#include <array>
+#include <functional>
+#include <optional>
+
+#include "controls/grid.h"
+#include "desktop/adapter.h"
+
+namespace kelvra::desktop {
+
+class GridWidget final : public QTableWidget {
+public:
+    explicit GridWidget(controls::Grid& grid, QWidget* parent = nullptr);
+
+    // Steps of the font's size, 0 is the normal one; told when a person changes it.
+    void SetZoom(int steps);
+    int Zoom() const { return zoom_; }
+    std::function<void(int steps)> onZoom;
+
+    // All rows and columns without scrolling.
+    QSize sizeHint() const override;
+
+    // The selected cells as lines of TAB-separated texts.
+    QString SelectedText() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void ChangeZoom(int steps);
+    void Activate();
+
+    controls::Grid& grid_;
+    qreal normalSize_;
+    int zoom_ = 0;
+};
+
+class GridAdapter final : public Adapter {
+public:
+    GridAdapter(controls::Grid& grid, GridWidget& widget);
+    void Update() override;
+
+    // After a change of the font: columns and heading get the room that they need.
+    void FitColumns();
+    // Told when the table needs more room than before.
+    std::function<void()> onGrowth;
+
+private:
+    void Shape();
+    void ShowCell(int row, int column);
+    void ShowHeading(int column);
+    void Widen(int column, const QString& text, const QFont& font);
+
+    controls::Grid& grid_;
+    GridWidget& widget_;
+    std::array<std::optional<controls::Colour>, 3> colours_{};  // shown: cells, heading, empty part
+};
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QSocketNotifier>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+#include <string>
+
+#include "desktop/desktop.h"
+#include "options/options.h"
+#include "options/version.h"
+#include "platform/native.h"
+
+namespace {
+
+using namespace kelvra;
+
+constexpr int NoDisplay = 3;
+constexpr int NoDataFolder = 4;
+
+void Complain(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stderr);
+    std::fwrite("\n", 1, 1, stderr);
+}
+
+// The toolkit ends the program when it finds no display or none of its plugins; the last words are
+// ours.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    Complain(message.toStdString());
+    if (type != QtFatalMsg) return;
+    Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
+    std::_Exit(NoDisplay);
+}
+
+bool DisplayIsNamed() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(name)) return true;
+    return false;
+}
+
+// A usual session ends, or the system asks the program to: the exit routine runs in order.
+void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
+    platform::WatchForTermination();
+    auto* notifier =
+        new QSocketNotifier(platform::TerminationDescriptor(), QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, [notifier, &kelvra] {
+        notifier->setEnabled(false);
+        kelvra.MFileExit_Click();
+    });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest,
+                     [&kelvra](QSessionManager&) { kelvra.MFileExit_Click(); });
+}
+
+std::uint64_t AnySeed() {
+    std::random_device device;
+    return (std::uint64_t{device()} << 32) | device();
+}
+
+int Run(QApplication& application, const options::Options& chosen) {
+    const auto files = platform::NativeFiles();
+    const auto nativeClock = platform::NativeClock();
+    std::unique_ptr<platform::SetClock> setClock;
+    if (chosen.clock) setClock = std::make_unique<platform::SetClock>(*chosen.clock);
+    platform::Clock& clock = setClock ? static_cast<platform::Clock&>(*setClock) : *nativeClock;
+    std::error_code folderError;
+    const auto computer = platform::NativeComputer(
+        *files, {chosen.dataDir, chosen.driverDir, chosen.words, options::Version}, folderError);
+    const std::string folder = computer->ProgramFolder();
+    if (!folderError && !files->Writable(folder))
+        folderError = std::make_error_code(std::errc::permission_denied);
+    if (folderError) {
+        Complain("kelvra: the data folder " + folder + " can't be used: " + folderError.message());
+        return NoDataFolder;
+    }
+    desktop::QtEvents events(setClock.get());
+    desktop::QtDialogs dialogs;
+    util::Random random(chosen.seed ? *chosen.seed : AnySeed());
+    platform::Host host{events, dialogs, clock, *files, *computer, random};
+    app::Kelvra kelvra(host);
+    desktop::Desktop desktop(kelvra, dialogs, folder);
+    ExitWhenAsked(application, kelvra);
+    kelvra.Start();
+    desktop.Painter().Flush();
+    return events.HasQuit() ? 0 : QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const options::Parsed parsed =
+        options::Parse(argc, argv, {"kelvra", "Kelvra operates several USB power sensors.", ""});
+    if (!parsed.options) {
+        std::FILE* where = parsed.exitStatus == 0 ? stdout : stderr;
+        std::fwrite((parsed.message + "\n").data(), 1, parsed.message.size() + 1, where);
+        return parsed.exitStatus;
+    }
+    if (!DisplayIsNamed()) {
+        Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
+        return NoDisplay;
+    }
+    qInstallMessageHandler(OnToolkitMessage);
+    int toolkitArgc = 1;  // the command line is the program's own
+    QApplication application(toolkitArgc, argv);
+    QApplication::setApplicationName("Kelvra");
+    QApplication::setDesktopFileName("kelvra");
+    return Run(application, *parsed.options);
+}

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/main_window_view.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "desktop/common.h"
+#include "desktop/icons.h"
+#include "desktop/simple_adapters.h"
+
+namespace kelvra::desktop {
+
+namespace {
+constexpr int ToolIcon = 28;  // logical pixels
+constexpr int IndicatorIcon = 20;
+constexpr int LeastFormulaWidth = 260;
+}  // namespace
+
+MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
+    : form_(form), mirror_(mirror), widget_(form), area_(new QMdiArea) {
+    BuildMenus();
+    auto* top = new QHBoxLayout;
+    top->setSpacing(0);
+    top->addWidget(BuildTools(), 3);
+    top->addWidget(BuildFormulas(), 2);
+    auto* central = new QWidget;
+    auto* all = new QVBoxLayout(central);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addLayout(top);
+    all->addWidget(area_, 1);
+    area_->setAccessibleName("Windows");
+    widget_.setCentralWidget(central);
+    widget_.setWindowIcon(Icon("kelvra"));
+    mirror_.Add(form_, std::make_unique<FrameWindowAdapter>(form_, widget_));
+}
+
+void MainWindowView::BuildMenus() {
+    const struct {
+        controls::MenuItem& item;
+        const char* text;
+        const char* shortcut;
+        bool checkable;
+    } entries[] = {
+        {form_.MFile, "&File", "", false},
+        {form_.Load_Sensor_Settings, "&Load sensor settings", "Ctrl+O", false},
+        {form_.Save_Sensor_Settings, "&Save sensor settings", "Ctrl+S", false},
+        {form_.line1, "-", "", false},
+        {form_.FileSaveData, "&Record Data...", "Ctrl+R", false},
+        {form_.line2, "-", "", false},
+        {form_.MFileExit, "E&xit", "Ctrl+Q", false},
+        {form_.MenueWindow, "&Window", "", false},
+        {form_.SettingAlwaysOnTop, "Settings always on &top", "", true},
+        {form_.MHelp, "&Help", "", false},
+        {form_.Helpfunction, "&Help", "F1", false},
+        {form_.MHelpAbout, "&About", "", false},
+    };
+    QMenu* menu = nullptr;
+    for (const auto& entry : entries) {
+        if (entry.item.Parent() == &form_) {
+            menu = widget_.menuBar()->addMenu(entry.text);
+            continue;
+        }
+        if (entry.item.IsSeparator()) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(entry.text);
+        action->setShortcut(QKeySequence(entry.shortcut));
+        action->setCheckable(entry.checkable);
+        mirror_.Add(entry.item, std::make_unique<MenuItemAdapter>(entry.item, *action));
+    }
+}
+
+QWidget* MainWindowView::BuildTools() {
+    auto* tools = new QFrame;
+    auto* rows = new QVBoxLayout(tools);
+    rows->addLayout(BuildButtons());
+    rows->addLayout(BuildConnection());
+    rows->addStretch();
+    mirror_.Add(form_.MainTools, std::make_unique<FrameAdapter>(form_.MainTools, *tools));
+    return tools;
+}
+
+QPushButton* MainWindowView::MakeButton(controls::Button& button, const char* text,
+                                        const char* shortcut) {
+    auto* widget = new QPushButton(text);
+    widget->setIconSize({ToolIcon, ToolIcon});
+    widget->setObjectName(QString::fromStdString(button.Name()));
+    if (*shortcut != '\0') {
+        widget->setShortcut(QKeySequence(shortcut));
+        widget->setToolTip(QString(text).remove('&') + " (" + shortcut + ")");
+    }
+    Describe(*widget, QString(text).remove('&'));
+    mirror_.Add(button, std::make_unique<ButtonAdapter>(button, *widget));
+    return widget;
+}
+
+QLabel* MainWindowView::MakeLabel(const controls::Label& label) {
+    auto* widget = new QLabel;
+    widget->setObjectName(QString::fromStdString(label.Name()));
+    mirror_.Add(label, std::make_unique<LabelAdapter>(label, *widget));
+    return widget;
+}
+
+QWidget* MainWindowView::MakeList(controls::List& list, const char* name) {
+    auto* widget = new QComboBox;
+    widget->setObjectName(QString::fromStdString(list.Name()));
+    widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    Describe(*widget, name);
+    mirror_.Add(list, std::make_unique<ListAdapter>(list, *widget));
+    return widget;
+}
+
+QHBoxLayout* MainWindowView::BuildButtons() {
+    auto* row = new QHBoxLayout;
+    row->addWidget(MakeButton(form_.StartIt, "&Start", "F5"));
+    row->addWidget(MakeButton(form_.StopIt, "S&top", "Shift+F5"));
+    row->addWidget(MakeButton(form_.Show_Settings, "S&ettings", ""));
+    auto* busy = new QLabel;
+    Describe(*busy, "Measuring");
+    mirror_.Add(form_.BusySign, std::make_unique<PictureAdapter>(form_.BusySign, *busy, ToolIcon));
+    row->addWidget(busy);
+    row->addWidget(MakeLabel(form_.MeasSpeedInfo));
+    row->addStretch();
+    row->addLayout(BuildChoices());
+    return row;
+}
+
+QHBoxLayout* MainWindowView::BuildChoices() {
+    auto* row = new QHBoxLayout;
+    row->addWidget(MakeList(form_.SensSyncMode, "Synchronisation"));
+    row->addWidget(MakeLabel(form_.SensorLabel));
+    row->addWidget(MakeList(form_.TimeSensor_select_new, "Sensor"));
+    return row;
+}
+
+QHBoxLayout* MainWindowView::BuildConnection() {
+    auto* row = new QHBoxLayout;
+    auto* picture = new QLabel;
+    Describe(*picture, "Connection");
+    mirror_.Add(form_.picConnected,
+                std::make_unique<PictureAdapter>(form_.picConnected, *picture, IndicatorIcon));
+    row->addWidget(picture);
+    QLabel* connected = MakeLabel(form_.ConSensors);
+    QFont bold = connected->font();
+    bold.setBold(true);
+    connected->setFont(bold);
+    row->addWidget(connected);
+
+    auto* notice = new QFrame;
+    auto* inside = new QHBoxLayout(notice);
+    inside->setContentsMargins(0, 0, 0, 0);
+    QLabel* text = MakeLabel(form_.lblMeasAwait);
+    text->setWordWrap(true);
+    inside->addWidget(text);
+    mirror_.Add(form_.ConnectedFrame,
+                std::make_unique<FrameAdapter>(form_.ConnectedFrame, *notice));
+    // The row keeps its height while the notice comes and goes.
+    QSizePolicy policy = notice->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    notice->setSizePolicy(policy);
+    row->addWidget(notice, 1);
+    return row;
+}
+
+QWidget* MainWindowView::BuildFormulas() {
+    auto* outer = new QFrame;
+    auto* outerLayout = new QVBoxLayout(outer);
+    auto* inner = new QFrame;
+    auto* innerLayout = new QVBoxLayout(inner);
+    outerLayout->setContentsMargins(0, 0, 0, 0);
+    outerLayout->addWidget(inner);
+    auto* grid = new GridWidget(form_.CalcGrid);
+    // The formulas are always in sight, and take no more room than that.
+    grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->setObjectName("CalcGrid");
+    grid->horizontalHeader()->setStretchLastSection(true);
+    Describe(*grid, "Calculated values");
+    innerLayout->addWidget(grid);
+    outer->setMinimumWidth(LeastFormulaWidth);
+    mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
+    mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
+    mirror_.Add(form_.CalcGrid, std::make_unique<GridAdapter>(form_.CalcGrid, *grid));
+    return outer;
+}
+
+}  // namespace kelvra::desktop

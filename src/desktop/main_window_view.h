@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The layout of the main window: menus, tool strip, calculation grid, and the area of the windows
+// inside it. Widgets and their adapters, no rules.
+#pragma once
+
+#include <QMdiArea>
+#include <functional>
+
+#include "desktop/grid_adapter.h"
+#include "desktop/mirror.h"
+#include "desktop/window_adapters.h"
+#include "forms/main_window.h"
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace kelvra::desktop {
+
+class MainWindowView {
+public:
+    MainWindowView(forms::MDIMain& form, Mirror& mirror);
+
+    FrameWindow& Widget() { return widget_; }
+    QMdiArea& Area() { return *area_; }
+
+private:
+    void BuildMenus();
+    QWidget* BuildTools();
+    QHBoxLayout* BuildButtons();
+    QHBoxLayout* BuildChoices();
+    QHBoxLayout* BuildConnection();
+    QWidget* BuildFormulas();
+    QPushButton* MakeButton(controls::Button& button, const char* text, const char* shortcut);
+    QLabel* MakeLabel(const controls::Label& label);
+    QWidget* MakeList(controls::List& list, const char* name);
+
+    forms::MDIMain& form_;
+    Mirror& mirror_;
+    FrameWindow widget_;
+    QMdiArea* area_;
+};
+
+}  // namespace kelvra::desktop

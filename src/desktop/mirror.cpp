@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/mirror.h"
+
+#include <chrono>
+
+namespace kelvra::desktop {
+
+namespace {
+constexpr auto FrameTime = std::chrono::milliseconds(17);
+}  // namespace
+
+Mirror::Mirror(controls::Changes& changes) : changes_(changes) {
+    changes_.Take();  // adapters read their controls as they come
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setInterval(FrameTime);
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Flush(); });
+    changes_.onFirst = [this] { timer_.start(); };
+}
+
+Mirror::~Mirror() {
+    changes_.onFirst = nullptr;
+}
+
+void Mirror::Add(const controls::Control& control, std::unique_ptr<Adapter> adapter) {
+    adapter->Update();
+    adapters_.insert_or_assign(&control, std::move(adapter));
+}
+
+void Mirror::Flush() {
+    for (controls::Control* control : changes_.Take())
+        if (const auto found = adapters_.find(control); found != adapters_.end())
+            found->second->Update();
+}
+
+}  // namespace kelvra::desktop

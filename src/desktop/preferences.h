@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the desktop program itself keeps between runs, in a file of its own in the data folder: how
+// large the readings are shown. Settings of sensors are elsewhere.
+#pragma once
+
+#include <QSettings>
+#include <string>
+
+namespace kelvra::desktop {
+
+class Preferences {
+public:
+    explicit Preferences(const std::string& dataFolder);
+
+    // Steps of the result table's font; 0 is the normal size.
+    int TableZoom() const;
+    void SetTableZoom(int steps);
+
+private:
+    QSettings settings_;
+};
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/result_window_view.h"
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "desktop/common.h"
+#include "desktop/icons.h"
+#include "desktop/simple_adapters.h"
+
+namespace kelvra::desktop {
+
+ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area)
+    : window_(new ChildWindow(form)), table_(new GridWidget(form.ResultGrid)) {
+    auto* frame = new QFrame;
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(table_);
+    table_->setObjectName("ResultGrid");
+    Describe(*table_, "Results");
+    window_->setWidget(frame);
+    area.addSubWindow(window_);
+    // Without a close button: there is no way to bring it back.
+    window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                            Qt::WindowMinMaxButtonsHint);
+    window_->setWindowIcon(Icon("kelvra"));
+
+    auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
+    adapter_ = adapter.get();
+    adapter_->onGrowth = [this] { FitWindow(); };
+    mirror.Add(form.SensorFrame, std::make_unique<FrameAdapter>(form.SensorFrame, *frame));
+    mirror.Add(form.ResultGrid, std::move(adapter));
+    mirror.Add(form, std::make_unique<ChildWindowAdapter>(form, *window_));
+    FitWindow();
+}
+
+void ResultWindowView::SetZoom(int steps) {
+    table_->SetZoom(steps);
+    adapter_->FitColumns();
+    FitWindow();
+}
+
+// All columns and rows are in sight, as far as the area has room; the window grows and never shrinks.
+// Later, in one go: a table that fills itself asks often, and has its sizes when it is laid out.
+void ResultWindowView::FitWindow() {
+    if (fitting_) return;
+    fitting_ = true;
+    QTimer::singleShot(0, window_, [this] {
+        fitting_ = false;
+        const QSize lacking = (table_->sizeHint() - table_->size()).expandedTo({0, 0});
+        const QSize area = window_->mdiArea()->viewport()->size();
+        const QSize room = area - QSize(window_->x(), window_->y());
+        window_->resize((window_->size() + lacking).boundedTo(room.expandedTo(window_->size())));
+    });
+}
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The layout of the result table's window: the table alone, as large as its rows.
+#pragma once
+
+#include <QMdiArea>
+
+#include "desktop/grid_adapter.h"
+#include "desktop/mirror.h"
+#include "desktop/window_adapters.h"
+#include "forms/status_form.h"
+
+namespace kelvra::desktop {
+
+class ResultWindowView {
+public:
+    ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area);
+
+    GridWidget& Table() { return *table_; }
+    // Gives the table's font another size, and the window the room for it.
+    void SetZoom(int steps);
+
+private:
+    void FitWindow();
+
+    ChildWindow* window_;  // the area's
+    GridWidget* table_;
+    GridAdapter* adapter_;
+    bool fitting_ = false;
+};
+
+}  // namespace kelvra::desktop

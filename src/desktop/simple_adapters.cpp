@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/simple_adapters.h"
+
+#include <QSignalBlocker>
+
+#include "desktop/common.h"
+#include "desktop/icons.h"
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+void LabelAdapter::Update() {
+    const QString caption = Shown(label_.Caption.Get()).replace("\r\n", "\n");
+    if (widget_.text() != caption) {
+        widget_.setText(caption);
+        widget_.setAccessibleName(caption);
+    }
+    UpdateCommon(widget_, label_);
+}
+
+ButtonAdapter::ButtonAdapter(controls::Button& button, QPushButton& widget)
+    : button_(button), widget_(widget) {
+    QObject::connect(&widget_, &QPushButton::clicked, [this] { button_.Press(); });
+}
+
+void ButtonAdapter::Update() {
+    if (!button_.Caption->empty()) widget_.setText(Shown(button_.Caption.Get()));
+    if (!button_.Picture->empty()) widget_.setIcon(Icon(button_.Picture));
+    UpdateCommon(widget_, button_);
+}
+
+MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
+    : item_(item), action_(action), shownCaption_(item.Caption.Get()) {
+    QObject::connect(&action_, &QAction::triggered, [this] { item_.Press(); });
+}
+
+void MenuItemAdapter::Update() {
+    if (item_.Caption.Get() != shownCaption_) {
+        shownCaption_ = item_.Caption.Get();
+        action_.setText(Shown(shownCaption_));
+    }
+    const QSignalBlocker quiet(action_);
+    action_.setEnabled(item_.Enabled);
+    action_.setVisible(item_.Visible);
+    if (action_.isCheckable()) action_.setChecked(item_.Checked);
+}
+
+ListAdapter::ListAdapter(controls::List& list, QComboBox& widget) : list_(list), widget_(widget) {
+    QObject::connect(&widget_, &QComboBox::activated, [this](int index) { list_.Choose(index); });
+}
+
+void ListAdapter::Update() {
+    const QSignalBlocker quiet(widget_);
+    if (shown_ != list_.Items()) Fill();
+    if (widget_.currentIndex() != list_.Index()) widget_.setCurrentIndex(list_.Index());
+    UpdateCommon(widget_, list_);
+}
+
+void ListAdapter::Fill() {
+    shown_ = list_.Items();
+    widget_.clear();
+    for (const controls::List::Item& item : shown_) widget_.addItem(Shown(item.text));
+}
+
+void PictureAdapter::Update() {
+    if (shown_ != picture_.Image.Get()) {
+        shown_ = picture_.Image.Get();
+        widget_.setPixmap(PictureOf(shown_, size_, widget_.devicePixelRatioF()));
+    }
+    UpdateCommon(widget_, picture_);
+}
+
+void FrameAdapter::Update() {
+    UpdateCommon(widget_, frame_);
+}
+
+}  // namespace kelvra::desktop

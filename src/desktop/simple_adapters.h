@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Adapters of labels, buttons, menu entries, lists, pictures and frames: one short class each.
+#pragma once
+
+#include <QAction>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+
+#include "controls/kinds.h"
+#include "controls/list.h"
+#include "desktop/adapter.h"
+
+namespace kelvra::desktop {
+
+class LabelAdapter final : public Adapter {
+public:
+    LabelAdapter(const controls::Label& label, QLabel& widget) : label_(label), widget_(widget) {}
+    void Update() override;
+
+private:
+    const controls::Label& label_;
+    QLabel& widget_;
+};
+
+class ButtonAdapter final : public Adapter {
+public:
+    ButtonAdapter(controls::Button& button, QPushButton& widget);
+    void Update() override;
+
+private:
+    controls::Button& button_;
+    QPushButton& widget_;
+};
+
+// The text of the action is the front end's own, with a mnemonic; a caption that changes replaces
+// it.
+class MenuItemAdapter final : public Adapter {
+public:
+    MenuItemAdapter(controls::MenuItem& item, QAction& action);
+    void Update() override;
+
+private:
+    controls::MenuItem& item_;
+    QAction& action_;
+    std::string shownCaption_;
+};
+
+class ListAdapter final : public Adapter {
+public:
+    ListAdapter(controls::List& list, QComboBox& widget);
+    void Update() override;
+
+private:
+    void Fill();
+
+    controls::List& list_;
+    QComboBox& widget_;
+    std::vector<controls::List::Item> shown_;
+};
+
+class PictureAdapter final : public Adapter {
+public:
+    // The side of the picture in logical pixels.
+    PictureAdapter(const controls::Picture& picture, QLabel& widget, int size)
+        : picture_(picture), widget_(widget), size_(size) {}
+    void Update() override;
+
+private:
+    const controls::Picture& picture_;
+    QLabel& widget_;
+    int size_;
+    std::string shown_;
+};
+
+class FrameAdapter final : public Adapter {
+public:
+    FrameAdapter(const controls::Frame& frame, QWidget& widget) : frame_(frame), widget_(widget) {}
+    void Update() override;
+
+private:
+    const controls::Frame& frame_;
+    QWidget& widget_;
+};
+
+}  // namespace kelvra::desktop

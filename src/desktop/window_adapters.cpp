@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/window_adapters.h"
+
+#include <QCloseEvent>
+#include <QResizeEvent>
+
+#include "desktop/common.h"
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+// The record hears of sizes that a person has given, not of those that it gave itself.
+void ReportSize(controls::Window& window, const QResizeEvent& event) {
+    const int width = Twips(event.size().width());
+    const int height = Twips(event.size().height());
+    const controls::Geometry& known = window.Place.Get();
+    const bool same = Pixels(known.width) == event.size().width() &&
+                      Pixels(known.height) == event.size().height();
+    if (!same && event.oldSize().isValid()) window.PersonResizes(width, height);
+}
+
+}  // namespace
+
+void FrameWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    window_.PersonCloses();
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (event->spontaneous()) ReportSize(window_, *event);
+}
+
+void FrameWindowAdapter::Update() {
+    const QString title = Shown(window_.Caption.Get());
+    if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
+    const controls::Geometry& place = window_.Place.Get();
+    if (shown_ != place) {
+        if (shown_.left != place.left || shown_.top != place.top)
+            widget_.move(Pixels(place.left), Pixels(place.top));
+        if (shown_.width != place.width || shown_.height != place.height)
+            widget_.resize(Pixels(place.width), Pixels(place.height));
+        shown_ = place;
+    }
+    widget_.setVisible(window_.Visible);
+}
+
+ChildWindow::ChildWindow(controls::Window& window) : window_(window) {
+    setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    window_.PersonCloses();
+}
+
+void ChildWindow::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    // While a person drags an edge, the window holds the mouse.
+    if (QWidget::mouseGrabber() == this) ReportSize(window_, *event);
+}
+
+void ChildWindowAdapter::Update() {
+    const QString title = Shown(window_.Caption.Get());
+    if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
+    const controls::Geometry& place = window_.Place.Get();
+    if (shown_ != place) {
+        const QSize wanted(Pixels(place.width), Pixels(place.height));
+        widget_.move(Pixels(place.left), Pixels(place.top));
+        widget_.resize(wanted.expandedTo(widget_.sizeHint()));
+        shown_ = place;
+    }
+    widget_.setVisible(window_.Visible);
+}
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Adapters of windows: the frame of the program, and the windows inside it. A record's place moves
+// the window; of what a person does, a new size and a wish to close go back.
+#pragma once
+
+#include <QMainWindow>
+#include <QMdiSubWindow>
+
+#include "controls/kinds.h"
+#include "desktop/adapter.h"
+
+namespace kelvra::desktop {
+
+// The program's frame.
+class FrameWindow final : public QMainWindow {
+public:
+    explicit FrameWindow(controls::Window& window) : window_(window) {}
+
+protected:
+    // The close is the record's rule; the program ends by it, not by the toolkit.
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    controls::Window& window_;
+};
+
+class FrameWindowAdapter final : public Adapter {
+public:
+    FrameWindowAdapter(const controls::Window& window, FrameWindow& widget)
+        : window_(window), widget_(widget) {}
+    void Update() override;
+
+private:
+    const controls::Window& window_;
+    FrameWindow& widget_;
+    controls::Geometry shown_{};
+};
+
+// A window inside the frame. It is never smaller than what is in it needs.
+class ChildWindow final : public QMdiSubWindow {
+public:
+    explicit ChildWindow(controls::Window& window);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    controls::Window& window_;
+};
+
+class ChildWindowAdapter final : public Adapter {
+public:
+    ChildWindowAdapter(const controls::Window& window, ChildWindow& widget)
+        : window_(window), widget_(widget) {}
+    void Update() override;
+
+private:
+    const controls::Window& window_;
+    ChildWindow& widget_;
+    controls::Geometry shown_{};
+};
+
+}  // namespace kelvra::desktop
