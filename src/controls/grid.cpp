@@ -27,10 +27,10 @@ void Grid::Resize(int rows, int columns) {
     std::vector<Cell> cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
     const int keptRows = std::min(rows, rows_);
     const int keptColumns = std::min(columns, columns_);
-    for (int row = 0; row < keptRows; ++row)
-        for (int column = 0; column < keptColumns; ++column)
-            cells[static_cast<std::size_t>(row * columns + column)] =
-                std::move(cells_[Offset(row, column)]);
+    for (int row = 0; row < keptRows; ++row) {
+        const auto from = cells_.begin() + static_cast<std::ptrdiff_t>(Offset(row, 0));
+        std::move(from, from + keptColumns, cells.begin() + std::ptrdiff_t{row} * columns);
+    }
     cells_ = std::move(cells);
     rows_ = rows;
     columns_ = columns;

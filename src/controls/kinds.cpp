@@ -43,6 +43,7 @@ namespace {
 std::vector<OptionGroup::Option> NumberedOptions(const std::string& name,
                                                  const std::vector<std::string>& captions) {
     std::vector<OptionGroup::Option> options;
+    options.reserve(captions.size());
     for (const std::string& caption : captions)
         options.push_back({name + "(" + std::to_string(options.size()) + ")", caption});
     return options;

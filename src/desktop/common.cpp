@@ -43,7 +43,9 @@ void UpdateColours(QWidget& widget, const controls::Control& control) {
 
 void UpdateCommon(QWidget& widget, const controls::Control& control) {
     widget.setEnabled(control.Enabled);
-    widget.setVisible(control.Visible);
+    // What isn't in its window yet comes into sight with it; shown alone it would be a window.
+    const bool alone = widget.parentWidget() == nullptr;
+    if (!alone || !control.Visible) widget.setVisible(control.Visible);
     const QString tooltip = Shown(control.Tooltip.Get());
     if (!tooltip.isEmpty() && widget.toolTip() != tooltip) widget.setToolTip(tooltip);
     UpdateColours(widget, control);

@@ -102,7 +102,10 @@ QString GridWidget::SelectedText() const {
 void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         QApplication::clipboard()->setText(SelectedText());
-    } else if (event->matches(QKeySequence::ZoomIn)) {
+    } else if (event->matches(QKeySequence::ZoomIn) ||
+               // "+" is a shifted "=" on many keyboards.
+               (event->modifiers().testFlag(Qt::ControlModifier) &&
+                (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal))) {
         ChangeZoom(zoom_ + 1);
     } else if (event->matches(QKeySequence::ZoomOut)) {
         ChangeZoom(zoom_ - 1);

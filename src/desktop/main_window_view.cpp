@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "desktop/common.h"
@@ -15,7 +16,8 @@ namespace kelvra::desktop {
 namespace {
 constexpr int ToolIcon = 28;  // logical pixels
 constexpr int IndicatorIcon = 20;
-constexpr int LeastFormulaWidth = 260;
+constexpr int LeastFormulaWidth = 200;
+constexpr int FormulaColumn = 1;
 }  // namespace
 
 MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
@@ -78,6 +80,7 @@ QWidget* MainWindowView::BuildTools() {
     auto* tools = new QFrame;
     auto* rows = new QVBoxLayout(tools);
     rows->addLayout(BuildButtons());
+    rows->addLayout(BuildChoices());
     rows->addLayout(BuildConnection());
     rows->addStretch();
     mirror_.Add(form_.MainTools, std::make_unique<FrameAdapter>(form_.MainTools, *tools));
@@ -90,7 +93,8 @@ QPushButton* MainWindowView::MakeButton(controls::Button& button, const char* te
     widget->setIconSize({ToolIcon, ToolIcon});
     widget->setObjectName(QString::fromStdString(button.Name()));
     if (*shortcut != '\0') {
-        widget->setShortcut(QKeySequence(shortcut));
+        // Beside the underlined letter, which the button's own shortcut would replace.
+        new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->animateClick(); });
         widget->setToolTip(QString(text).remove('&') + " (" + shortcut + ")");
     }
     Describe(*widget, QString(text).remove('&'));
@@ -125,7 +129,6 @@ QHBoxLayout* MainWindowView::BuildButtons() {
     row->addWidget(busy);
     row->addWidget(MakeLabel(form_.MeasSpeedInfo));
     row->addStretch();
-    row->addLayout(BuildChoices());
     return row;
 }
 
@@ -134,6 +137,7 @@ QHBoxLayout* MainWindowView::BuildChoices() {
     row->addWidget(MakeList(form_.SensSyncMode, "Synchronisation"));
     row->addWidget(MakeLabel(form_.SensorLabel));
     row->addWidget(MakeList(form_.TimeSensor_select_new, "Sensor"));
+    row->addStretch();
     return row;
 }
 
@@ -177,14 +181,16 @@ QWidget* MainWindowView::BuildFormulas() {
     // The formulas are always in sight, and take no more room than that.
     grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     grid->setObjectName("CalcGrid");
-    grid->horizontalHeader()->setStretchLastSection(true);
     Describe(*grid, "Calculated values");
     innerLayout->addWidget(grid);
     outer->setMinimumWidth(LeastFormulaWidth);
     mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
     mirror_.Add(form_.CalcGrid, std::make_unique<GridAdapter>(form_.CalcGrid, *grid));
+    // Where room is short the formula gives way: names and results are what is read.
+    grid->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;
 }
 

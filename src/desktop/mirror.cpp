@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/mirror.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <chrono>
 
 namespace kelvra::desktop {
@@ -13,9 +15,11 @@ Mirror::Mirror(controls::Changes& changes) : changes_(changes) {
     changes_.Take();  // adapters read their controls as they come
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(FrameTime);
-    QObject::connect(&timer_, &QTimer::timeout, [this] { Flush(); });
-    changes_.onFirst = [this] { timer_.start(); };
+    connect(&timer_, &QTimer::timeout, [this] { Flush(); });
+    changes_.onFirst = [this] {
+        if (!timer_.isActive()) timer_.start(FrameTime);
+    };
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 Mirror::~Mirror() {
@@ -25,6 +29,14 @@ Mirror::~Mirror() {
 void Mirror::Add(const controls::Control& control, std::unique_ptr<Adapter> adapter) {
     adapter->Update();
     adapters_.insert_or_assign(&control, std::move(adapter));
+}
+
+// Before the event is delivered: the timer runs out when that is done.
+bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
+    const bool acts =
+        event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyPress;
+    if (acts) timer_.start(std::chrono::milliseconds(0));
+    return QObject::eventFilter(receiver, event);
 }
 
 void Mirror::Flush() {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // All adapters, and when they look: what has changed is painted at most 60 times a second, so that
-// a fast measurement never waits for pixels; while nothing changes, nothing runs.
+// a fast measurement never waits for pixels; while nothing changes, nothing runs. What a person's
+// click or key has changed is painted at once.
 #pragma once
 
+#include <QObject>
 #include <QTimer>
 #include <memory>
 #include <unordered_map>
@@ -12,16 +14,19 @@
 
 namespace kelvra::desktop {
 
-class Mirror {
+class Mirror final : public QObject {
 public:
     explicit Mirror(controls::Changes& changes);
-    ~Mirror();
+    ~Mirror() override;
 
     // The adapter shows its control from now on.
     void Add(const controls::Control& control, std::unique_ptr<Adapter> adapter);
 
     // Shows everything that has changed, now.
     void Flush();
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
     controls::Changes& changes_;

@@ -31,7 +31,10 @@ void ButtonAdapter::Update() {
 
 MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
     : item_(item), action_(action), shownCaption_(item.Caption.Get()) {
-    QObject::connect(&action_, &QAction::triggered, [this] { item_.Press(); });
+    QObject::connect(&action_, &QAction::triggered, [this] {
+        item_.Press();
+        Update();  // the mark is the record's, whatever the action has ticked by itself
+    });
 }
 
 void MenuItemAdapter::Update() {

@@ -3,6 +3,8 @@
 
 #include <QCloseEvent>
 #include <QResizeEvent>
+#include <QScreen>
+#include <algorithm>
 
 #include "desktop/common.h"
 #include "desktop/qt_text.h"
@@ -38,13 +40,20 @@ void FrameWindowAdapter::Update() {
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
     const controls::Geometry& place = window_.Place.Get();
     if (shown_ != place) {
-        if (shown_.left != place.left || shown_.top != place.top)
-            widget_.move(Pixels(place.left), Pixels(place.top));
-        if (shown_.width != place.width || shown_.height != place.height)
-            widget_.resize(Pixels(place.width), Pixels(place.height));
+        widget_.setGeometry(OnScreen(place));
         shown_ = place;
     }
     widget_.setVisible(window_.Visible);
+}
+
+// The rules know a usual screen; on a smaller one the window is moved and cut to what is there.
+QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
+    const QRect screen = widget_.screen()->availableGeometry();
+    QRect wanted(Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height));
+    wanted.setSize(wanted.size().boundedTo(screen.size()));
+    wanted.moveLeft(std::clamp(wanted.left(), screen.left(), screen.right() + 1 - wanted.width()));
+    wanted.moveTop(std::clamp(wanted.top(), screen.top(), screen.bottom() + 1 - wanted.height()));
+    return wanted;
 }
 
 ChildWindow::ChildWindow(controls::Window& window) : window_(window) {

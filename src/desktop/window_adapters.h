@@ -32,6 +32,8 @@ public:
     void Update() override;
 
 private:
+    QRect OnScreen(const controls::Geometry& place) const;
+
     const controls::Window& window_;
     FrameWindow& widget_;
     controls::Geometry shown_{};

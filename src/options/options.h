@@ -22,9 +22,9 @@ struct Options {
 
 // What a program says of itself.
 struct Program {
-    const char* name;
-    const char* description;
-    const char* footer;      // the words in its usage
+    const char* name = "";
+    const char* description = "";
+    const char* footer = "";  // the words in its usage
     bool hasScript = false;  // takes --echo
 };
 

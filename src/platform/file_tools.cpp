@@ -11,7 +11,7 @@ namespace kelvra::platform {
 
 namespace {
 
-constexpr std::size_t ChunkSize = 64 * 1024;
+constexpr std::size_t ChunkSize = std::size_t{64} << 10;
 
 std::error_code ReadAll(Files& files, Files::Handle handle, std::string& bytes) {
     std::string chunk(ChunkSize, '\0');

@@ -12,7 +12,7 @@ namespace kelvra::platform {
 
 // More than any settings file or script has; keeps a device that never ends from filling the
 // memory.
-constexpr std::size_t LargestFile = 256 * 1024 * 1024;
+constexpr std::size_t LargestFile = std::size_t{256} << 20;
 
 // All bytes of the file, none after an error. A missing file is an error
 // (no_such_file_or_directory) like any other; one above LargestFile is file_too_large.

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/posix/local_time.h"
 
-#include <time.h>
-
 #include <algorithm>
+#include <ctime>
 
 namespace kelvra::platform {
 

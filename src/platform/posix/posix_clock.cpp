@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/posix/posix_clock.h"
 
-#include <time.h>
-
+#include <ctime>
 #include <thread>
 
 #include "platform/posix/local_time.h"

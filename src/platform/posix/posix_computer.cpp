@@ -35,14 +35,14 @@ std::string Absolute(const std::string& folder) {
 }
 
 std::string HomeFolder() {
-    if (const std::string home = Environment("HOME"); !home.empty()) return home;
+    if (std::string home = Environment("HOME"); !home.empty()) return home;
     const passwd* user = ::getpwuid(::getuid());
     return user == nullptr ? "/" : user->pw_dir;
 }
 
 std::string DataFolder(const std::string& option) {
     if (!option.empty()) return option;
-    if (const std::string own = Environment("KELVRA_DATA_DIR"); !own.empty()) return own;
+    if (std::string own = Environment("KELVRA_DATA_DIR"); !own.empty()) return own;
     // A relative XDG_DATA_HOME is void, as its makers have it.
     const fs::path shared = Environment("XDG_DATA_HOME");
     const fs::path base = shared.is_absolute() ? shared : fs::path(HomeFolder()) / ".local/share";

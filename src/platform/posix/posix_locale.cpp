@@ -2,10 +2,10 @@
 #include "platform/posix/posix_locale.h"
 
 #include <langinfo.h>
-#include <time.h>
 
 #include <array>
 #include <chrono>
+#include <ctime>
 
 #include "util/text.h"
 

@@ -3,8 +3,7 @@
 // stays "C", so that no library call changes its meaning.
 #pragma once
 
-#include <locale.h>
-
+#include <clocale>
 #include <memory>
 #include <string>
 #include <type_traits>
