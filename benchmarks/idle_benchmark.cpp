@@ -2,26 +2,21 @@
 // What Kelvra costs while nothing comes: idle with sensors connected, in a tick of discovery, and
 // while a sensor waits for its trigger. Takes a quarter of a minute and prints figures.
 #include <poll.h>
-#include <time.h>
 
 #include <cstdio>
 
 #include "console_run.h"
+#include "process_figures.h"
 
 namespace {
 
 using namespace kelvra;
+using benchmarks::ProcessorTime;
 using std::chrono::duration;
 using std::chrono::seconds;
 
 constexpr int Sensors = 8;
 constexpr double TickInterval = 0.5;  // s
-
-double ProcessorTime() {
-    timespec used{};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
-    return static_cast<double>(used.tv_sec) + 1e-9 * static_cast<double>(used.tv_nsec);
-}
 
 void Wait(platform::Duration patience) {
     using std::chrono::milliseconds;

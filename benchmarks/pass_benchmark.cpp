@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "console_run.h"
-#include "util/levels.h"
+#include "pass_texts.h"
 #include "util/number_text.h"
 
 namespace {
@@ -59,35 +59,15 @@ void Pass(benchmark::State& state) {
         state.SetIterationTime(MeasurePasses<Sensors>(state, state.max_iterations));
 }
 
-// The cells of one sensor, and the texts that a pass gives them.
-struct Row {
-    std::string activity, watt, dbm, sigma, count;
-
-    static void Put(std::string& cell, const std::string& text) {
-        if (cell != text) cell = text;
-    }
-    void Show(double powerW, int pass) {
-        const util::NumberForm form;
-        const double level = util::W2dBm(powerW);
-        const std::string bar(static_cast<std::size_t>(pass % 8 + 1), '|');
-        Put(activity, bar + '.');
-        Put(activity, bar);
-        Put(watt, util::ScientificText(powerW, form));
-        Put(dbm, util::FixedText(level, 3, form));
-        Put(sigma, util::FixedText(level / 100, 3, form));
-        Put(count, util::TrimmedNumberText(std::int64_t{pass % 64}));
-    }
-};
-
 template <int Sensors>
 void TextsAlone(benchmark::State& state) {
-    std::vector<Row> rows(Sensors);
+    std::vector<benchmarks::Row> rows(Sensors);
     int pass = 0;
     double power = 1e-6;
     for (auto _ : state) {
         ++pass;
-        power = power < 1e-2 ? power * 1.013 : 1e-6;
-        for (Row& row : rows) row.Show(power, pass);
+        power = benchmarks::NextPower(power);
+        for (benchmarks::Row& row : rows) row.Show(power, pass);
         benchmark::DoNotOptimize(rows.data());
         benchmark::ClobberMemory();
     }

@@ -12,7 +12,12 @@ using test::WholeKelvra;
 class ExitTest : public testing::Test, public WholeKelvra {};
 
 TEST_F(ExitTest, SavesTheSettingsOfThePresentSensorsAndNothingElse) {
+    Start();  // simulated sensors
+    PressExit();
+    EXPECT_EQ(folder.Get("Kelvra.INI"), "(none)");
     folder.Put("Kelvra.INI", "; mine\r\n[other]\r\nkey=1\r\n");
+    driver.calls.clear();
+    driver.count.clear();
     StartWith(1);
     program->table[0].Settings.TrigLevel = -3;
     program->table[1].Settings.TrigLevel = -4;  // nobody is there
@@ -27,12 +32,6 @@ TEST_F(ExitTest, SavesTheSettingsOfThePresentSensorsAndNothingElse) {
     EXPECT_FALSE(program->table[0].Present);
     StartWith(0);
     EXPECT_EQ(program->table[0].Settings.TrigLevel, -3);
-}
-
-TEST_F(ExitTest, WritesNoSimulatedSensor) {
-    Start();
-    PressExit();
-    EXPECT_EQ(folder.Get("Kelvra.INI"), "(none)");
 }
 
 TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
@@ -59,29 +58,6 @@ TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
         EXPECT_TRUE(fake.events.quit);
     }
     EXPECT_GT(failed, 7);
-}
-
-TEST_F(ExitTest, AFileOfTheUsersChoiceCarriesSettingsFromOneSensorToAnother) {
-    StartWith(2);
-    auto& main = program->forms.mdiMain;
-    program->table[0].Settings.TSlotCount = 17;
-    program->table[0].Settings.ContMeas = true;
-    fake.dialogs.fileAnswer = folder.Path("mine.ini");
-    main.Save_Sensor_Settings.Press();
-    EXPECT_EQ(fake.dialogs.fileQuestion.proposed, folder.Path("Settings.ini"));
-    program->table.CurrentSensor = 1;
-    main.Load_Sensor_Settings.Press();
-    EXPECT_EQ(program->table[1].Settings, program->table[0].Settings);
-    EXPECT_FALSE(program->table[1].Settings.ContMeas);
-    EXPECT_FALSE(program->table[1].SettingsChanged);
-    const std::string saved = folder.Get("mine.ini");
-    program->table[1].Settings.TSlotCount = 3;
-    files.Plan(4, FaultyFiles::Fault::Fail);
-    main.Save_Sensor_Settings.Press();
-    EXPECT_EQ(folder.Get("mine.ini"), saved);
-    ASSERT_EQ(fake.dialogs.messages.size(), 1U);
-    EXPECT_TRUE(fake.dialogs.messages[0].text.starts_with("The settings could not be saved.\r\n" +
-                                                          folder.Path("mine.ini") + "\r\n"));
 }
 
 // A measurement with every kind of event round: while opening, polling, fetching and pacing; and
@@ -120,65 +96,52 @@ private:
     int asked_ = 0;
 };
 
-TEST(AnyMoment, StopEndsAMeasurementWithItsSessionClosedOnce) {
-    int round = 1;
-    for (;; ++round) {
-        MeasuringKelvra run;
-        if (!run.With(round, [&] { run.PressStop(); })) break;
-        EXPECT_EQ(run.driver.Count("psdrv_close"), run.Opened()) << round;
-        EXPECT_TRUE(run.Opened() == 0 || run.driver.calls.back() == "psdrv_close(12)") << round;
-        EXPECT_TRUE(run.program->forms.mdiMain.StartIt.Enabled) << round;
-        EXPECT_FALSE(run.program->forms.mdiMain.StopIt.Enabled) << round;
-        EXPECT_FALSE(run.program->state.Measuring || run.program->state.commandRuns) << round;
-        EXPECT_TRUE(run.program->forms.setupForm.ActionFrame.Enabled) << round;
-        EXPECT_EQ(run.program->session.instrumentHandle, 0U) << round;
+TEST(AnyMoment, StopAndExitEndAMeasurementWithItsSessionClosedOnceAndExitCallsNothingMore) {
+    for (const bool exits : {false, true}) {
+        int round = 1;
+        for (;; ++round) {
+            MeasuringKelvra run;
+            const auto& calls = run.driver.calls;
+            std::size_t callsThen = 0;
+            int roundsThen = 0;
+            const bool done = run.With(round, [&] {
+                run.program->table[0].Settings.TrigLevel = -3;
+                exits ? run.PressExit() : run.PressStop();
+                callsThen = calls.size();
+                roundsThen = run.fake.events.rounds;
+            });
+            if (!done) break;
+            EXPECT_EQ(run.driver.Count("psdrv_close"), run.Opened()) << round;
+            EXPECT_FALSE(run.program->state.Measuring || run.program->state.commandRuns) << round;
+            EXPECT_EQ(run.program->session.instrumentHandle, 0U) << round;
+            EXPECT_EQ(run.fake.events.quit, exits) << round;
+            if (exits) {
+                EXPECT_EQ(calls.size(), callsThen) << round << calls.back();
+                EXPECT_EQ(calls.back(), "TeskCloseDriver()") << round;
+                EXPECT_EQ(run.fake.events.rounds, roundsThen) << round;
+                EXPECT_NE(run.folder.Get("Kelvra.INI").find("level=-3\r\n"), std::string::npos);
+            } else {
+                EXPECT_TRUE(run.Opened() == 0 || calls.back() == "psdrv_close(12)") << round;
+                EXPECT_TRUE(run.program->forms.mdiMain.StartIt.Enabled) << round;
+                EXPECT_FALSE(run.program->forms.mdiMain.StopIt.Enabled) << round;
+                EXPECT_TRUE(run.program->forms.setupForm.ActionFrame.Enabled) << round;
+            }
+        }
+        EXPECT_GT(round, 25);
     }
-    EXPECT_GT(round, 25);
-}
-
-TEST(AnyMoment, ExitEndsTheProgramWithItsSessionClosedOnceAndCallsNothingMore) {
-    int round = 1;
-    for (;; ++round) {
-        MeasuringKelvra run;
-        std::size_t calls = 0;
-        int rounds = 0;
-        const bool done = run.With(round, [&] {
-            run.program->table[0].Settings.TrigLevel = -3;
-            run.PressExit();
-            calls = run.driver.calls.size();
-            rounds = run.fake.events.rounds;
-        });
-        if (!done) break;
-        EXPECT_EQ(run.driver.calls.size(), calls) << round << run.driver.calls.back();
-        EXPECT_EQ(run.driver.calls.back(), "TeskCloseDriver()") << round;
-        EXPECT_EQ(run.driver.Count("psdrv_close"), run.Opened()) << round;
-        EXPECT_EQ(run.fake.events.rounds, rounds) << round;
-        EXPECT_TRUE(run.fake.events.quit) << round;
-        EXPECT_NE(run.folder.Get("Kelvra.INI").find("level=-3\r\n"), std::string::npos) << round;
-        EXPECT_FALSE(run.program->state.commandRuns) << round;
-    }
-    EXPECT_GT(round, 25);
 }
 
 TEST(AnyMoment, StopAndExitWhileAMessageBoxStandsEndTheStart) {
-    const struct {
-        std::string_view function;
-        int sessions;
-    } cases[] = {
-        {"psdrv_init", 0},
-        {"psdrv_AddSensor", 1},
-    };
-    for (const auto& c : cases) {
+    for (const std::string failing : {"psdrv_init", "psdrv_AddSensor"}) {
+        const int sessions = failing == "psdrv_init" ? 0 : 1;
         for (const bool exits : {false, true}) {
             MeasuringKelvra run;
-            run.driver.status = [&](std::string_view name, int) {
-                return name == c.function ? -5 : 0;
-            };
+            run.driver.status = [&](auto name, int) { return name == failing ? -5 : 0; };
             run.fake.dialogs.onMessage = [&] { exits ? run.PressExit() : run.PressStop(); };
             run.PressStart();
-            EXPECT_EQ(run.fake.dialogs.messages.size(), 1U) << c.function << exits;
-            EXPECT_EQ(run.driver.Count("psdrv_close"), c.sessions) << c.function << exits;
-            EXPECT_EQ(run.driver.Count("psdrv_chan_reset"), c.sessions);
+            EXPECT_EQ(run.fake.dialogs.messages.size(), 1U) << failing << exits;
+            EXPECT_EQ(run.driver.Count("psdrv_close"), sessions) << failing << exits;
+            EXPECT_EQ(run.driver.Count("psdrv_chan_reset"), sessions);
             EXPECT_EQ(run.driver.calls.back() == "TeskCloseDriver()", exits);
             EXPECT_TRUE(run.program->forms.mdiMain.StartIt.Enabled);
         }

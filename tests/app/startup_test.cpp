@@ -1,76 +1,150 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What stands in the slots when the program starts, and after each search for sensors.
 #include <gtest/gtest.h>
 
 #include "support/whole_kelvra.h"
 
 namespace kelvra::app {
 
-class StartupTest : public testing::Test, public test::WholeKelvra {};
+class StartupTest : public testing::Test, public test::WholeKelvra {
+protected:
+    // Name of every present sensor by slot, "-" behind one that is switched off, "." for a free
+    // slot.
+    std::string Slots() const {
+        std::string names;
+        for (int slot = 0; slot < program->table.Slots(); ++slot) {
+            const auto& entry = program->table[slot];
+            names += !entry.Present ? "." : entry.LogicalName + (entry.Enabled ? "" : "-");
+        }
+        return names;
+    }
+    void Plug(const std::string& places) {  // a point is a place without a connected device
+        driver.devices.clear();
+        for (const char name : places)
+            driver.devices.push_back({{name}, "PS-101", {name}, name == '.' ? 0 : 1});
+    }
+    void Switch(int slot) { program->forms.statusForm.ResultGrid.Click.Raise(slot + 1, 0); }
+    std::string Connection() const { return program->forms.mdiMain.ConSensors.Caption; }
+};
 
 TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
     const platform::LocalTime march{2005, 3, 7, 1, 2, 3, 0};
-    const struct {
-        int revision;
-        std::optional<platform::LocalTime> date;
-        const char* commandLine;
-        const char* rest;
-    } cases[] = {
+    const std::tuple<int, std::optional<platform::LocalTime>, std::string, std::string> cases[] = {
         {22, march, "/Debug", "1.0.22 from 3/7/2005 [DEBUG MODE]"},
-        {0, march, "", "1.0 from 3/7/2005"},
         {0, {}, "DEB UG", "1.0 from "},
         {1, march, "x -debugX", "1.0.1 from 3/7/2005 [DEBUG MODE]"},
     };
-    for (const auto& c : cases) {
-        fake.computer.version.revision = c.revision;
-        fake.computer.programDate = c.date;
-        fake.computer.commandLine = c.commandLine;
+    for (const auto& [revision, date, commandLine, rest] : cases) {
+        fake.computer.version.revision = revision;
+        fake.computer.programDate = date;
+        fake.computer.commandLine = commandLine;
         folder.Put("DebugKelvra.txt", "old");
-        EXPECT_EQ(Start().forms.mdiMain.Caption.Get(),
-                  std::string("Halvex Kelvra, Version ") + c.rest);
+        EXPECT_EQ(Start().forms.mdiMain.Caption.Get(), "Halvex Kelvra, Version " + rest);
         EXPECT_EQ(folder.Get("DebugKelvra.txt").find("old"), std::string::npos);
     }
 }
 
-TEST_F(StartupTest, WithoutSensorsTwoSimulatedOnesStandInEightSlots) {
-    Start();
-    EXPECT_EQ(program->table.SensorSlotCount, 8);
-    EXPECT_EQ(program->table.Sensors.size(), 9U);
-    EXPECT_TRUE(program->table.SimulationMode);
-    const auto& window = program->forms.mdiMain;
-    EXPECT_EQ(window.ConSensors.Caption.Get(), "Simulation Mode");
-    EXPECT_EQ(window.ConSensors.Fore.Get(), controls::Red);
-    EXPECT_EQ(window.SensSyncMode.Text(), "Async");
-    EXPECT_FALSE(window.FileSaveData.Enabled);
-    EXPECT_FALSE(program->forms.setupForm.ActionFrame.Enabled);
-    const char* names[] = {"SensSim1", "SensSim2", ""};
-    for (int slot = 0; slot < 3; ++slot) {
-        EXPECT_EQ(program->table[slot].LogicalName, names[slot]);
-        EXPECT_EQ(Cell(slot, 0).text, names[slot]);
-        EXPECT_EQ(Cell(slot, 0).back, slot < 2 ? controls::Green : controls::Grey);
-    }
-    EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), 2);
-}
-
-TEST_F(StartupTest, ReadsTheSettingsOfItsSlots) {
+TEST_F(StartupTest, SimulatedSensorsHaveTheSettingsOfTheirSlots) {
     folder.Put("Kelvra.INI", "[SENS2_TRIG]\r\nlevel=-7\r\n");
     Start();
     EXPECT_EQ(program->table[1].Settings.TrigLevel, -7);
     EXPECT_EQ(program->table[0].Settings.TrigLevel, -30);
+    EXPECT_EQ(program->forms.mdiMain.SensSyncMode.Text(), "Async");
+    EXPECT_FALSE(program->forms.mdiMain.FileSaveData.Enabled);
 }
 
-TEST_F(StartupTest, ALibraryThatIsNotThereIsNoErrorButALineInTheLog) {
-    fake.computer.libraries.clear();
-    fake.computer.commandLine = "debug";
+TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {"A", "A.......", "1 sensor connected"},
+        {"A.C", "AC.", "2 sensors connected"},
+        {".B", "B.", "1 sensor connected"},
+        {"ABCDEFGHIJ", "ABCDEFGHIJ", "10 sensors connected"},
+    };
+    for (const auto& [places, slots, text] : cases) {
+        Plug(places);
+        Start();
+        EXPECT_EQ(Slots(), slots) << places;
+        EXPECT_EQ(Connection(), text);
+        EXPECT_EQ(program->forms.mdiMain.ConSensors.Fore.Get(), controls::Green);
+        EXPECT_EQ(program->table.Sensors.size(), slots.size() + 1);
+        EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), program->catalogue.Connected());
+    }
+}
+
+TEST_F(StartupTest, EveryStepLeavesTheSensorsWhereTheyBelong) {
+    using Step = std::tuple<std::string, std::string, std::string>;  // plugged, slots, a tick later
+    const Step steps[] = {
+        {"AB", "AB", "AB"},
+        {"ABC", "ABC", "ABC"},  // appears behind the others
+        {".BC", "...", "BC."},  // one goes: all are assigned anew
+        {"ABC", "BCA", "BCA"},  // comes back into the free slot
+        {"", "SensSim1SensSim2......", "SensSim1SensSim2......"},
+        {"C", "C.......", "C......."},  // from simulation at once
+        {"D", "........", "D......."},  // another one in its place
+    };
+    Plug("AB");
     Start();
-    EXPECT_TRUE(program->table.SimulationMode);
-    EXPECT_EQ(fake.dialogs.messages.size(), 0U);
-    const std::string log = folder.Get("DebugKelvra.txt");
-    for (const char* file : {"libpsdrv_32.so", "libTeskControl2.so"})
-        EXPECT_NE(log.find(std::string(file) + " was not loaded: no such file\r\n"),
-                  std::string::npos);
-    Measure(1);
-    PressExit();
-    EXPECT_TRUE(fake.events.quit);
+    for (const auto& [plugged, slots, nextTick] : steps) {
+        Plug(plugged);
+        Tick();
+        EXPECT_EQ(Slots(), slots) << plugged;
+        Tick();
+        EXPECT_EQ(Slots(), nextTick) << plugged;
+        EXPECT_EQ(program->table.SimulationMode, plugged.empty());
+    }
+}
+
+TEST_F(StartupTest, AVanishingSensorSavesAllAndEachGetsItsSettingsBack) {
+    Plug("AB");
+    Start();
+    program->table[0].Settings.TrigLevel = -1;
+    program->table[1].Settings.TrigLevel = -2;
+    Plug(".B");
+    Tick();
+    EXPECT_NE(folder.Get("Kelvra.INI").find("[PS-101;A_TRIG]"), std::string::npos);
+    program->table[0].Settings.TrigLevel = program->table[1].Settings.TrigLevel = 9;
+    Tick();
+    EXPECT_EQ(program->table[0].LogicalName, "B");
+    EXPECT_EQ(program->table[0].Settings.TrigLevel, -2);
+    Plug("");
+    Tick();  // into simulation
+    Plug("A");
+    Tick();
+    EXPECT_EQ(program->table[0].Settings.TrigLevel, -1);
+}
+
+TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {
+    Plug("AB");
+    Start();
+    Switch(1);
+    const auto expect = [this](const std::string& plugged, const std::string& slots) {
+        Plug(plugged);
+        Tick();
+        Tick();
+        EXPECT_EQ(Slots(), slots) << plugged;
+    };
+    expect("AB", "AB-");
+    expect("ABC", "AB-C");
+    expect(".BC", "B-C.");
+    expect("", "SensSim1SensSim2......");
+    Switch(0);
+    expect("", "SensSim1-SensSim2......");
+    EXPECT_EQ(Cell(0, 0).back, controls::Grey);
+    expect("AB", "AB-");
+    Switch(1);
+    expect("A", "A.......");
+    expect("AB", "AB");
+}
+
+TEST_F(StartupTest, ANameOfTheDeviceListIsTakenOverAndNoneIsTheChannel) {
+    Plug("AB");
+    driver.devices[1].name = "";
+    Start();
+    EXPECT_EQ(Slots(), "A2");
+    driver.devices[0].name = "new";
+    Tick();
+    EXPECT_EQ(Slots(), "new2");
+    EXPECT_EQ(Cell(0, 0).text, "new");
 }
 
 }  // namespace kelvra::app

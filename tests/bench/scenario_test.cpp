@@ -9,19 +9,9 @@
 namespace kelvra::bench {
 namespace {
 
-TEST(ScenarioReader, TheBuiltInScenarioIsRight) {
-    const ScenarioResult result = ReadScenario(BuiltInScenario(), "built-in");
-    EXPECT_EQ(result.error, "");
-    EXPECT_EQ(result.scenario.sensors.size(), 4U);
-}
-
 TEST(ScenarioReader, ReadsEveryStatement) {
     const ScenarioResult result = ReadScenario(
-        "seed 7 # a comment\r\n"
-        "time polls 2 ms lock 3 s\n"
-        "duration 0\n"
-        "zero 10 us\n"
-        "external 5 ms\n"
+        "seed 7 # a comment\r\ntime polls 2 ms lock 3 s\nduration 0\nzero 10 us\nexternal 5 ms\n"
         "source g -3 dBm\n\n"
         "sensor PS-101 A1\n  name \"left # one\"\n  index 4\n  sees g -20 dB\n  noise 0.1 dB\n"
         "  noise 2 nW\n"
@@ -35,11 +25,9 @@ TEST(ScenarioReader, ReadsEveryStatement) {
     ASSERT_EQ(result.error, "");
     EXPECT_EQ(s.seed, 7U);
     EXPECT_FALSE(s.computerTime);
-    EXPECT_EQ(s.pollStep, 0.002);
-    EXPECT_EQ(s.lockStep, 3);
-    EXPECT_EQ(s.fixedDuration, 0);
+    EXPECT_EQ(std::tuple(s.pollStep, s.lockStep, s.fixedDuration, s.externalPeriod),
+              std::tuple(0.002, 3, 0, 0.005));
     EXPECT_DOUBLE_EQ(s.zeroDuration, 1e-5);
-    EXPECT_EQ(s.externalPeriod, 0.005);
     ASSERT_EQ(s.sensors.size(), 2U);
     EXPECT_EQ(s.sensors[0].name, "left # one");
     EXPECT_EQ(s.sensors[0].sees.at(0).couplingDb, -20);
@@ -48,56 +36,39 @@ TEST(ScenarioReader, ReadsEveryStatement) {
     EXPECT_EQ(s.sensors[1].index, 5U);
     EXPECT_FALSE(s.sensors[1].plugged);
     ASSERT_EQ(s.events.size(), 2U);
-    EXPECT_EQ(s.events[0].time, 1.5);
-    EXPECT_TRUE(s.events[0].plug);
+    EXPECT_TRUE(s.events[0].time == 1.5 && s.events[0].plug);
     EXPECT_EQ(s.events[1].operation, Operation::psdrv_chans_initiate);
     EXPECT_EQ(s.events[1].call, 9);
     ASSERT_EQ(s.faults.size(), 2U);
     EXPECT_EQ(s.faults[0].operation, Operation::psdrv_avg_setCount);
-    EXPECT_EQ(s.faults[0].first, 3);
-    EXPECT_EQ(s.faults[0].channel, 2);
-    EXPECT_EQ(s.faults[0].number, -5);
+    EXPECT_TRUE(s.faults[0].first == 3 && s.faults[0].channel == 2 && s.faults[0].number == -5);
     EXPECT_EQ(s.faults[0].message, "no such count");
-    EXPECT_EQ(s.faults[1].last, 2);
-    EXPECT_TRUE(std::isnan(s.faults[1].value));
+    EXPECT_TRUE(s.faults[1].last == 2 && std::isnan(s.faults[1].value));
 }
 
 TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
     const std::string start = "source g 0 dBm\nsensor PS-101 1\n";
-    const struct {
-        std::string line;
-        std::string error;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"beep", "unknown statement 'beep'"},
         {"sensor PS-101", "the serial number is missing"},
         {"sensor PS-102 1", "this serial number is there already"},
-        {"seed 99999999999999999999", "the seed is no number or out of range"},
-        {"seed -1", "the seed is no number or out of range"},
         {"source h 1e999 dBm", "the level is no number or out of range"},
-        {"source h nan dBm", "the level is no number or out of range"},
-        {"source h 5 dB", "unknown unit 'dB' of the level"},
         {"duration 5", "the unit of the time is missing"},
-        {"duration times 1e7", "the factor is no number or out of range"},
-        {"external 0", "the period is shorter than 1 us"},
         {"sees h 0 dB", "no source 'h' stands above"},
         {"at 1 s unplug 2", "no sensor '2' stands above"},
         {"at call 0 of psdrv_init plug 1", "the number of the call is no number or out of range"},
         {"fault psdrv_nothing status 1", "unknown function 'psdrv_nothing'"},
-        {"fault psdrv_init status 2147483648", "the status is no number or out of range"},
         {"fault psdrv_init", "'status', 'count', 'value' or 'unended' expected"},
         {"seed 1 2", "'2' is too much"},
         {"name \"x", "a text without its closing quote"},
         {std::string("seed \0\xff", 7), "the seed is no number or out of range"},
     };
-    for (const auto& c : cases) {
-        const ScenarioResult result = ReadScenario(start + c.line + "\n", "file");
-        EXPECT_EQ(result.error, "file:3: " + c.error) << c.line;
-        EXPECT_TRUE(result.scenario.sensors.empty()) << c.line;
+    for (const auto& [line, error] : cases) {
+        const ScenarioResult result = ReadScenario(start + line + "\n", "file");
+        EXPECT_EQ(result.error, "file:3: " + error) << line;
+        EXPECT_TRUE(result.scenario.sensors.empty()) << line;
     }
     EXPECT_EQ(ReadScenario("index 1", "file").error, "file:1: no sensor stands above");
-}
-
-TEST(ScenarioReader, RefusesWhatIsNoReadableFile) {
     EXPECT_NE(LoadScenario(testing::TempDir()).error.find("cannot be read"), std::string::npos);
     EXPECT_NE(LoadScenario("no such file").error.find("cannot be opened"), std::string::npos);
 }

@@ -36,6 +36,10 @@ protected:
     void TransferBegins(int slot) override { marks_.push_back("begins " + std::to_string(slot)); }
     void TransferEnds(int slot) override { marks_.push_back("ends " + std::to_string(slot)); }
 
+    void Fail(const std::string& function, Status status) {
+        driver_.status = [=](std::string_view name, int) { return name == function ? status : 0; };
+    }
+
     std::vector<std::string> LogLines() const {
         std::vector<std::string> lines;
         const std::string bytes = folder_.Get("log");

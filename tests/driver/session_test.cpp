@@ -34,7 +34,7 @@ TEST_F(DriverTest, NothingIsCalledForASlotThatCannotBeOpened) {
 }
 
 TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
-    driver_.status = [](std::string_view name, int) { return name == "psdrv_init" ? -5 : 0; };
+    Fail("psdrv_init", -5);
     session_.OpenSensor(0);
     EXPECT_EQ(state_.instrumentHandle, 0U);
     EXPECT_FALSE(table_[0].SessionOpen);
@@ -51,7 +51,7 @@ TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
 }
 
 TEST_F(DriverTest, AFailedFurtherSensorClosesTheSessionOnceForAllSlots) {
-    driver_.status = [](std::string_view name, int) { return name == "psdrv_AddSensor" ? 7 : 0; };
+    Fail("psdrv_AddSensor", 7);
     session_.OpenSensor(0);
     session_.OpenSensor(2);
     EXPECT_FALSE(table_[2].Enabled);
@@ -64,72 +64,40 @@ TEST_F(DriverTest, AFailedFurtherSensorClosesTheSessionOnceForAllSlots) {
     for (const auto& entry : table_.Sensors) EXPECT_FALSE(entry.SessionOpen);
 }
 
-TEST_F(DriverTest, ReconnectingIsOfferedUnlessTheDescriptorWasWrong) {
-    const struct {
-        const char* message;
-        Status status;
-        bool prompt;
-    } cases[] = {
-        {"bad value", -5, true},
-        {"Unknown Descriptor!", -5, false},
-        {"Unknown Descriptor!", 0, true},
-    };
-    for (const auto& c : cases) {
-        driver_.message = c.message;
-        driver_.status = [&](std::string_view name, int) {
-            return name == "psdrv_init" ? c.status : 0;
-        };
-        state_.ReconnectPrompt = !c.prompt;
-        session_.OpenSensor(0);
-        EXPECT_EQ(state_.ReconnectPrompt, c.prompt) << c.message << c.status;
-    }
-}
-
 TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
     const auto whole = test::FakeDriver::InstrumentFunctions();
     auto withoutInit = whole;
     withoutInit.erase("psdrv_init");
     auto withoutMessage = whole;
     withoutMessage.erase("psdrv_error_message");
-    const struct {
-        test::FunctionTable functions;
-        bool found;
-        Status status;
-        const char* text;
-    } cases[] = {
-        {{}, false, 0, "The driver library libfake.so could not be loaded: no such file\r\n()"},
-        {withoutInit, true, 0,
+    const std::tuple<test::FunctionTable, Status, std::string> cases[] = {
+        {{}, 0, "The driver library libfake.so could not be loaded: no such file\r\n()"},
+        {withoutInit, 0,
          "The driver library libfake.so has no function psdrv_init.\r\n(queue empty)"},
-        {withoutMessage, true, -5, "-5\r\n(queue empty)"},
-        {whole, true, MissingFunction, "bad value\r\n(queue empty)"},  // the driver's own -1
+        {withoutMessage, -5, "-5\r\n(queue empty)"},
+        {whole, MissingFunction, "bad value\r\n(queue empty)"},  // the driver's own -1
     };
-    for (const auto& c : cases) {
-        test::FakeDriver::PutInto(operations_, c.functions);
-        operations_.libraryLoaded = c.found;
+    for (const auto& [functions, status, text] : cases) {
+        test::FakeDriver::PutInto(operations_, functions);
+        operations_.libraryLoaded = !functions.empty();
         operations_.whyNotLoaded = "no such file";
-        driver_.status = [&](std::string_view name, int) {
-            return name == "psdrv_init" ? c.status : 0;
-        };
+        Fail("psdrv_init", status);
         session_.OpenSensor(0);
-        EXPECT_EQ(fake_.dialogs.messages.back().text, c.text);
+        EXPECT_EQ(fake_.dialogs.messages.back().text, text);
         EXPECT_FALSE(table_[0].SessionOpen);
     }
 }
 
 TEST_F(DriverTest, ATextOfTheDriverEndsInsideItsBuffer) {
     const std::string full(256, 'x');
-    const struct {
-        std::string message;
-        bool terminated;
-        std::string shown;
-    } cases[] = {
+    const std::tuple<std::string, bool, std::string> cases[] = {
         {full, false, full}, {"short", false, "short"},      {"", true, "-5"},
         {"", false, "-5"},   {"\xFF\xFE", true, "\xFF\xFE"},
     };
-    for (const auto& c : cases) {
-        driver_.message = c.message;
-        driver_.terminated = c.terminated;
-        EXPECT_EQ(session_.MessageFor(-5), c.shown);
+    for (const auto& [message, terminated, shown] : cases) {
+        driver_.message = message;
+        driver_.terminated = terminated;
+        EXPECT_EQ(session_.MessageFor(-5), shown);
     }
 }
 

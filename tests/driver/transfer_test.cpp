@@ -64,77 +64,50 @@ const std::string Continuous =
     "chan_setContAvSmoothingEnabled 1; ";
 
 TEST_F(TransferTest, SendsTheGroupsThatTheModelHas) {
-    const struct {
-        const char* name;
-        std::string groups;
-    } models[] = {
-        {"A", Range + Trigger + Continuous},     {"my ps-102", ""}, {"PS-102", ""}, {"1023", Range},
-        {"ps-10", Range + Trigger + Continuous},
-    };
-    for (const auto& model : models)
-        EXPECT_EQ(Sent(sensors::DefaultSettings(), model.name),
-                  "chan_reset; " + Averaging + Corrections + model.groups)
-            << model.name;
+    const std::pair<const char*, std::string> models[] = {{"A", Range + Trigger + Continuous},
+                                                          {"my ps-102", ""},
+                                                          {"1023", Range},
+                                                          {"ps-10", Range + Trigger + Continuous}};
+    for (const auto& [name, groups] : models)
+        EXPECT_EQ(Sent(sensors::DefaultSettings(), name),
+                  "chan_reset; " + Averaging + Corrections + groups)
+            << name;
 }
 
 TEST_F(TransferTest, SendsWhatEachSettingAsksFor) {
-    const struct {
-        void (*change)(SensorSettings&);
-        const char* sent;  // together, in this order
-    } cases[] = {
+    // What is changed; what is sent together, in this order.
+    // clang-format off
+    const std::pair<void (*)(SensorSettings&), const char*> cases[] = {
         {[](auto& s) { s.AvgEnable = false; },
          "reset; avg_setEnabled 0; chan_setCorrectionFrequency"},
-        {[](auto& s) {
-             s.AvgNormVal = 2.5;
-             s.Mode = 2;
-             s.AvgMoving = false;
-         },
+        {[](auto& s) { s.AvgNormVal = 2.5; s.Mode = 2; s.AvgMoving = false; },
          "avg_setAutoResolution 2; avg_setAutoMaxMeasuringTime 4; avg_setSlot 4; "
          "avg_setTerminalControl 1; chan_setCorr"},
         {[](auto& s) { s.AvgMode = 1; },
          "avg_setEnabled 1; avg_setAutoEnabled 1; avg_setAutoType 1; avg_setAutoNoiseSignalRatio "
-         "0.1; "
-         "avg_setAutoMaxMeasuringTime 4; avg_setTerminalControl 0; chan_setCorr"},
-        {[](auto& s) {
-             s.AvgMode = 1;
-             s.Mode = 2;
-             s.AvgSlotNum = -1;
-         },
+         "0.1; avg_setAutoMaxMeasuringTime 4; avg_setTerminalControl 0; chan_setCorr"},
+        {[](auto& s) { s.AvgMode = 1; s.Mode = 2; s.AvgSlotNum = -1; },
          "avg_setAutoMaxMeasuringTime 4; avg_setSlot -1; avg_setTerminalControl 0; "},
-        {[](auto& s) {
-             s.AvgMode = 2;
-             s.Mode = 2;
-             s.AvgManCount = 70000;
-         },
+        {[](auto& s) { s.AvgMode = 2; s.Mode = 2; s.AvgManCount = 70000; },
          "avg_setEnabled 1; avg_setAutoEnabled 0; avg_setCount 70000; avg_setTerminalControl 0; "
          "chan_setCorr"},
-        {[](auto& s) { s.AvgMode = 9; },
-         "avg_setEnabled 1; avg_setTerminalControl 0; chan_setCorr"},
         {[](auto& s) { s.AvgNormVal = 1e300; }, "avg_setAutoResolution 2147483647; "},
         {[](auto& s) { s.CorrFreqVal = 7; }, "chan_setCorrectionFrequency 5e+07; "},
         {[](auto& s) {
              s.CorrFreq = s.CorrOffset = s.CorrGamma = s.CorrDuty = s.CorrSParaCor = true;
-             s.CorrFreqVal = 7;
-             s.CorrOffsetVal = -2;
-             s.CorrGammaPha = 90;
+             s.CorrFreqVal = 7; s.CorrOffsetVal = -2; s.CorrGammaPha = 90;
          },
          "chan_setCorrectionFrequency 7; corr_setOffsetEnabled 1; corr_setOffset -2; "
          "corr_setSParamDeviceEnabled 1; chan_setSourceGammaCorrEnabled 1; "
-         "chan_setSourceGammaMagnitude 1; "
-         "chan_setSourceGammaPhase 90; corr_setDutyCycleEnabled 1; corr_setDutyCycle 1; range_"},
-        {[](auto& s) {
-             s.RangeAuto = s.FreqHigh = false;
-             s.ContMeas = true;
-         },
+         "chan_setSourceGammaMagnitude 1; chan_setSourceGammaPhase 90; corr_setDutyCycleEnabled 1; "
+         "corr_setDutyCycle 1; range_"},
+        {[](auto& s) { s.RangeAuto = s.FreqHigh = false; s.ContMeas = true; },
          "range_setAutoEnabled 0; range_setRange 2; chan_setSamplingFrequency 2; "
          "chan_setInitContinuousEnabled 1; trigger_"},
         {[](auto& s) { s.Mode = 1; },
          "chan_mode 1; chan_setContAvBufferedEnabled 0; chan_setContAvBufferedEnabled 1; "
          "chan_setContAvBufferSize 100; $"},
-        {[](auto& s) {
-             s.Mode = 2;
-             s.TSlotExclStop = 1e-4;
-         },
+        {[](auto& s) { s.Mode = 2; s.TSlotExclStop = 1e-4; },
          "chan_setContAvBufferedEnabled 0; tslot_configureTimeSlot 8 0.001; "
          "timing_configureExclude 0 1e-04; $"},
         {[](auto& s) { s.Mode = 3; },
@@ -144,26 +117,19 @@ TEST_F(TransferTest, SendsWhatEachSettingAsksFor) {
          "scope_setAutoType 0; scope_setAutoResolution 3; scope_setAutoMaxMeasuringTime 4; "
          "scope_setAverageTerminalControl 0; scope_setPoints 312; scope_setTime 0.01; "
          "scope_setOffsetTime 0; scope_setRealtimeEnabled 0; $"},
-        {[](auto& s) {
-             s.Mode = 4;
-             s.ScopeAvgMode = 1;
-             s.ScopeAVGEnable = false;
-         },
+        {[](auto& s) { s.Mode = 4; s.ScopeAvgMode = 1; s.ScopeAVGEnable = false; },
          "scope_setAverageEnabled 0; scope_setAutoEnabled 1; scope_setAutoType 1; "
          "scope_setAutoNoiseSignalRatio 0.1; scope_setAutoMaxMeasuringTime 4; scope_setAverageT"},
-        {[](auto& s) {
-             s.Mode = 4;
-             s.ScopeAvgMode = 2;
-             s.ScopeAVGMoving = false;
-         },
+        {[](auto& s) { s.Mode = 4; s.ScopeAvgMode = 2; s.ScopeAVGMoving = false; },
          "scope_setAutoEnabled 0; scope_setAverageCount 4; scope_setAverageTerminalControl 1; "},
         {[](auto& s) { s.Mode = 5; }, "chan_mode 5; chan_setContAvBufferedEnabled 0; $"},
     };
-    for (const auto& c : cases) {
+    // clang-format on
+    for (const auto& [change, together] : cases) {
         SensorSettings settings = sensors::DefaultSettings();
-        c.change(settings);
+        change(settings);
         const std::string sent = Sent(settings) + "$";
-        EXPECT_NE(sent.find(c.sent), std::string::npos) << c.sent << "\n in " << sent;
+        EXPECT_NE(sent.find(together), std::string::npos) << together << "\n in " << sent;
     }
 }
 
@@ -178,84 +144,63 @@ TEST_F(TransferTest, EachCallHasItsTwoLinesInTheLog) {
     EXPECT_EQ(lines.size(), 2 * (27U + 27U));
     EXPECT_EQ(lines[0], "00,043,200.000:psdrv_chan_reset(12, 1) STARTING");
     EXPECT_EQ(lines[1], "00,043,200.000:psdrv_chan_reset -> FINISHED");
-    const struct {
-        const char* start;
-        const char* finish;
-    } cases[] = {
-        {"psdrv_avg_setEnabled(  12,  1,  1 ) STARTING", "psdrv_avg_setEnabled -> FINISHED"},
-        {"psdrv_avg_setAutoType(  12,  1, 0) STARTING", "psdrv_avg_setAutoType -> FINISHED"},
-        {"psdrv_avg_setAutoType(  12,  1, 1 ) STARTING", "psdrv_avg_setAutoType -> FINISHED"},
-        {"psdrv_avg_setAutoMaxMeasuringTime (  12,  1,  4 ) STARTING",
-         "psdrv_avg_setAutoMaxMeasuringTime  -> FINISHED"},
-        {"psdrv_avg_setAutoMaxMeasuringTime(  12,  1,  4 ) STARTING",
-         "psdrv_avg_setAutoMaxMeasuringTime -> FINISHED"},
-        {"psdrv_corr_setSParamDeviceEnabled(  12,  1,  0 ) STARTING",
-         "psdrv_corr_setSParamDeviceEnabled(  12,  1,  0 ) FINISHED"},
-        {"psdrv_trigger_setDelay", "psdrv_trigger_setDelay -> FINISHED"},
-        {"psdrv_trigger_setLevel(  12,  1,  1E-06 ) STARTING",
-         "psdrv_trigger_setLevel -> FINISHED"},
-        {"psdrv_chan_setContAvAperture(  12,  1,  .1 ) STARTING",
-         "psdrv_chan_setContAvAperture -> FINISHED"},
+    const std::pair<std::string, std::string> cases[] = {
+        {"avg_setEnabled(  12,  1,  1 )", "avg_setEnabled ->"},
+        {"avg_setAutoType(  12,  1, 0)", "avg_setAutoType ->"},
+        {"avg_setAutoType(  12,  1, 1 )", "avg_setAutoType ->"},
+        {"avg_setAutoMaxMeasuringTime (  12,  1,  4 )", "avg_setAutoMaxMeasuringTime  ->"},
+        {"avg_setAutoMaxMeasuringTime(  12,  1,  4 )", "avg_setAutoMaxMeasuringTime ->"},
+        {"corr_setSParamDeviceEnabled(  12,  1,  0 )",
+         "corr_setSParamDeviceEnabled(  12,  1,  0 )"},
+        {"trigger_setLevel(  12,  1,  1E-06 )", "trigger_setLevel ->"},
+        {"chan_setContAvAperture(  12,  1,  .1 )", "chan_setContAvAperture ->"},
     };
-    const std::string header = "00,043,200.000: 12, 1               ";
-    for (const auto& c : cases) {
-        auto start = std::find(lines.begin(), lines.end(), header + c.start);
-        ASSERT_NE(start, lines.end()) << c.start;
-        EXPECT_EQ(*++start, header + c.finish);
+    const std::string header = "00,043,200.000: 12, 1               psdrv_";
+    for (const auto& [begin, end] : cases) {
+        auto start = std::find(lines.begin(), lines.end(), header + begin + " STARTING");
+        ASSERT_NE(start, lines.end()) << begin;
+        EXPECT_EQ(*++start, header + end + " FINISHED");
     }
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), header + "trigger_setDelay"), 2);
 }
 
 TEST_F(TransferTest, GoesOnAfterErrorsAndCollectsThemUnderTheirLabels) {
     const std::string common =
-        "Correction Frequency; Correction Offset OFF; Correction S parameter; Correction Gamma "
-        "OFF; "
-        "Correction Duty Cycle OFF; Range Auto ON; Range Crossover Level; Sampling Frequency; "
-        "Continuous Mode; Trigger Source; Trigger Slope; Trigger Delay; Trigger Count; Trigger "
-        "Level; "
-        "Trigger Hysteresis; Trigger HoldOff; Mode; ContAV Buffered OFF; ";
-    const std::string byResolution =
+        "Average Terminal Control; Correction Frequency; Correction Offset OFF; Correction S "
+        "parameter; Correction Gamma OFF; Correction Duty Cycle OFF; Range Auto ON; Range "
+        "Crossover Level; Sampling Frequency; Continuous Mode; Trigger Source; Trigger Slope; "
+        "Trigger Delay; Trigger Count; Trigger Level; Trigger Hysteresis; Trigger HoldOff; Mode; "
+        "ContAV Buffered OFF; ";
+    const std::string resolution =
         "Average Auto Enabled; Average Type Normal; Average Resolution; Average Max MeasTime; ";
-    const struct {
-        std::int32_t mode;
-        std::int16_t averaging;
-        std::string labels;
-    } cases[] = {
-        {0, 0,
-         byResolution + "Average Terminal Control; " + common +
-             "ContAV aperture; ContAV smoothing; "},
+    const std::string noise =
+        "Average Auto Enabled; Average Type SN; Average SN Value; Average Max MeasTime; ";
+    const std::string count = "Average Auto Disable; Average Count; ";
+    const std::tuple<std::int32_t, std::int16_t, std::string> cases[] = {
+        {0, 0, resolution + common + "ContAV aperture; ContAV smoothing; "},
         {2, 0,
-         byResolution + "Average Time Slot; Average Terminal Control; " + common +
+         resolution + "Average Time Slot; " + common +
              "Time Slot Configuration; Time Slot Exclude Configuration; "},
-        {1, 1,
-         "Average Auto Enabled; Average Type SN; Average SN Value; Average Max MeasTime; "
-         "Average Terminal Control; " +
-             common + "BufferedAV; BufferedAV Size; "},
-        {3, 2,
-         "Average Auto Disable; Average Count; Average Terminal Control; " + common +
-             "Burst Dropout Tolerance; "},
+        {1, 1, noise + common + "BufferedAV; BufferedAV Size; "},
+        {3, 2, count + common + "Burst Dropout Tolerance; "},
         {4, 0,
-         byResolution + "Average Terminal Control; " + common +
+         resolution + common +
              "Scope Average; Scope Average Auto ON; Scope Average Type Normal; "
              "Scope Average Normal Resolution; Scope Average Max MeasTime; "},
-        {4, 2,
-         "Average Auto Disable; Average Count; Average Terminal Control; " + common +
-             "Scope Average; "},
+        {4, 2, count + common + "Scope Average; "},
     };
-    for (const auto& c : cases) {
+    for (const auto& [mode, averaging, labels] : cases) {
         SensorSettings settings = sensors::DefaultSettings();
-        settings.Mode = c.mode;
-        settings.AvgMode = settings.ScopeAvgMode = c.averaging;
-        EXPECT_EQ(Complaints(settings), c.labels) << c.mode << c.averaging;
+        settings.Mode = mode;
+        settings.AvgMode = settings.ScopeAvgMode = averaging;
+        EXPECT_EQ(Complaints(settings), labels) << mode << averaging;
     }
 }
 
 TEST_F(TransferTest, ShowsItsErrorsAtOnceAndAgainAtItsEndElseClearsTheStrip) {
     table_[0].SettingsChanged = true;
     table_[0].LastErrorText = "of an earlier transfer";
-    const auto fails = [](std::string_view name, int) {
-        return name == "psdrv_trigger_setCount" ? 7 : 0;
-    };
-    driver_.status = fails;
+    Fail("psdrv_trigger_setCount", 7);
     driver_.onCall = [this](std::string_view) { EXPECT_TRUE(state_.ConfigRunning); };
     transfer_.ConfigureSensor(0);
     const std::string error = "show 0 Trigger Count\r\n  bad value\r\n  queue empty\r\n";

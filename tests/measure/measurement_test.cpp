@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/whole_kelvra.h"
 
@@ -9,120 +10,28 @@ namespace kelvra::measure {
 
 using controls::Green;
 using controls::Grey;
-using Lines = std::vector<std::string>;
-using Messages = std::vector<test::FakeDialogs::Shown>;
+using std::chrono::milliseconds;
+using std::chrono::seconds;
 
 class MeasurementTest : public testing::Test, public test::WholeKelvra {
 protected:
     void Click(int row, int column) {
         program->forms.statusForm.ResultGrid.Click.Raise(row, column);
     }
-    std::string Name(int slot) const { return program->table[slot].LogicalName; }
-    bool IsIdle() const {
-        const auto& window = program->forms.mdiMain;
-        return window.StartIt.Enabled && !window.StopIt.Enabled && !program->state.Measuring &&
-               !program->state.commandRuns;
+    bool WasCalled(const std::string& call) const {
+        return std::count(driver.calls.begin(), driver.calls.end(), call) > 0;
     }
-    int InstrumentCalls() const {
-        int calls = 0;
-        for (const auto& call : driver.calls) calls += call.starts_with("psdrv_") ? 1 : 0;
-        return calls;
+    // When each pass began measuring, until that many are complete.
+    std::vector<platform::Duration> Starts(int passes) {
+        std::vector<platform::Duration> starts;
+        driver.onCall = [&](std::string_view name) {
+            if (name == "psdrv_chans_initiate") starts.push_back(fake.clock.Monotonic());
+        };
+        program->state.RecordInterval = 5;
+        Measure(passes);
+        return starts;
     }
 };
-
-TEST_F(MeasurementTest, AnEnabledSensorOpensTheSessionWhereverItStood) {
-    StartWith(3);
-    Click(1, NameColumn);
-    ASSERT_EQ(program->table.CurrentSensor, 0);
-    Measure(1);
-    EXPECT_EQ(Name(0) + Name(1) + Name(2), "BCA");
-    EXPECT_EQ(driver.Count("psdrv_init"), 1);
-    EXPECT_EQ(driver.Count("psdrv_AddSensor"), 1);
-    EXPECT_NE(std::find(driver.calls.begin(), driver.calls.end(),
-                        "psdrv_AddSensor(12, 2, USB::0x1c5b::0x003::3, 1, 1)"),
-              driver.calls.end());
-    EXPECT_EQ(Cell(0, NameColumn).back, Green);
-    EXPECT_EQ(Cell(1, NameColumn).text, "C");
-}
-
-TEST_F(MeasurementTest, WithNoSensorSwitchedOnItHoldsUntilStop) {
-    StartWith(2);
-    Click(1, NameColumn);
-    Click(2, NameColumn);
-    PressStart();
-    EXPECT_EQ(fake.dialogs.messages, (Messages{{"", "No operational sensor selected"}}));
-    EXPECT_EQ(InstrumentCalls(), 0);
-    EXPECT_FALSE(program->forms.mdiMain.StartIt.Enabled);
-    EXPECT_TRUE(program->state.Measuring);
-    driver.devices[0].connected = 0;
-    Tick();  // discovery rests
-    EXPECT_EQ(Name(0), "A");
-    PressStop();
-    EXPECT_TRUE(IsIdle());
-    Tick();
-    EXPECT_EQ(Name(0), "");
-}
-
-TEST_F(MeasurementTest, AFailedStartIsToldAndHoldsUntilStop) {
-    const struct {
-        const char* function;
-        const char* message;
-        std::size_t messages;
-        int closes;
-    } cases[] = {
-        {"psdrv_init", "gone", 2, 0},
-        {"psdrv_AddSensor", "gone", 2, 1},
-        {"psdrv_init", "bad descriptor", 1, 0},
-    };
-    StartWith(2);
-    for (const auto& c : cases) {
-        for (int slot = 0; slot < 2; ++slot) program->table[slot].Enabled = true;
-        fake.dialogs.messages.clear();
-        driver.count.clear();
-        driver.message = c.message;
-        driver.status = [&](std::string_view name, int) { return name == c.function ? -5 : 0; };
-        PressStart();
-        ASSERT_EQ(fake.dialogs.messages.size(), c.messages) << c.function;
-        EXPECT_EQ(fake.dialogs.messages[0].text, std::string(c.message) + "\r\n(queue empty)");
-        EXPECT_EQ(fake.dialogs.messages.back().title, c.messages > 1 ? "Initialization Error" : "");
-        EXPECT_EQ(driver.Count("psdrv_close"), c.closes) << c.function;
-        EXPECT_EQ(driver.Count("psdrv_chans_initiate"), 0);
-        EXPECT_FALSE(program->forms.mdiMain.StartIt.Enabled);
-        PressStop();
-        EXPECT_TRUE(IsIdle());
-    }
-}
-
-TEST_F(MeasurementTest, ASensorIsWaitedForInTheNoticeAfterASecond) {
-    const struct {
-        driver::Status status;
-        const char* notice;
-    } cases[] = {
-        {0, "Waiting for a trigger signal at sensor 1"},
-        {5, "Waiting for a trigger signal at sensor 1: bad value"},
-    };
-    StartWith(1);
-    driver.complete = [](int) { return false; };
-    for (const auto& c : cases) {
-        driver.status = [&](std::string_view name, int) {
-            return name == "psdrv_chan_isMeasurementComplete" ? c.status : 0;
-        };
-        const controls::Frame& frame = program->forms.mdiMain.ConnectedFrame;
-        bool early = false;
-        bool shown = false;
-        fake.events.onRound = [&](int round) {
-            early = early || (round > 1 && round < 1000 && frame.Visible);
-            if (round < 1010) return;
-            shown = frame.Visible && Notice() == c.notice;
-            PressStop();
-        };
-        PressStart();
-        EXPECT_FALSE(early);
-        EXPECT_TRUE(shown) << c.notice;
-        EXPECT_FALSE(frame.Visible);  // nothing is waited for any more
-        EXPECT_TRUE(IsIdle());
-    }
-}
 
 TEST_F(MeasurementTest, ATriggerIsSentForARequestOfThePassThatWaits) {
     StartWith(1);
@@ -141,39 +50,17 @@ TEST_F(MeasurementTest, ATriggerIsSentForARequestOfThePassThatWaits) {
     EXPECT_EQ(program->state.Passes, 2);
 }
 
-TEST_F(MeasurementTest, TheStatusCellCountsToEightBarsWithAPointWhileWaiting) {
-    StartWith(1);
-    int asked = 0;
-    driver.complete = [&](int) { return ++asked % 2 == 0; };
-    Lines seen{""};
-    fake.events.onRound = [&](int) {
-        if (Cell(0, StatusColumn).text != seen.back()) seen.push_back(Cell(0, StatusColumn).text);
-        if (program->state.Passes == 9) PressStop();
-    };
-    PressStart();
-    Lines expected{""};
-    for (const std::size_t bars : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 1U, 2U}) {
-        expected.push_back(std::string(bars, '|') + ".");
-        expected.push_back(std::string(bars, '|'));
-    }
-    expected.pop_back();
-    EXPECT_EQ(seen, expected);
-}
-
 TEST_F(MeasurementTest, AClickOnAPresentSensorsNameSwitchesItAndNothingElseDoes) {
     StartWith(1);
-    const struct {
-        int row, column;
-        bool enabled;
-    } clicks[] = {
+    const std::tuple<int, int, bool> clicks[] = {
         {1, WattColumn, true}, {2, NameColumn, true},  {0, NameColumn, true},
         {9, NameColumn, true}, {-1, NameColumn, true}, {1, NameColumn, false},
         {1, NameColumn, true},
     };
-    for (const auto& click : clicks) {
-        Click(click.row, click.column);
-        EXPECT_EQ(program->table[0].Enabled, click.enabled) << click.row << click.column;
-        EXPECT_EQ(Cell(0, NameColumn).back, click.enabled ? Green : Grey);
+    for (const auto& [row, column, enabled] : clicks) {
+        Click(row, column);
+        EXPECT_EQ(program->table[0].Enabled, enabled) << row << column;
+        EXPECT_EQ(Cell(0, NameColumn).back, enabled ? Green : Grey);
         EXPECT_FALSE(program->table[1].Enabled);
     }
 }
@@ -195,19 +82,6 @@ TEST_F(MeasurementTest, APressSelectsWithoutSwitchingAndAnUnlistedSensorLeavesNo
     EXPECT_EQ(list.Index(), -1);
 }
 
-TEST_F(MeasurementTest, ASwitchWhileMeasuringWaitsForTheNextStart) {
-    StartWith(2);
-    fake.events.onRound = [&](int) {
-        if (program->state.Passes == 1 && program->table[0].Enabled) Click(1, NameColumn);
-        if (program->state.Passes == 4) PressStop();
-    };
-    PressStart();
-    EXPECT_EQ(driver.Count("psdrv_meass_fetchMeasurement"), 8);
-    Measure(2);
-    EXPECT_EQ(Name(0), "B");
-    EXPECT_EQ(driver.Count("psdrv_meass_fetchMeasurement"), 10);
-}
-
 TEST_F(MeasurementTest, ChangedSettingsAreSentBeforeTheNextMeasurement) {
     StartWith(1);
     fake.events.onRound = [&](int) {
@@ -220,39 +94,137 @@ TEST_F(MeasurementTest, ChangedSettingsAreSentBeforeTheNextMeasurement) {
     };
     PressStart();
     EXPECT_EQ(driver.Count("psdrv_chan_reset"), 2);
-    EXPECT_NE(
-        std::find(driver.calls.begin(), driver.calls.end(), "psdrv_trigger_setCount(12, 1, 9)"),
-        driver.calls.end());
+    EXPECT_TRUE(WasCalled("psdrv_trigger_setCount(12, 1, 9)"));
     EXPECT_FALSE(program->table[0].SettingsChanged);
 }
 
-TEST_F(MeasurementTest, ASimulatedMeasurementCallsNoDriverAndReadsTheSimulatedLevels) {
-    Start();
-    Measure(30);
-    EXPECT_EQ(InstrumentCalls(), 0);
-    const struct {
-        int slot;
-        double low, high;
-    } cases[] = {{0, -8.72, -8.62}, {1, -4.05, -3.999}};
-    for (const auto& c : cases) {
-        const double level = program->table[c.slot].History.LastLevel();
-        EXPECT_TRUE(level >= c.low && level <= c.high) << level;
-        EXPECT_NE(Cell(c.slot, SigmaColumn).text, "");
-        EXPECT_EQ(program->table.SlotReadings[static_cast<std::size_t>(c.slot)][0], 0);
+TEST_F(MeasurementTest, AReadingIsShownWhateverItIs) {
+    using Case = std::tuple<double, std::int32_t, std::string, std::string>;
+    const Case cases[] = {
+        {0.001, 4, "1.0000E-03", "0.000"},         {0, 1, "0.0000E+00", "-970.000"},
+        {-0.01, 65536, "-1.0000E-02", "10.000"},   {NAN, -1, "NaN", "NaN"},
+        {INFINITY, INT32_MIN, "Inf", "Inf"},       {-INFINITY, 0, "-Inf", "Inf"},
+        {4.9e-324, 4, "4.9407E-324", "-3203.062"},
+    };
+    StartWith(1);
+    for (const auto& [reading, count, watts, dbm] : cases) {
+        driver.reading = reading;
+        driver.averagingCount = count;
+        Measure(35);
+        EXPECT_EQ(Cell(0, WattColumn).text, watts);
+        EXPECT_EQ(Cell(0, DbmColumn).text, dbm);
+        EXPECT_EQ(Cell(0, CountColumn).text, std::to_string(count));
+        EXPECT_EQ(Cell(0, SigmaColumn).text, std::isfinite(reading) ? "0.000" : "NaN");
+        EXPECT_EQ(Cell(0, WattColumn).back, controls::White);
     }
-    EXPECT_TRUE(IsIdle());
+    driver.reading = 0.001;
+    Measure(1);
+    EXPECT_EQ(program->table.SlotReadings[0][0], 0.001);
+    EXPECT_NEAR(program->table.SlotReadings[0][1], 0, 1e-12);
 }
 
-TEST_F(MeasurementTest, TwoProgramsDoNotSeeEachOther) {
+TEST_F(MeasurementTest, AnArrayHasAsManyValuesAsCame) {
+    const std::tuple<std::size_t, std::optional<std::int32_t>, std::size_t> cases[] = {
+        {312, {}, 312},       {1024, {}, 1024}, {1, {}, 1},           {0, {}, 1024}, {5, -3, 1024},
+        {5, INT32_MIN, 1024}, {5, 2000, 1024},  {5, INT32_MAX, 1024}, {5, 3, 3}};
     StartWith(1);
-    test::FakeHost other{files};
-    other.computer.folder = folder.Path();
-    app::Kelvra second{other.host};
-    second.Start();
-    Measure(1);
-    EXPECT_EQ(second.state.Passes, 0);
-    EXPECT_TRUE(second.table.SimulationMode);
-    EXPECT_FALSE(program->table.SimulationMode);
+    for (const std::int32_t mode : {2, 4}) {
+        program->table[0].Settings.Mode = mode;
+        for (const auto& [values, count, kept] : cases) {
+            driver.array.assign(values, 0.5);
+            if (values > 1) driver.array[1] = NAN;
+            driver.arrayCount = count;
+            Measure(1);
+            const auto& results = program->table[0].Results;
+            ASSERT_EQ(results.size(), kept) << values;
+            EXPECT_EQ(results[0], values > 0 ? 0.5 : 0);
+        }
+        EXPECT_EQ(Cell(0, WattColumn).back, controls::Grey);
+    }
+}
+
+TEST_F(MeasurementTest, OnlyTheModesThatHaveAResultFetchOne) {
+    StartWith(1);
+    for (const std::int32_t mode : {0, 1, 2, 3, 4, 7}) {
+        auto& entry = program->table[0];
+        entry.Settings.Mode = mode;
+        entry.NewTSlotData = entry.NewScopeData = false;
+        driver.count.clear();
+        Measure(1);
+        const bool isSlots = mode == 2, isTrace = mode == 4;
+        EXPECT_EQ(driver.Count("psdrv_meass_fetchMeasurement"), mode == 0 || mode == 3) << mode;
+        EXPECT_EQ(driver.Count("psdrv_meass_fetchBufferMeasurement"), isSlots || isTrace) << mode;
+        EXPECT_EQ(entry.NewTSlotData, isSlots) << mode;
+        EXPECT_EQ(entry.NewScopeData, isTrace) << mode;
+        EXPECT_EQ(program->state.TimeSlotModeActive, isSlots);
+        EXPECT_EQ(program->forms.scopeDisp.Visible, isTrace);
+    }
+}
+
+TEST_F(MeasurementTest, PassesKeepTheIntervalAndDoNotDrift) {
+    StartWith(1);
+    fake.events.roundTime = milliseconds(7);
+    const auto starts = Starts(50);
+    ASSERT_GE(starts.size(), 50U);
+    for (std::size_t i = 0; i < 50; ++i) {
+        const auto late = starts[i] - starts[0] - seconds(5) * static_cast<int>(i);
+        EXPECT_TRUE(late >= milliseconds(-10) && late <= milliseconds(10))
+            << i << " " << late.count();
+    }
+}
+
+TEST_F(MeasurementTest, AfterAPassThatTookLongerTheIntervalStartsAnew) {
+    StartWith(1);
+    int asked = 0;
+    driver.complete = [&](int) {
+        if (++asked == 2) fake.clock.Advance(seconds(12));
+        return true;
+    };
+    const auto starts = Starts(4);
+    ASSERT_GE(starts.size(), 4U);
+    const int expected[] = {5000, 12000, 5000};
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(std::chrono::round<milliseconds>(starts[i + 1] - starts[i]).count(), expected[i])
+            << i;
+}
+
+TEST_F(MeasurementTest, TheNoticeCountsTheSecondsThatAreLeftAndIsNoError) {
+    StartWith(1);
+    std::vector<std::string> seen;
+    fake.events.onRound = [&](int) {
+        const auto& window = program->forms.mdiMain;
+        if (Notice().starts_with("Delaying") && (seen.empty() || seen.back() != Notice())) {
+            EXPECT_TRUE(window.ConnectedFrame.Visible);
+            seen.push_back(Notice());
+        }
+        EXPECT_FALSE(program->session.ErrorShown);
+        if (program->state.Passes == 1) PressStop();
+    };
+    program->state.RecordInterval = 3;
+    PressStart();
+    EXPECT_EQ(seen,
+              (std::vector<std::string>{"Delaying ... 3", "Delaying ... 2", "Delaying ... 1"}));
+    EXPECT_EQ(Notice(), " ");
+}
+
+TEST_F(MeasurementTest, StopAndTheEndOfARecordingEndTheDelayAtOnce) {
+    StartWith(1);
+    for (const bool stop : {true, false}) {
+        platform::Duration ended{};
+        fake.events.onRound = [&](int) {
+            const bool isOver = ended.count() > 0;
+            if (!isOver && !Notice().starts_with("Delaying")) return;
+            if (!isOver) ended = fake.clock.Monotonic();
+            if (!isOver && !stop)
+                program->state.RecordInterval = 0;
+            else
+                PressStop();
+        };
+        program->state.RecordInterval = 3600;
+        PressStart();
+        EXPECT_LE(fake.clock.Monotonic() - ended, milliseconds(5)) << stop;
+        EXPECT_EQ(program->state.RecordInterval, 0);
+    }
 }
 
 }  // namespace kelvra::measure

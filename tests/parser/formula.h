@@ -2,8 +2,12 @@
 // A formula with all it needs, for tests: compiled as it is made, evaluated on demand.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "parser/math_parser.h"
 
@@ -20,6 +24,14 @@ struct Formula {
     MathParser parser;
     bool compiles;
 };
+
+inline void ExpectValues(const std::vector<std::pair<std::string_view, double>>& cases) {
+    for (const auto& [text, value] : cases) {
+        Formula formula(text);
+        EXPECT_DOUBLE_EQ(formula.parser.Eval(), value) << text;
+        EXPECT_EQ(formula.Error(), "") << text;
+    }
+}
 
 // One text many times between two others: how a formula that repeats itself is made.
 inline std::string Repeated(int count, std::string_view text, std::string_view before = {},

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "platform/posix/posix_clock.h"
@@ -33,18 +32,10 @@ TEST_F(PosixComputerTest, PutsProgramFolderAndDriveIntoTheDataFolder) {
     const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::years(3);
     std::filesystem::last_write_time(folder_.Path("data/Kelvra.EXE"), longAgo);
     EXPECT_LE(computer.ProgramFileDate()->year, PosixClock().Now().year - 2);
-}
-
-TEST_F(PosixComputerTest, SaysWhyThereIsNoDataFolder) {
-    folder_.Put("data", "a file");
-    EXPECT_TRUE(Make().DataFolderError());
-}
-
-TEST_F(PosixComputerTest, KeepsRegistryKeysAsSections) {
-    PosixComputer computer = Make();
     computer.WriteRegistry("HKLM\\SOFTWARE\\X", "PS-101;1", "left");
-    computer.WriteRegistry("HKLM\\SOFTWARE\\X", "PS-101;1", "right");
-    EXPECT_EQ(folder_.Get("data/registry.ini"), "[HKLM\\SOFTWARE\\X]\r\nPS-101;1=right\r\n");
+    EXPECT_EQ(folder_.Get("data/registry.ini"), "[HKLM\\SOFTWARE\\X]\r\nPS-101;1=left\r\n");
+    folder_.Put("file", "");
+    EXPECT_TRUE(PosixComputer(files_, {folder_.Path("file"), {}, {}, {}}).DataFolderError());
 }
 
 TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {
@@ -66,9 +57,6 @@ TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {
     EXPECT_FALSE(none.library);
     EXPECT_NE(none.why, "");
     EXPECT_TRUE(here.library) << here.why;
-}
-
-TEST_F(PosixComputerTest, SaysWhyALibraryDoesNotLoad) {
     folder_.Put("libbroken.so", "no library");
     const LoadedLibrary broken = Make(folder_.Path()).LoadDriverLibrary("broken");
     EXPECT_FALSE(broken.library);
@@ -84,13 +72,6 @@ TEST(PosixLocale, WritesDateAndTimeAndFallsBackToC) {
         EXPECT_EQ(locale.Numbers().decimal, ".") << name;
         EXPECT_EQ(locale.Numbers().grouping, "") << name;
     }
-}
-
-TEST(PosixClock, SleepsAtLeastAsLongAsAsked) {
-    PosixClock clock;
-    const Duration before = clock.Monotonic();
-    clock.Sleep(std::chrono::milliseconds(5));
-    EXPECT_GE(clock.Monotonic() - before, std::chrono::milliseconds(5));
 }
 
 }  // namespace kelvra::platform

@@ -9,10 +9,10 @@ name ends in ".lines", each line is to be one of the file's, in that order. Log 
 with LF, and wanted with the CR LF that Kelvra writes.
 
 NAME.bench is the scenario of the virtual sensors (the built-in one without it), NAME.data is copied
-into the data folder first, NAME.args holds more words for the console, one a line.
+into the data folder first, NAME.args holds words for the console instead of its driver folder, one a
+line.
 """
 
-import argparse
 import difflib
 import os
 import pathlib
@@ -34,23 +34,18 @@ def read_with_cr_lf(path):
 
 def run(console, driver_dir, script):
     """What a run leaves behind, by name."""
-    args = read(script.with_suffix(".args")).decode().splitlines()
-    if "--driver-dir" not in args:
-        args += ["--driver-dir", driver_dir]
+    args = read(script.with_suffix(".args")).decode().splitlines() or ["--driver-dir", driver_dir]
     words = ["DEBUG"] if script.with_suffix(".log").exists() else []
     env = {name: value for name, value in os.environ.items() if not name.startswith("KELVRA_")}
-    env["LC_ALL"] = "C"
-    env["TZ"] = "UTC"
+    env |= {"LC_ALL": "C", "TZ": "UTC"}
     scenario = script.with_suffix(".bench")
     if scenario.exists():
         env["KELVRA_BENCH"] = str(scenario)
     with tempfile.TemporaryDirectory(prefix="kelvra-script-") as temp:
         data = pathlib.Path(temp) / "data"
-        prepared = script.with_suffix(".data")
-        if prepared.exists():
-            shutil.copytree(prepared, data)
-        else:
-            data.mkdir()
+        data.mkdir()
+        if script.with_suffix(".data").exists():
+            shutil.copytree(script.with_suffix(".data"), data, dirs_exist_ok=True)
         done = subprocess.run(
             [console, "--data-dir", str(data), "--clock", "2005-03-07 12:00:00", "--seed", "1", *args,
              *words, str(script)],
@@ -88,15 +83,9 @@ def differences(title, wanted, got):
     return [title, *difflib.unified_diff(*shown, "wanted", "got", lineterm="")]
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("console")
-    parser.add_argument("driver_dir")
-    parser.add_argument("script", type=pathlib.Path)
-    options = parser.parse_args()
-    script = options.script.resolve()
-
-    first, second = (run(options.console, options.driver_dir, script) for _ in range(2))
+def main(console, driver_dir, script):
+    script = pathlib.Path(script).resolve()
+    first, second = (run(console, driver_dir, script) for _ in range(2))
     wrong = []
     for name, wanted in expected(script).items():
         got = first.get(name.removesuffix(".lines"))
@@ -113,4 +102,4 @@ def main():
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(*sys.argv[1:]))

@@ -3,6 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "util/levels.h"
+#include "util/number_text.h"
+#include "util/random.h"
+
 namespace kelvra::sensors {
 
 TEST(SensorTable, KeepsWhatItHoldsAndAnEmptySpareElement) {
@@ -22,18 +28,9 @@ TEST(SensorTable, KeepsWhatItHoldsAndAnEmptySpareElement) {
     EXPECT_EQ(table.CurrentSensor, 0);
     for (const int refused : {0, -1, 40'000}) table.Resize(refused);
     EXPECT_EQ(table.SensorSlotCount, 2);
-}
-
-TEST(SensorTable, IsNotResizedWhileItIsLocked) {
-    SensorTable table;
-    table.Resize(8);
-    {
-        const TableLock outer(table);
-        const TableLock inner(table);
-        EXPECT_DEBUG_DEATH(table.Resize(2), "locks");
-        EXPECT_EQ(table.Sensors.size(), 9U);
-    }
-    table.Resize(2);
+    const TableLock outer(table);
+    const TableLock inner(table);
+    EXPECT_DEBUG_DEATH(table.Resize(8), "locks");
     EXPECT_EQ(table.Sensors.size(), 3U);
 }
 
@@ -47,10 +44,9 @@ TEST(SensorTable, SwapsAllThatBelongsToASlot) {
     table.Scaling[0].MinScope = -20;
     table.SlotReadings[0] = {1, 30};
     table.SlotReadings[3] = {2, 33};
-    const struct { std::int16_t before, after; } selections[] = {{0, 3}, {3, 0}, {1, 1}};
-    for (const auto& selection : selections) {
+    for (const auto& [before, after] : {std::pair{0, 3}, {3, 0}, {1, 1}}) {
         SensorTable swapped = table;
-        swapped.CurrentSensor = selection.before;
+        swapped.CurrentSensor = static_cast<std::int16_t>(before);
         swapped.SwapSlots(0, 3);
         EXPECT_EQ(swapped[0].LogicalName, "D");
         EXPECT_EQ(swapped[0].Settings.Mode, Trace);
@@ -59,17 +55,12 @@ TEST(SensorTable, SwapsAllThatBelongsToASlot) {
         EXPECT_EQ(swapped.Scaling[0].MinScope, -65);
         EXPECT_EQ(swapped.SlotReadings[0][1], 33);
         EXPECT_EQ(swapped.SlotReadings[3][1], 30);
-        EXPECT_EQ(swapped.CurrentSensor, selection.after);
+        EXPECT_EQ(swapped.CurrentSensor, after);
     }
 }
 
 TEST(WorkArrays, AreThoseOfTheMode) {
-    const struct {
-        std::int32_t mode;
-        std::int16_t slots;
-        bool ringReset;
-        std::size_t stats;
-    } cases[] = {
+    const std::tuple<std::int32_t, std::int16_t, bool, std::size_t> cases[] = {
         {ContinuousAverage, 5, true, 1},
         {BufferedAverage, 5, false, 1},
         {TimeSlot, 5, false, 5},
@@ -77,36 +68,85 @@ TEST(WorkArrays, AreThoseOfTheMode) {
         {Burst, 5, true, 1},
         {Trace, 5, false, 1},
     };
-    for (const auto& c : cases) {
+    for (const auto& [mode, slots, ringReset, stats] : cases) {
         SensorTable table;
         table.Resize(2);
         SensorEntry& entry = table[1];
-        entry.Settings.Mode = c.mode;
-        entry.Settings.TSlotCount = c.slots;
+        entry.Settings.Mode = mode;
+        entry.Settings.TSlotCount = slots;
         entry.History.Add(1);
         entry.TSlotStats.assign(1, {});
         entry.TSlotStats[0].Restart = 4;
         entry.TSlotStatsFull = true;
         PrepareWorkArrays(table, 1);
-        EXPECT_EQ(entry.History.Index(), c.ringReset ? -1 : 0) << c.mode;
-        ASSERT_EQ(entry.TSlotStats.size(), c.stats) << c.mode;
-        EXPECT_EQ(entry.TSlotStats[0].Restart, c.mode == TimeSlot ? -1 : 4) << c.mode;
-        EXPECT_EQ(entry.TSlotStats.back().Values.size(), 30U) << c.mode;
-        EXPECT_EQ(entry.TSlotStatsFull, c.mode != TimeSlot) << c.mode;
+        EXPECT_EQ(entry.History.Index(), ringReset ? -1 : 0) << mode;
+        ASSERT_EQ(entry.TSlotStats.size(), stats) << mode;
+        EXPECT_EQ(entry.TSlotStats[0].Restart, mode == TimeSlot ? -1 : 4) << mode;
+        EXPECT_EQ(entry.TSlotStats.back().Values.size(), 30U) << mode;
+        EXPECT_EQ(entry.TSlotStatsFull, mode != TimeSlot) << mode;
     }
 }
 
 TEST(SensorTable, FindsAMeasuredSensorByNameOnlyWhilePresentAndEnabled) {
     SensorTable table;
     table.Resize(3);
-    const struct { bool present, enabled; } slots[] = {{true, false}, {false, true}, {true, true}};
     for (int slot = 0; slot < 3; ++slot) {
         table[slot].LogicalName = "A";
-        table[slot].Present = slots[slot].present;
-        table[slot].Enabled = slots[slot].enabled;
+        table[slot].Present = slot != 1;
+        table[slot].Enabled = slot != 0;
     }
     EXPECT_EQ(table.FindMeasured("A"), 2);
     EXPECT_EQ(table.FindMeasured("B"), -1);
+}
+
+TEST(ReadingRing, HasASpreadFromItsThirtiethReadingOn) {
+    ReadingRing ring;
+    EXPECT_EQ(ring.Index(), -1);
+    for (int i = 0; i < 29; ++i) {
+        ring.Add(0.001);
+        EXPECT_EQ(ring.Index(), i);
+        EXPECT_FALSE(ring.Sigma()) << i;
+    }
+    ring.Add(0.001);
+    EXPECT_EQ(ring.Sigma(), 0);
+    EXPECT_FALSE(ring.Wrapped());
+    ring.Add(0.5);
+    EXPECT_EQ(ring.Index(), 0);
+    EXPECT_TRUE(ring.Wrapped());
+    EXPECT_EQ(ring.Values()[0], 0.5);
+    for (int i = 0; i < 15; ++i) {
+        ring.Add(0.001);  // 0 dBm
+        ring.Add(-0.01);  // 10 dBm by its magnitude
+    }
+    EXPECT_NEAR(ring.Sigma().value(), std::sqrt(30 * 25.0 / 29), 1e-12);
+    ring.Reset();
+    EXPECT_EQ(ring.Index(), -1);
+    EXPECT_FALSE(ring.Wrapped());
+    EXPECT_FALSE(ring.Sigma());
+}
+
+// As one would do it without keeping the levels: take all thirty readings, convert, two passes.
+double SigmaAfresh(const ReadingRing& ring) {
+    std::vector<double> levels(ring.Values().begin(), ring.Values().end());
+    util::ArrayW2dBm(levels);
+    double mean = 0;
+    for (const double level : levels) mean += level / ReadingRing::Length;
+    double squares = 0;
+    for (const double level : levels) squares += (level - mean) * (level - mean);
+    return std::sqrt(squares / (ReadingRing::Length - 1));
+}
+
+TEST(ReadingRing, ShowsTheDigitsOfASpreadThatIsComputedAfresh) {
+    ReadingRing ring;
+    util::Random random(3);
+    const util::NumberForm form;
+    for (int i = 0; i < 200; ++i) {
+        ring.Add((random.Next() - 0.3) * std::pow(10, -i / 20));
+        if (!ring.Full()) continue;
+        EXPECT_EQ(util::FixedText(ring.Sigma().value(), 9, form),
+                  util::FixedText(SigmaAfresh(ring), 9, form))
+            << i;
+    }
 }
 
 }  // namespace kelvra::sensors

@@ -31,51 +31,46 @@ void WriteText(char* buffer, std::size_t size, const std::string& text) {
 
 template <class Argument>
 void Note(std::string& list, Argument argument) {
-    if constexpr (std::is_same_v<Argument, const char*>)
-        list.append(list.empty() ? "" : ", ").append(argument);
+    constexpr bool isText = std::is_same_v<Argument, const char*>;
+    if constexpr (isText || !std::is_pointer_v<Argument>) list += list.empty() ? "" : ", ";
+    if constexpr (isText)
+        list += argument;
     else if constexpr (!std::is_pointer_v<Argument>)
-        list.append(list.empty() ? "" : ", ")
-            .append(util::ShortestNumberText(static_cast<double>(argument)));
+        list += util::ShortestNumberText(static_cast<double>(argument));
 }
 
 // What the functions give back, told apart by what they take.
-template <class... Arguments>
-void Answer(Arguments...) {}
-void Answer(const char*, Int, Int, Handle* handle) {
-    *handle = current->handle;
-}
-void Answer(Handle, Status, char* text) {
-    WriteText(text, DriverText, current->message);
-}
-void Answer(Handle, Int* code, char* text) {
-    *code = 1;
-    WriteText(text, DriverText, current->query);
-}
-void Answer(Handle, Channel channel, Switch* complete) {
-    *complete = !current->complete || current->complete(channel) ? 1 : 0;
-}
-void Answer(Handle, Channel, double* reading) {
-    *reading = current->reading;
-}
-void Answer(Handle, Channel, Int* averagingCount) {
-    *averagingCount = current->averagingCount;
-}
-void Answer(Handle, Channel, Int size, double* values, Int* count) {
-    const auto& array = current->array;
-    std::copy_n(array.begin(), std::min(array.size(), static_cast<std::size_t>(size)), values);
-    *count = current->arrayCount.value_or(static_cast<Int>(array.size()));
-}
-void Answer(Int* length) {
-    *length = current->listLength.value_or(static_cast<Int>(current->devices.size()));
-}
-void Answer(Int index, char* name, char* type, char* serial, Int* connected) {
-    if (static_cast<std::size_t>(index) >= current->devices.size()) return;
-    const auto& device = current->devices[static_cast<std::size_t>(index)];
-    WriteText(name, DeviceText, device.name);
-    WriteText(type, DeviceText, device.type);
-    WriteText(serial, DeviceText, device.serial);
-    *connected = device.connected;
-}
+struct Answers {
+    template <class... Arguments>
+    static void Give(Arguments...) {}
+    static void Give(const char*, Int, Int, Handle* handle) { *handle = current->handle; }
+    static void Give(Handle, Status, char* text) { WriteText(text, DriverText, current->message); }
+    static void Give(Handle, Int* code, char* text) {
+        *code = 1;
+        WriteText(text, DriverText, current->query);
+    }
+    static void Give(Handle, Channel channel, Switch* complete) {
+        *complete = !current->complete || current->complete(channel) ? 1 : 0;
+    }
+    static void Give(Handle, Channel, double* reading) { *reading = current->reading; }
+    static void Give(Handle, Channel, Int* count) { *count = current->averagingCount; }
+    static void Give(Handle, Channel, Int size, double* values, Int* count) {
+        const auto& array = current->array;
+        std::copy_n(array.begin(), std::min(array.size(), static_cast<std::size_t>(size)), values);
+        *count = current->arrayCount.value_or(static_cast<Int>(array.size()));
+    }
+    static void Give(Int* length) {
+        *length = current->listLength.value_or(static_cast<Int>(current->devices.size()));
+    }
+    static void Give(Int index, char* name, char* type, char* serial, Int* connected) {
+        if (static_cast<std::size_t>(index) >= current->devices.size()) return;
+        const auto& device = current->devices[static_cast<std::size_t>(index)];
+        WriteText(name, DeviceText, device.name);
+        WriteText(type, DeviceText, device.type);
+        WriteText(serial, DeviceText, device.serial);
+        *connected = device.connected;
+    }
+};
 
 template <auto Member>
 struct Function;
@@ -90,7 +85,7 @@ struct Function<Member> {
         current->calls.push_back(std::string(name) + "(" + list + ")");
         const int n = ++current->count[name];
         if (current->onCall) current->onCall(name);
-        Answer(arguments...);
+        Answers::Give(arguments...);
         return current->status ? current->status(name, n) : 0;
     }
     static void* Named(const char* itsName) {
@@ -111,26 +106,23 @@ FunctionTable FakeDriver::InstrumentFunctions() {
     return {
         PSDRV(init), PSDRV(AddSensor), PSDRV(close), PSDRV(error_message), PSDRV(error_query),
         PSDRV(chan_reset), PSDRV(chan_mode), PSDRV(chans_initiate),
-        PSDRV(meass_sendSoftwareTrigger),
-        PSDRV(chan_isMeasurementComplete), PSDRV(meass_fetchMeasurement),
-        PSDRV(meass_fetchBufferMeasurement), PSDRV(avg_getCount),
+        PSDRV(meass_sendSoftwareTrigger), PSDRV(chan_isMeasurementComplete),
+        PSDRV(meass_fetchMeasurement), PSDRV(meass_fetchBufferMeasurement), PSDRV(avg_getCount),
         PSDRV(avg_setEnabled), PSDRV(avg_setAutoEnabled), PSDRV(avg_setAutoType),
         PSDRV(avg_setAutoResolution), PSDRV(avg_setAutoMaxMeasuringTime),
         PSDRV(avg_setAutoNoiseSignalRatio), PSDRV(avg_setSlot), PSDRV(avg_setCount),
-        PSDRV(avg_setTerminalControl),
-        PSDRV(chan_setCorrectionFrequency), PSDRV(corr_setOffsetEnabled), PSDRV(corr_setOffset),
-        PSDRV(corr_setSParamDeviceEnabled), PSDRV(chan_setSourceGammaCorrEnabled),
-        PSDRV(chan_setSourceGammaMagnitude), PSDRV(chan_setSourceGammaPhase),
-        PSDRV(corr_setDutyCycleEnabled), PSDRV(corr_setDutyCycle),
+        PSDRV(avg_setTerminalControl), PSDRV(chan_setCorrectionFrequency),
+        PSDRV(corr_setOffsetEnabled), PSDRV(corr_setOffset), PSDRV(corr_setSParamDeviceEnabled),
+        PSDRV(chan_setSourceGammaCorrEnabled), PSDRV(chan_setSourceGammaMagnitude),
+        PSDRV(chan_setSourceGammaPhase), PSDRV(corr_setDutyCycleEnabled), PSDRV(corr_setDutyCycle),
         PSDRV(range_setAutoEnabled), PSDRV(range_setCrossoverLevel), PSDRV(range_setRange),
         PSDRV(chan_setSamplingFrequency), PSDRV(chan_setInitContinuousEnabled),
         PSDRV(trigger_setSource), PSDRV(trigger_setSlope), PSDRV(trigger_setDelay),
         PSDRV(trigger_setCount), PSDRV(trigger_setLevel), PSDRV(trigger_setHysteresis),
-        PSDRV(trigger_setHoldoff),
-        PSDRV(chan_setContAvBufferedEnabled), PSDRV(chan_setContAvAperture),
-        PSDRV(chan_setContAvSmoothingEnabled), PSDRV(chan_setContAvBufferSize),
-        PSDRV(tslot_configureTimeSlot), PSDRV(timing_configureExclude),
-        PSDRV(chan_setBurstDropoutTolerance),
+        PSDRV(trigger_setHoldoff), PSDRV(chan_setContAvBufferedEnabled),
+        PSDRV(chan_setContAvAperture), PSDRV(chan_setContAvSmoothingEnabled),
+        PSDRV(chan_setContAvBufferSize), PSDRV(tslot_configureTimeSlot),
+        PSDRV(timing_configureExclude), PSDRV(chan_setBurstDropoutTolerance),
         PSDRV(scope_setAverageEnabled), PSDRV(scope_setAutoEnabled), PSDRV(scope_setAutoType),
         PSDRV(scope_setAutoResolution), PSDRV(scope_setAutoMaxMeasuringTime),
         PSDRV(scope_setAutoNoiseSignalRatio), PSDRV(scope_setAverageCount),
@@ -138,11 +130,9 @@ FunctionTable FakeDriver::InstrumentFunctions() {
         PSDRV(scope_setOffsetTime), PSDRV(scope_setRealtimeEnabled),
     };
 }
-
 FunctionTable FakeDriver::DeviceListFunctions() {
-    return {
-        TESK(LockDeviceList), TESK(GetDeviceListLength), TESK(GetDeviceInfo), TESK(CloseDriver),
-    };
+    return {TESK(LockDeviceList), TESK(GetDeviceListLength), TESK(GetDeviceInfo),
+            TESK(CloseDriver)};
 }
 // clang-format on
 
@@ -157,9 +147,6 @@ void FakeDriver::PutInto(driver::OperationList& operations, const FunctionTable&
 
 FakeDriver::FakeDriver() {
     current = this;
-}
-FakeDriver::~FakeDriver() {
-    current = nullptr;
 }
 
 }  // namespace kelvra::test

@@ -19,7 +19,6 @@ namespace kelvra::test {
 class FakeDriver {
 public:
     FakeDriver();
-    ~FakeDriver();
     FakeDriver(const FakeDriver&) = delete;
     FakeDriver& operator=(const FakeDriver&) = delete;
 

@@ -17,6 +17,8 @@
 
 namespace kelvra::test {
 
+using Text = const std::string&;
+
 class FakeEvents final : public platform::Events {
 public:
     explicit FakeEvents(platform::SetClock& clock) : clock_(clock) {}
@@ -27,12 +29,9 @@ public:
     int rounds = 0;
     bool quit = false;
 
-    // A handler that never returns would otherwise hang the test.
-    static constexpr int MostRounds = 200'000;
-
     void DoEvents(std::chrono::milliseconds patience) override {
         clock_.Advance(patience + roundTime);
-        if (++rounds > MostRounds) throw std::runtime_error("the events run without end");
+        if (++rounds > 200'000) throw std::runtime_error("the events run without end");
         if (quit) return;
         if (onRound) onRound(rounds);
         if (!quit) timers_.RunDue(clock_.Monotonic());
@@ -64,22 +63,27 @@ public:
     std::optional<std::string> fileAnswer;  // nothing: the person cancels
     platform::FileQuestion fileQuestion;    // the last one
 
-    void Message(const std::string& title, const std::string& text,
-                 platform::MessageIcon) override {
+    void Message(Text title, Text text, platform::MessageIcon) override {
         messages.push_back({title, text});
         if (onMessage) onMessage();
     }
-    std::optional<std::string> Prompt(const std::string&, const std::string&) override {
-        return std::nullopt;
-    }
+    std::optional<std::string> Prompt(Text, Text) override { return std::nullopt; }
     std::optional<std::string> AskFile(const platform::FileQuestion& question) override {
         fileQuestion = question;
         return fileAnswer;
     }
-    void OpenHelp(const std::string&, int) override {}
+    void OpenHelp(Text, int) override {}
 };
 
 using FunctionTable = std::map<std::string, void*>;
+
+struct FakeLibrary final : platform::Library {
+    explicit FakeLibrary(FunctionTable table) : functions(std::move(table)) {}
+    void* Find(const char* name) override {
+        return functions.contains(name) ? functions.at(name) : nullptr;
+    }
+    FunctionTable functions;
+};
 
 class FakeComputer final : public platform::Computer {
 public:
@@ -92,40 +96,23 @@ public:
     std::vector<std::string> registry;               // "key|name|value"
 
     std::string ProgramFolder() override { return folder; }
-    std::string DrivePath(const std::string& path) override { return Join(folder, path.substr(3)); }
-    std::string Join(const std::string& parent, const std::string& name) override {
-        return parent + "/" + name;
-    }
+    std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
+    std::string Join(Text parent, Text name) override { return parent + "/" + name; }
     std::string CommandLine() override { return commandLine; }
     platform::ProgramVersion Version() override { return version; }
     std::optional<platform::LocalTime> ProgramFileDate() override { return programDate; }
     const util::NumberForm& Numbers() override { return numbers; }
     std::string DateText(const platform::LocalTime&) override { return "date"; }
     std::string TimeText(const platform::LocalTime&) override { return "time"; }
-    platform::LoadedLibrary LoadDriverLibrary(const std::string& name) override {
+    platform::LoadedLibrary LoadDriverLibrary(Text name) override {
         const std::string file = "lib" + name + ".so";
-        const auto found = libraries.find(name);
-        if (found == libraries.end()) return {nullptr, file, "no such file"};
-        return {std::make_unique<TableLibrary>(found->second), file, ""};
+        if (!libraries.contains(name)) return {nullptr, file, "no such file"};
+        return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
     }
-    void WriteRegistry(const std::string& key, const std::string& name,
-                       const std::string& value) override {
+    void WriteRegistry(Text key, Text name, Text value) override {
         registry.push_back(key + "|" + name + "|" + value);
     }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
-
-private:
-    class TableLibrary final : public platform::Library {
-    public:
-        explicit TableLibrary(FunctionTable functions) : functions_(std::move(functions)) {}
-        void* Find(const char* name) override {
-            const auto found = functions_.find(name);
-            return found == functions_.end() ? nullptr : found->second;
-        }
-
-    private:
-        FunctionTable functions_;
-    };
 };
 
 struct FakeHost {

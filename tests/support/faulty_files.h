@@ -4,6 +4,8 @@
 // (Exists, Writable, ResolveLinks, ModifiedAt) don't.
 #pragma once
 
+#include <cstdlib>
+
 #include "platform/files.h"
 
 namespace kelvra::test {
@@ -17,43 +19,69 @@ public:
         Stop,   // the process ends with StopStatus; half of a write is done by then
     };
     static constexpr int StopStatus = 86;
+    using Error = std::error_code;
+    using Path = const std::string&;
 
     explicit FaultyFiles(Files& inner) : inner_(inner) {}
 
     // At the operation of this number, counted from 1 and from now.
     void Plan(int operation, Fault fault,
-              std::error_code error = make_error_code(std::errc::no_space_on_device));
+              Error error = make_error_code(std::errc::no_space_on_device)) {
+        operations_ = 0;
+        faultAt_ = operation;
+        fault_ = fault;
+        error_ = error;
+    }
     // How many there were since then.
     int Operations() const { return operations_; }
 
-    std::error_code Open(const std::string& path, Mode mode, Handle& handle) override;
-    std::error_code Read(Handle handle, char* bytes, std::size_t size, std::size_t& read) override;
-    std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) override;
-    std::error_code Sync(Handle handle) override;
-    std::error_code Close(Handle handle) override;
-    std::error_code Rename(const std::string& from, const std::string& to) override;
-    std::error_code Remove(const std::string& path) override;
-    std::error_code SyncFolderOf(const std::string& path) override;
-    std::error_code CopyPermissions(const std::string& from, Handle to) override;
-    std::error_code MakeFolders(const std::string& path) override;
-
-    std::string ResolveLinks(const std::string& path) override { return inner_.ResolveLinks(path); }
-    bool Exists(const std::string& path) override { return inner_.Exists(path); }
-    bool Writable(const std::string& path) override { return inner_.Writable(path); }
-    std::optional<platform::LocalTime> ModifiedAt(const std::string& path) override {
-        return inner_.ModifiedAt(path);
+    Error Open(Path path, Mode mode, Handle& handle) override {
+        return Run([&] { return inner_.Open(path, mode, handle); });
     }
+    Error Read(Handle handle, char* bytes, std::size_t size, std::size_t& got) override {
+        // At least one byte: none would be the end of the file.
+        const std::size_t asked = IsNext(Fault::Short) && size > 1 ? size / 2 : size;
+        return Run([&] { return inner_.Read(handle, bytes, asked, got); });
+    }
+    Error Write(Handle handle, std::string_view bytes, std::size_t& written) override {
+        if (IsNext(Fault::Short) || IsNext(Fault::Stop)) bytes.remove_suffix(bytes.size() / 2);
+        if (IsNext(Fault::Stop)) inner_.Write(handle, bytes, written);
+        return Run([&] { return inner_.Write(handle, bytes, written); });
+    }
+    Error Close(Handle handle) override {
+        if (IsNext(Fault::Fail)) inner_.Close(handle);
+        return Run([&] { return inner_.Close(handle); });
+    }
+    Error CopyPermissions(Path from, Handle to) override {
+        return Run([&] { return inner_.CopyPermissions(from, to); });
+    }
+    // clang-format off
+    Error Sync(Handle h) override { return Run([&] { return inner_.Sync(h); }); }
+    Error Rename(Path old, Path to) override { return Run([&] { return inner_.Rename(old, to); }); }
+    Error Remove(Path path) override { return Run([&] { return inner_.Remove(path); }); }
+    Error SyncFolderOf(Path p) override { return Run([&] { return inner_.SyncFolderOf(p); }); }
+    Error MakeFolders(Path path) override { return Run([&] { return inner_.MakeFolders(path); }); }
+    // clang-format on
+    std::string ResolveLinks(Path path) override { return inner_.ResolveLinks(path); }
+    bool Exists(Path path) override { return inner_.Exists(path); }
+    bool Writable(Path path) override { return inner_.Writable(path); }
+    std::optional<platform::LocalTime> ModifiedAt(Path p) override { return inner_.ModifiedAt(p); }
 
 private:
-    Fault Next();  // counts, and says what is to happen now
+    bool IsNext(Fault fault) const { return operations_ + 1 == faultAt_ && fault_ == fault; }
     template <typename Operation>
-    std::error_code Run(Operation operation);
+    Error Run(Operation operation) {
+        const bool fails = IsNext(Fault::Fail);
+        if (IsNext(Fault::Stop)) std::_Exit(StopStatus);
+        ++operations_;
+        return fails ? error_ : operation();
+    }
 
     Files& inner_;
     int operations_ = 0;
     int faultAt_ = 0;
     Fault fault_ = Fault::None;
-    std::error_code error_;
+    Error error_;
 };
 
 }  // namespace kelvra::test

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A folder of a test's own below the system's temporary one, gone with the object. Throws where no
-// folder can be made: such a test has nothing to say.
+// A folder of a test's own below the system's temporary one, gone with the object.
 #pragma once
 
 #include <filesystem>
@@ -8,7 +7,6 @@
 #include <iterator>
 #include <random>
 #include <set>
-#include <stdexcept>
 #include <string>
 
 namespace kelvra::test {
@@ -17,10 +15,9 @@ class TempFolder {
 public:
     TempFolder() {
         std::random_device random;
-        do {
-            path_ = std::filesystem::temp_directory_path() /
-                    ("kelvra-test-" + std::to_string(random()));
-        } while (!std::filesystem::create_directory(path_));
+        const auto parent = std::filesystem::temp_directory_path();
+        do path_ = parent / ("kelvra-test-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(path_));
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -34,18 +31,15 @@ public:
 
     void Put(const std::string& name, const std::string& bytes) const {
         std::ofstream file(path_ / name, std::ios::binary);
-        file << bytes;
-        file.close();
-        if (!file) throw std::runtime_error("can't write " + Path(name));
+        file.exceptions(std::ios::failbit | std::ios::badbit);
+        file << bytes << std::flush;
     }
-
     // The bytes of a file, or "(none)".
     std::string Get(const std::string& name) const {
         std::ifstream file(path_ / name, std::ios::binary);
         if (!file) return "(none)";
         return {std::istreambuf_iterator<char>(file), {}};
     }
-
     std::set<std::string> Names() const {
         std::set<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(path_))

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/error_strip.h"
-
 #include <gtest/gtest.h>
 
 #include "support/whole_kelvra.h"
@@ -16,23 +14,17 @@ protected:
 
 TEST_F(ErrorStripTest, ShowsAnErrorWithItsSensorUntilItIsCleared) {
     StartWith(2);
-    const struct {
-        std::string text;
-        bool general;
-        const char* strip;
-        const char* notice;
-        bool error;
-    } cases[] = {
+    const std::tuple<std::string, bool, std::string, std::string, bool> cases[] = {
         {"Count\r\n  bad\r\n", false, "B: Count\r\n  bad", "B: Count\r\n  bad", true},
         {"\r\n", false, "B: ", "B: ", true},
         {"Delaying ... 2    ", true, "B: Delaying ... 2", "Delaying ... 2", false},
         {"abc", true, "B: ", "", false},
     };
-    for (const auto& c : cases) {
-        program->errorStrip.ShowSensorError(true, 1, c.text, c.general);
-        EXPECT_EQ(Strip(), c.strip);
-        EXPECT_EQ(Notice(), c.notice);
-        EXPECT_EQ(program->session.ErrorShown, c.error);
+    for (const auto& [text, general, strip, notice, error] : cases) {
+        program->errorStrip.ShowSensorError(true, 1, text, general);
+        EXPECT_EQ(Strip(), strip);
+        EXPECT_EQ(Notice(), notice);
+        EXPECT_EQ(program->session.ErrorShown, error);
         EXPECT_EQ(Height(), 2835);
         EXPECT_TRUE(NoticeVisible());
         program->errorStrip.ShowSensorError(false, 1, "", false);
@@ -41,51 +33,31 @@ TEST_F(ErrorStripTest, ShowsAnErrorWithItsSensorUntilItIsCleared) {
         EXPECT_EQ(Height(), 1935);
         EXPECT_FALSE(NoticeVisible());
     }
-}
-
-TEST_F(ErrorStripTest, ShowsNothingOfSimulatedSensors) {
-    Start();
-    const std::string before = Strip();
-    program->errorStrip.ShowSensorError(true, 0, "error", false);
-    EXPECT_EQ(Strip(), before);
+    program->table.SimulationMode = true;  // shows nothing
+    program->errorStrip.ShowSensorError(true, 1, "error", false);
+    EXPECT_EQ(Strip(), "");
     EXPECT_FALSE(program->session.ErrorShown);
 }
 
-TEST_F(ErrorStripTest, AnErrorStaysInTheNoticeWhileTheMeasurementGoesOn) {
-    StartWith(1);
-    driver.status = [](std::string_view name, int) {
-        return name == "psdrv_trigger_setCount" ? 7 : 0;
-    };
-    Measure(3);
-    EXPECT_EQ(Notice(), "A: Trigger Count\r\n  bad value\r\n  queue empty");
-    EXPECT_TRUE(NoticeVisible());
-    EXPECT_EQ(program->state.Passes, 3);
-}
-
 TEST_F(ErrorStripTest, ARefusedHandleIsRecoveredFromOnceInAStart) {
-    const struct {
-        const char* message;
-        bool always;
-        int transfers;
-    } cases[] = {
+    const std::tuple<std::string, bool, int> cases[] = {
         {"Parameter 1 out of range", false, 2},
         {"parameter 1 out of range", true, 2},
         {"Parameter 2 out of range", true, 1},
     };
     StartWith(1);
-    for (const auto& c : cases) {
+    for (const auto& [message, always, transfers] : cases) {
         for (int start = 1; start <= 2; ++start) {
             driver.count.clear();
-            driver.message = c.message;
-            driver.status = [&](std::string_view name, int n) {
-                return name == "psdrv_trigger_setCount" && (c.always || n == 1) ? 7 : 0;
+            driver.message = message;
+            driver.status = [&, &all = always](std::string_view name, int n) {
+                return name == "psdrv_trigger_setCount" && (all || n == 1) ? 7 : 0;
             };
             Measure(1);
-            EXPECT_EQ(driver.Count("psdrv_chan_reset"), c.transfers) << c.message << start;
-            EXPECT_EQ(driver.Count("psdrv_init"), c.transfers) << c.message << start;
-            EXPECT_EQ(driver.Count("psdrv_close"), c.transfers) << c.message << start;
-            EXPECT_EQ(driver.Count("psdrv_chans_initiate") > 0, c.transfers == 1) << c.message;
-            EXPECT_EQ(Notice().starts_with("The driver session was lost"), c.transfers == 2);
+            for (const char* name : {"psdrv_chan_reset", "psdrv_init", "psdrv_close"})
+                EXPECT_EQ(driver.Count(name), transfers) << message << start << name;
+            EXPECT_EQ(driver.Count("psdrv_chans_initiate") > 0, transfers == 1) << message;
+            EXPECT_EQ(Notice().starts_with("The driver session was lost"), transfers == 2);
             EXPECT_TRUE(program->forms.mdiMain.StartIt.Enabled);
         }
     }

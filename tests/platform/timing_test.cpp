@@ -1,13 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/timer_list.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
+
+#include "platform/clock.h"
+#include "platform/timer_list.h"
 
 namespace kelvra::platform {
 
 using namespace std::chrono_literals;
+
+TEST(SetClock, GoesOnOverMidnightAndLeapDaysAndNeverBack) {
+    using Date = std::tuple<int, int, int>;
+    const std::tuple<LocalTime, Duration, Date, double> cases[] = {
+        {{2005, 3, 7, 12, 0, 0, 0}, 1500ms, {2005, 3, 7}, 12 * 3600 + 1.5},
+        {{2004, 2, 28, 23, 59, 59, 999}, 1ms, {2004, 2, 29}, 0},
+        {{1999, 12, 31, 0, 0, 0, 0}, 24h + 61s + 999999ns, {2000, 1, 1}, 61},
+    };
+    for (const auto& [start, elapsed, date, seconds] : cases) {
+        SetClock clock(start);
+        clock.Sleep(elapsed);
+        clock.AdvanceTo(elapsed - 1ms);
+        EXPECT_EQ(clock.Monotonic(), elapsed);
+        const LocalTime now = clock.Now();
+        EXPECT_EQ(Date(now.year, now.month, now.day), date);
+        EXPECT_DOUBLE_EQ(now.SecondsSinceMidnight(), seconds);
+    }
+}
 
 class TimerListTest : public testing::Test {
 protected:
@@ -19,7 +39,9 @@ protected:
     std::string ran_;
 };
 
-TEST_F(TimerListTest, RunsInTheOrderOfTheDueTimes) {
+TEST_F(TimerListTest, RunsInTheOrderOfTheDueTimesAndDropsMissedTicks) {
+    timers_.Stop(timers_.Start(0s, 1s, Note('x')));
+    EXPECT_EQ(timers_.NextDue(), std::nullopt);
     timers_.Start(0s, 5s, Note('a'));
     timers_.Start(1s, 3s, Note('b'));
     EXPECT_EQ(timers_.NextDue(), 4s);
@@ -28,14 +50,10 @@ TEST_F(TimerListTest, RunsInTheOrderOfTheDueTimes) {
     timers_.RunDue(5s);
     EXPECT_EQ(ran_, "ba");
     EXPECT_EQ(timers_.NextDue(), 7s);
-}
-
-TEST_F(TimerListTest, DropsMissedTicks) {
-    timers_.Start(0s, 1s, Note('a'));
-    timers_.RunDue(10500ms);
-    timers_.RunDue(10500ms);
-    EXPECT_EQ(ran_, "a");
-    EXPECT_EQ(timers_.NextDue(), 11500ms);
+    timers_.RunDue(30500ms);
+    timers_.RunDue(30500ms);
+    EXPECT_EQ(ran_, "baba");
+    EXPECT_EQ(timers_.NextDue(), 33500ms);
 }
 
 TEST_F(TimerListTest, NeverRunsATimerInsideItselfNorTwiceForOneTick) {
@@ -63,12 +81,6 @@ TEST_F(TimerListTest, MayStopItselfAndOthersAndStartMoreWhileRunning) {
     EXPECT_EQ(ran_, "a");
     timers_.RunDue(2s);
     EXPECT_EQ(ran_, 'a' + std::string(100, 'n'));
-}
-
-TEST_F(TimerListTest, HasNothingDueWithoutTimers) {
-    EXPECT_EQ(timers_.NextDue(), std::nullopt);
-    timers_.Stop(timers_.Start(0s, 1s, Note('a')));
-    EXPECT_EQ(timers_.NextDue(), std::nullopt);
 }
 
 }  // namespace kelvra::platform

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A window with the controls of Kelvra's main window and nothing behind them: the floor of what the
+// toolkit costs.
+#pragma once
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "desktop/icons.h"
+
+namespace kelvra::benchmarks {
+
+class BareWindow final : public QMainWindow {
+public:
+    QTableWidget* results;
+    QTableWidget* formulas;
+
+    BareWindow() {
+        AddMenus();
+        auto* central = new QWidget;
+        auto* all = new QVBoxLayout(central);
+        auto* top = new QHBoxLayout;
+        auto* tools = new QVBoxLayout;
+        tools->addLayout(Buttons());
+        tools->addLayout(Connection());
+        tools->addStretch();
+        top->addWidget(Framed(tools), 3);
+        formulas = Table(2, {"Name", "Formular", "RESULT"});
+        formulas->setFixedHeight(140);
+        top->addWidget(Framed(Framed(formulas)), 2);
+        all->addLayout(top);
+        auto* area = new QMdiArea;
+        results = Table(
+            8, {"Sensor", "Reading\n[W]", "Reading\n[dBm]", "Status", "Sigma\n[dB]", "AVG\nCount"});
+        area->addSubWindow(Framed(results))->resize(500, 320);
+        all->addWidget(area, 1);
+        setCentralWidget(central);
+        setWindowIcon(desktop::Icon("kelvra"));
+        setWindowTitle("Kelvra");
+        resize(1000, 660);
+    }
+
+private:
+    void AddMenus() {
+        QMenu* file = menuBar()->addMenu("&File");
+        for (const char* entry :
+             {"&Load sensor settings", "&Save sensor settings", "&Record Data", "E&xit"})
+            file->addAction(entry);
+        menuBar()->addMenu("&Window")->addAction("Settings always on &top")->setCheckable(true);
+        QMenu* help = menuBar()->addMenu("&Help");
+        for (const char* entry : {"&Help", "&About"}) help->addAction(entry);
+    }
+
+    static QFrame* Framed(QLayout* inside) {
+        auto* frame = new QFrame;
+        frame->setLayout(inside);
+        QPalette palette = frame->palette();
+        palette.setColor(QPalette::Window, Qt::darkBlue);
+        palette.setColor(QPalette::WindowText, Qt::white);
+        frame->setPalette(palette);
+        frame->setAutoFillBackground(true);
+        return frame;
+    }
+    static QFrame* Framed(QWidget* inside) {
+        auto* layout = new QVBoxLayout;
+        layout->addWidget(inside);
+        return Framed(layout);
+    }
+
+    static QLayout* Buttons() {
+        auto* row = new QHBoxLayout;
+        const struct {
+            const char* text;
+            const char* icon;
+        } buttons[] = {{"&Start", "startPic"}, {"S&top", "stopPic"}, {"S&ettings", "settingsPic"}};
+        for (const auto& each : buttons) {
+            auto* button = new QPushButton(desktop::Icon(each.icon), each.text);
+            button->setIconSize({28, 28});
+            row->addWidget(button);
+        }
+        row->addWidget(Picture("busy1", 28));
+        row->addWidget(new QLabel("???"));
+        row->addStretch();
+        row->addWidget(List({"Start Sync", "Sequenced", "Async"}));
+        row->addWidget(new QLabel("Sensor"));
+        row->addWidget(List({"1: SensSim1", "2: SensSim2"}));
+        return row;
+    }
+
+    static QLayout* Connection() {
+        auto* row = new QHBoxLayout;
+        row->addWidget(Picture("connectedPic", 20));
+        row->addWidget(new QLabel("Simulation Mode"));
+        auto* notice = new QLabel(" ");
+        notice->setWordWrap(true);
+        row->addWidget(Framed(notice), 1);
+        return row;
+    }
+
+    static QLabel* Picture(const char* name, int size) {
+        auto* label = new QLabel;
+        label->setPixmap(desktop::PictureOf(name, size, 1));
+        return label;
+    }
+
+    static QComboBox* List(const QStringList& entries) {
+        auto* list = new QComboBox;
+        list->addItems(entries);
+        return list;
+    }
+
+    // Every cell has its item, as a table has that is filled in time.
+    static QTableWidget* Table(int rows, const QStringList& headings) {
+        auto* table = new QTableWidget(rows, static_cast<int>(headings.size()));
+        table->setHorizontalHeaderLabels(headings);
+        table->verticalHeader()->hide();
+        table->horizontalHeader()->setMinimumHeight(48);
+        for (int row = 0; row < rows; ++row)
+            for (int column = 0; column < table->columnCount(); ++column) {
+                auto* item = new QTableWidgetItem;
+                item->setBackground(Qt::cyan);
+                table->setItem(row, column, item);
+                table->setColumnWidth(column, 80);
+            }
+        return table;
+    }
+};
+
+}  // namespace kelvra::benchmarks

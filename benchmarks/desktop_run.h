@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The whole desktop program in this process, and an application that sees what is painted.
+#pragma once
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/desktop.h"
+#include "platform/native.h"
+#include "support/temp_folder.h"
+
+namespace kelvra::benchmarks {
+
+class WatchedApplication final : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    // Each widget that was painted, while it is.
+    std::function<void(QObject& widget)> onPaint;
+    // Whatever was painted is in its window.
+    std::function<void()> onPainted;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        if (event->type() == QEvent::Paint && receiver->isWidgetType()) {
+            painted_ = true;
+            if (onPaint) onPaint(*receiver);
+        }
+        const bool round =
+            event->type() == QEvent::UpdateRequest || event->type() == QEvent::Expose;
+        const bool accepted = QApplication::notify(receiver, event);
+        if (round && painted_) {
+            painted_ = false;
+            if (onPainted) onPainted();
+        }
+        return accepted;
+    }
+
+private:
+    bool painted_ = false;
+};
+
+// Lets events run.
+inline void RunEvents(std::chrono::milliseconds length) {
+    QEventLoop loop;
+    QTimer::singleShot(length, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+class DesktopRun {
+public:
+    // Without driver libraries there are simulated sensors, until others are plugged in.
+    explicit DesktopRun(const std::string& driverFolder = {})
+        : computer_(platform::NativeComputer(
+              *files_,
+              {folder_.Path(), driverFolder.empty() ? folder_.Path() : driverFolder, {}, Version},
+              noFolder_)),
+          kelvra(host_),
+          desktop(kelvra, dialogs_, folder_.Path()) {
+        kelvra.Start();
+        desktop.Painter().Flush();
+    }
+
+    template <class Widget>
+    Widget& Find(const char* name) {
+        return *desktop.Main().Widget().findChild<Widget*>(name);
+    }
+
+    // Measures until `ended`, which is asked every 5 ms, says so.
+    void Measure(const std::function<bool()>& ended) {
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (ended()) kelvra.forms.mdiMain.StopIt.Press();
+        });
+        look.start(std::chrono::milliseconds(5));
+        kelvra.forms.mdiMain.StartIt.Press();
+    }
+
+private:
+    static inline const platform::ProgramVersion Version{"Kelvra", 1, 0, 0};
+
+    test::TempFolder folder_;
+    std::error_code noFolder_;
+    std::unique_ptr<platform::Clock> clock_ = platform::NativeClock();
+    std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
+    std::unique_ptr<platform::Computer> computer_;
+    desktop::QtEvents events_{nullptr};
+    desktop::QtDialogs dialogs_;
+    util::Random random_{1};
+    platform::Host host_{events_, dialogs_, *clock_, *files_, *computer_, random_};
+
+public:
+    app::Kelvra kelvra;
+    desktop::Desktop desktop;
+};
+
+}  // namespace kelvra::benchmarks

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QtTest>
+#include <functional>
+
+#include "desktop/common.h"
+#include "desktop/mirror.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/simple_adapters.h"
+
+namespace kelvra::desktop {
+
+class AdapterTest : public QObject {
+    Q_OBJECT
+
+    struct Counting : Adapter {
+        explicit Counting(int& count) : updates(count) {}
+        void Update() override { ++updates; }
+        int& updates;
+    };
+
+    // Outlives the records and widgets that a test puts into it.
+    struct Room {
+        controls::Changes changes;
+        controls::Window window{changes, "W", "", {}};
+        Mirror mirror{changes};
+    };
+
+private slots:
+    void ManyChangesWakeTheMirrorOnceAndNoChangeNever() {
+        Room room;
+        controls::Label label(room.window, "L");
+        int updates = 0;
+        int wakes = 0;
+        room.mirror.Add(label, std::make_unique<Counting>(updates));
+        room.mirror.Flush();
+        const auto wake = room.changes.onFirst;
+        room.changes.onFirst = [&] { ++wakes, wake(); };
+        for (const int frame : {1, 2}) {
+            for (int i = 0; i < 1000; ++i) label.Caption = std::to_string(i);
+            QCOMPARE(updates, frame);
+            QTRY_COMPARE(updates, frame + 1);
+            QCOMPARE(wakes, frame);
+        }
+        label.Caption = "999";
+        room.mirror.Flush();
+        QCOMPARE(updates, 3);
+        QCOMPARE(wakes, 2);
+    }
+
+    void WhatAPersonCausesIsShownWithTheNextEvents() {
+        Room room;
+        controls::Button button(room.window, "B");
+        QPushButton widget;
+        room.mirror.Add(button, std::make_unique<ButtonAdapter>(button, widget));
+        button.Click.Connect([&] { button.Caption = "pressed"; });
+        QTest::mouseClick(&widget, Qt::LeftButton);
+        QCoreApplication::processEvents();
+        QCOMPARE(widget.text(), "pressed");
+    }
+
+    void APersonsActRaisesOneEventAndTheProgramsChangeNone() {
+        Room room;
+        controls::Button button(room.window, "B");
+        controls::MenuItem item(room.window, "M", "Old");
+        controls::List list(room.window, "L", {{"one", 1}, {"two", 2}}, 0);
+        QWidget parent;
+        QPushButton buttonWidget("Old", &parent);
+        QAction action;
+        action.setCheckable(true);
+        QComboBox box(&parent);
+        int events = 0;
+        for (controls::Event<>* event : {&button.Click, &item.Click, &list.Click})
+            event->Connect([&] { ++events; });
+        room.mirror.Add(button, std::make_unique<ButtonAdapter>(button, buttonWidget));
+        room.mirror.Add(item, std::make_unique<MenuItemAdapter>(item, action));
+        room.mirror.Add(list, std::make_unique<ListAdapter>(list, box));
+        const auto chooseTwo = [&] {
+            QTest::keyClick(&box, Qt::Key_Down);
+            QCOMPARE(list.Data(), 2);
+        };
+        const struct {
+            const char* name;
+            std::function<void()> act;
+            std::function<void()> change;
+            std::function<bool()> shown;
+        } cases[] = {
+            {"button", [&] { QTest::mouseClick(&buttonWidget, Qt::LeftButton); },
+             [&] { button.Caption = "New", button.Enabled = false; },
+             [&] { return buttonWidget.text() == "New" && !buttonWidget.isEnabled(); }},
+            {"menu entry", [&] { action.trigger(); },
+             [&] { item.Caption = "New", item.Checked = true, item.Enabled = false; },
+             [&] { return action.text() == "New" && action.isChecked() && !action.isEnabled(); }},
+            {"list, chosen", chooseTwo, [&] { list.Preselect(0); },
+             [&] { return box.currentIndex() == 0; }},
+            {"list, filled", chooseTwo,
+             [&] {
+                 list.Fill({{"three", 3}});
+             },
+             [&] { return box.itemText(0) == "three" && box.currentIndex() < 0; }},
+        };
+        for (const auto& c : cases) {
+            events = 0;
+            c.act();
+            QVERIFY2(events == 1, c.name);
+            c.change();
+            QVERIFY2(!c.shown(), c.name);
+            room.mirror.Flush();
+            QVERIFY2(c.shown(), c.name);
+            QVERIFY2(events == 1, c.name);
+        }
+    }
+
+    void ACheckMarkIsTheRecordsAndNotTheActions() {
+        Room room;
+        controls::MenuItem item(room.window, "M", "Old");
+        QAction action;
+        action.setCheckable(true);
+        MenuItemAdapter adapter(item, action);
+        action.trigger();  // no rule answers
+        QVERIFY(!action.isChecked());
+    }
+
+    void LabelsPicturesAndFramesShowTheirRecords() {
+        Room room;
+        controls::Label label(room.window, "L");
+        controls::Picture picture(room.window, "P", "busy1");
+        controls::Frame frame(room.window, "F");
+        QWidget parent;
+        QLabel labelWidget(&parent);
+        QLabel pictureWidget(&parent);
+        QFrame frameWidget(&parent);
+        room.mirror.Add(label, std::make_unique<LabelAdapter>(label, labelWidget));
+        room.mirror.Add(picture, std::make_unique<PictureAdapter>(picture, pictureWidget, 20));
+        room.mirror.Add(frame, std::make_unique<FrameAdapter>(frame, frameWidget));
+        const QImage first = pictureWidget.pixmap().toImage();
+        label.Caption = "two\r\nlines \xFF";
+        label.Tooltip = "why";
+        label.Back = controls::DarkBlue;
+        picture.Image = "busy2";
+        frame.Visible = false;
+        room.mirror.Flush();
+        QCOMPARE(labelWidget.text(), QString("two\nlines \uFFFD"));
+        QCOMPARE(labelWidget.accessibleName(), labelWidget.text());
+        QCOMPARE(labelWidget.toolTip(), "why");
+        QCOMPARE(labelWidget.palette().color(QPalette::Window), QColor(0, 0, 0xC0));
+        QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(Qt::white));
+        QVERIFY(pictureWidget.pixmap().toImage() != first);
+        QVERIFY(!frameWidget.isVisibleTo(&parent));
+        label.Fore = controls::Red;
+        frame.Visible = true;
+        room.mirror.Flush();
+        QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(255, 0, 0));
+        QVERIFY(frameWidget.isVisibleTo(&parent));
+    }
+
+    void ColoursComeInBlueGreenRedOrder() {
+        QCOMPARE(ToolkitColour(controls::Red), QColor(255, 0, 0));
+        QCOMPARE(ToolkitColour(controls::DarkBlue), QColor(0, 0, 0xC0));
+        QCOMPARE(ToolkitColour(0xFF123456), QColor(0x56, 0x34, 0x12));
+    }
+
+    void FileFiltersAreTranslatedPairByPair() {
+        const struct {
+            const char* filter;
+            const char* shown;
+        } cases[] = {
+            {"Text (*.txt)|*.txt|All files (*.*)|*.*", "Text (*.txt);;All files (*)"},
+            {"Text|*.txt", "Text (*.txt)"},
+            {"Text (*.txt)|*.txt|Half", "Text (*.txt)"},
+            {"Text", ""},
+            {"", ""},
+        };
+        for (const auto& c : cases) QCOMPARE(ToolkitFilter(c.filter), QString(c.shown));
+    }
+};
+
+std::unique_ptr<QObject> AdapterTests() {
+    return std::make_unique<AdapterTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "adapters_test.moc"

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QClipboard>
+#include <QHeaderView>
+#include <QtTest>
+
+#include "desktop/grid_adapter.h"
+#include "desktop/mirror.h"
+#include "desktop/running_desktop.h"
+
+namespace kelvra::desktop {
+
+class GridTest : public QObject {
+    Q_OBJECT
+
+    controls::Changes changes_;
+    controls::Window window_{changes_, "W", "", {}};
+    controls::Grid grid_{window_, "G", 4, 3};
+    std::unique_ptr<Mirror> mirror_;
+    std::unique_ptr<GridWidget> table_;
+    GridAdapter* adapter_ = nullptr;
+    QStringList events_;
+
+    void Set(int row, int column, const char* text) {
+        controls::SetGridCell(grid_, row, column, text, controls::Align::Left, false, false);
+    }
+
+private slots:
+    void initTestCase() {
+        grid_.MouseDown.Connect(
+            [this](int row, int column) { events_ << QString("down %1 %2").arg(row).arg(column); });
+        grid_.Click.Connect([this](int row, int column) {
+            events_ << QString("click %1 %2").arg(row).arg(column);
+        });
+    }
+
+    void init() {
+        mirror_ = std::make_unique<Mirror>(changes_);
+        table_ = std::make_unique<GridWidget>(grid_);
+        for (int row = 0; row < 4; ++row)
+            for (int column = 0; column < 3; ++column)
+                Set(row, column, std::string{char('a' + column), char('0' + row)}.c_str());
+        auto adapter = std::make_unique<GridAdapter>(grid_, *table_);
+        adapter_ = adapter.get();
+        mirror_->Add(grid_, std::move(adapter));
+        table_->resize(400, 300);
+        table_->show();
+        events_.clear();
+    }
+
+    void cleanup() {
+        mirror_.reset();
+        table_.reset();
+    }
+
+    void ACellShowsItsTextLookAndTooltip() {
+        controls::SetGridCell(grid_, 2, 1, "new", controls::Align::Centre, true, true,
+                              controls::Green);
+        grid_.SetCellTooltip(2, 1, "why");
+        QCOMPARE(table_->item(1, 1)->text(), "b2");
+        mirror_->Flush();
+        const QTableWidgetItem& item = *table_->item(1, 1);
+        QCOMPARE(item.text(), "new");
+        QVERIFY(item.font().bold() && item.font().italic());
+        QCOMPARE(item.textAlignment(), int(Qt::AlignVCenter | Qt::AlignHCenter));
+        QCOMPARE(item.background().color(), QColor(0, 255, 0));
+        QCOMPARE(item.toolTip(), "why");
+        QVERIFY(events_.isEmpty());
+    }
+
+    void MouseEnterAndSpaceAreOneClickEach() {
+        const QStringList one{"down 2 1", "click 2 1"};
+        ClickCell(*table_, 1, 1);
+        QCOMPARE(events_, one);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            events_.clear();
+            QTest::keyClick(table_.get(), key);
+            QCOMPARE(events_, one);
+        }
+        QTest::keyClick(table_.get(), Qt::Key_Down);
+        QCOMPARE(events_, one);
+    }
+
+    void CopyTakesTheSelectedCellsWithTabs() {
+        table_->setRangeSelected({0, 1, 1, 2}, true);
+        QTest::keyClick(table_.get(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), "b1\tc1\nb2\tc2\n");
+    }
+
+    void ColumnsGrowWithTheirTextsAndStay() {
+        int growths = 0;
+        adapter_->onGrowth = [&] { ++growths; };
+        const int before = table_->columnWidth(1);
+        for (const char* text : {"a text as long as this one is wide", "short"}) {
+            Set(1, 1, text);
+            mirror_->Flush();
+            QVERIFY(table_->columnWidth(1) > before);
+            QCOMPARE(growths, 1);
+        }
+    }
+
+    void RowZeroIsTheHeadingOfAGridThatGrows() {
+        Set(6, 2, "far");
+        mirror_->Flush();
+        QCOMPARE(table_->rowCount(), 6);
+        QCOMPARE(table_->item(5, 2)->text(), "far");
+        QCOMPARE(table_->item(2, 0)->text(), "a3");
+        QCOMPARE(table_->horizontalHeaderItem(2)->text(), "c0");
+        grid_.SetRows(4);
+        mirror_->Flush();
+        QCOMPARE(table_->rowCount(), 3);
+    }
+
+    void KeysAndTheWheelZoomInSteps() {
+        QList<int> told;
+        table_->onZoom = [&](int steps) { told << steps; };
+        const qreal normal = table_->font().pointSizeF();
+        const struct {
+            Qt::Key key;
+            Qt::KeyboardModifiers modifiers;
+            int zoom;
+        } cases[] = {
+            {Qt::Key_Plus, Qt::ControlModifier, 1},
+            {Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier, 2},
+            {Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier, 3},
+            {Qt::Key_Equal, Qt::ControlModifier, 4},
+            {Qt::Key_Minus, Qt::ControlModifier, 3},
+            {Qt::Key_0, Qt::ControlModifier, 0},
+            {Qt::Key_Minus, Qt::ControlModifier, -1},
+        };
+        for (const auto& c : cases) {
+            QTest::keyClick(table_.get(), c.key, c.modifiers);
+            QCOMPARE(table_->Zoom(), c.zoom);
+            QCOMPARE(std::exchange(told, {}), QList<int>{c.zoom});
+            QCOMPARE(table_->font().pointSizeF() > normal, c.zoom > 0);
+            QCOMPARE(table_->font().pointSizeF() < normal, c.zoom < 0);
+        }
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, turn}, {}, Qt::ControlModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(table_->viewport(), &wheel);
+            QCOMPARE(table_->Zoom(), turn > 0 ? 0 : -1);
+        }
+        table_->SetZoom(1000);
+        QVERIFY(table_->Zoom() < 100);
+    }
+};
+
+std::unique_ptr<QObject> GridTests() {
+    return std::make_unique<GridTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "grid_test.moc"

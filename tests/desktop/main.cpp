@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QtTest>
+#include <memory>
+
+namespace kelvra::desktop {
+
+// The groups of tests, each made by its own file.
+std::unique_ptr<QObject> AdapterTests();
+std::unique_ptr<QObject> GridTests();
+std::unique_ptr<QObject> WindowTests();
+std::unique_ptr<QObject> ProgramTests();
+
+}  // namespace kelvra::desktop
+
+int main(int argc, char** argv) {
+    using namespace kelvra::desktop;
+    QApplication application(argc, argv);
+    int failures = 0;
+    for (const auto& make : {AdapterTests, GridTests, WindowTests, ProgramTests})
+        failures += QTest::qExec(make().get(), argc, argv);
+    return failures == 0 ? 0 : 1;
+}

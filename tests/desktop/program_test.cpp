@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+
+#include "desktop/common.h"
+#include "desktop/running_desktop.h"
+
+namespace kelvra::desktop {
+
+class ProgramTest : public QObject {
+    Q_OBJECT
+
+    static QString Cell(const QTableWidget& table, int row, int column) {
+        const QTableWidgetItem* item = table.item(row, column);
+        return item == nullptr ? QString() : item->text();
+    }
+
+    // Measures by click until the cell shows a text, and stops by that act. False when the act did
+    // not stop it.
+    static bool MeasureUntilShown(RunningDesktop& running, QTableWidget& table, int column,
+                                  std::function<void()> stop) {
+        QObject person;
+        bool stopped = true;
+        const auto shown = [&] {
+            return !running.Start().isEnabled() && !Cell(table, 0, column).isEmpty();
+        };
+        When(person, shown, std::move(stop));
+        QTimer::singleShot(10000, &person, [&] {
+            stopped = false;
+            running.kelvra.forms.mdiMain.StopIt.Press();
+        });
+        running.Click("StartIt");
+        return stopped;
+    }
+
+    static void AnswerFormula(RunningDesktop& running, const char* formula) {
+        QObject person;
+        WhenAsked<QInputDialog>(person, [&](QInputDialog& dialog) {
+            auto* line = dialog.findChild<QLineEdit*>();
+            line->selectAll();
+            QTest::keyClicks(line, formula);
+            QTest::keyClick(line, Qt::Key_Return);
+        });
+        ClickCell(running.Find<GridWidget>("CalcGrid"), 0, 1);
+    }
+
+private slots:
+    void StartShowsReadingsUntilStop() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        const std::function<void()> stops[] = {
+            [&] { QTest::keyClick(&running.Main(), Qt::Key_F5, Qt::ShiftModifier); },
+            [&] { running.Click("StopIt"); },
+        };
+        for (const auto& stop : stops) {
+            QVERIFY(MeasureUntilShown(running, running.Results(), 2, stop));
+            QVERIFY(!running.kelvra.state.commandRuns);
+            running.desktop.Painter().Flush();
+            QVERIFY(running.Start().isEnabled());
+            QVERIFY(!running.Find<QPushButton>("StopIt").isEnabled());
+            QCOMPARE(int(Cell(running.Results(), 0, 2).toDouble()), -8);
+            QCOMPARE(int(Cell(running.Results(), 1, 2).toDouble()), -4);
+        }
+        QCOMPARE(running.kelvra.state.starts, 2);
+    }
+
+    void ANameCellSwitchesItsSensor() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        const auto& entry = running.kelvra.table[1];
+        ClickCell(running.Results(), 1, 0);
+        QVERIFY(!entry.Enabled);
+        QCOMPARE(running.kelvra.table.CurrentSensor, 1);
+        running.desktop.Painter().Flush();
+        QCOMPARE(running.Results().item(1, 0)->background().color(), ToolkitColour(controls::Grey));
+        QTest::keyClick(&running.Results(), Qt::Key_Return);
+        QVERIFY(entry.Enabled);
+    }
+
+    void TheSensorListChoosesTheCurrentSensor() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& box = running.Find<QComboBox>("TimeSensor_select_new");
+        QCOMPARE(box.count(), 2);
+        QTest::keyClick(&box, Qt::Key_Down);
+        QCOMPARE(running.kelvra.table.CurrentSensor, 1);
+        QCOMPARE(running.Find<QComboBox>("SensSyncMode").currentText(), "Async");
+    }
+
+    void AnEditedFormulaIsComputed() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& grid = running.Find<GridWidget>("CalcGrid");
+        AnswerFormula(running, "X1dB");
+        QCOMPARE(running.kelvra.forms.mdiMain.CalcGrid.At(1, 1).text, "X1dB");
+        QVERIFY(MeasureUntilShown(running, grid, 2, [&] { running.Click("StopIt"); }));
+        running.desktop.Painter().Flush();
+        QCOMPARE(Cell(grid, 0, 1), "X1dB");
+        QCOMPARE(int(Cell(grid, 0, 2).toDouble()), -8);
+    }
+
+    void WithoutASensorStartSaysSo() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        for (const int row : {0, 1}) ClickCell(running.Results(), row, 0);
+        QString said;
+        WhenAsked<QMessageBox>(running.Main(), [&](QMessageBox& box) {
+            said = box.text();
+            QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        running.Click("StartIt");
+        QCOMPARE(said, "No operational sensor selected");
+    }
+
+    void AMenuEntryIsClickedAndKeepsTheRulesMark() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        QMenu& menu = *running.Main().menuBar()->actions().at(1)->menu();
+        QAction& onTop = *menu.actions().at(0);
+        QVERIFY(onTop.isChecked());
+        for (const bool expected : {false, true}) {
+            menu.popup({0, 0});
+            QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&onTop).center());
+            running.desktop.Painter().Flush();
+            QCOMPARE(running.kelvra.forms.mdiMain.SettingAlwaysOnTop.Checked.Get(), expected);
+            QCOMPARE(onTop.isChecked(), expected);
+        }
+    }
+
+    void ZoomIsKeptForTheNextRun() {
+        const QTemporaryDir data;
+        qreal normal = 0;
+        {
+            RunningDesktop running(data);
+            normal = running.Results().font().pointSizeF();
+            const int width = running.Results().columnWidth(1);
+            for (int i = 0; i < 3; ++i)
+                QTest::keyClick(&running.Results(), Qt::Key_Plus, Qt::ControlModifier);
+            QVERIFY(running.Results().columnWidth(1) > width);
+        }
+        const QSettings kept(data.filePath("Desktop.ini"), QSettings::IniFormat);
+        QCOMPARE(kept.value("ResultTable/Zoom").toInt(), 3);
+        RunningDesktop running(data);
+        QCOMPARE(running.Results().Zoom(), 3);
+        QVERIFY(running.Results().font().pointSizeF() > normal);
+    }
+
+    void ClosingTheWindowEndsAMeasurementInOrder() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        bool exitCameFirst = false;
+        QTimer::singleShot(0, &running.Main(), [&] {
+            const bool closed =
+                MeasureUntilShown(running, running.Results(), 2, [&] { running.Main().close(); });
+            exitCameFirst = closed && running.kelvra.state.exiting && running.events.HasQuit();
+            if (!exitCameFirst) QCoreApplication::exit(1);
+        });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(exitCameFirst);
+        QVERIFY(running.kelvra.state.StopRequested);
+        QVERIFY(!running.kelvra.state.Measuring);
+        QVERIFY(!running.kelvra.state.commandRuns);
+    }
+};
+
+std::unique_ptr<QObject> ProgramTests() {
+    return std::make_unique<ProgramTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "program_test.moc"

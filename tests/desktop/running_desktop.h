@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The whole desktop program, started over two simulated sensors: its driver folder is empty, its
+// data folder a test's own. A person who acts while a handler runs is a timer that looks.
+#pragma once
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <functional>
+#include <memory>
+
+#include "desktop/desktop.h"
+#include "platform/native.h"
+
+namespace kelvra::desktop {
+
+// Acts once, as soon as the condition holds; looks while the object is there.
+inline void When(QObject& alive, std::function<bool()> condition, std::function<void()> act) {
+    auto* look = new QTimer(&alive);
+    QObject::connect(look, &QTimer::timeout, [=] {
+        if (!condition()) return;
+        look->stop();
+        act();
+    });
+    look->start(5);
+}
+
+// Acts on the dialog of that kind that comes up.
+template <class Dialog>
+void WhenAsked(QObject& alive, std::function<void(Dialog&)> act) {
+    const auto dialog = [] { return qobject_cast<Dialog*>(QApplication::activeModalWidget()); };
+    When(
+        alive, [=] { return dialog() != nullptr; }, [=] { act(*dialog()); });
+}
+
+inline void ClickCell(QTableWidget& table, int row, int column) {
+    const QPoint middle = table.visualRect(table.model()->index(row, column)).center();
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, middle);
+}
+
+class RunningDesktop {
+public:
+    explicit RunningDesktop(const QTemporaryDir& data)
+        : computer_(platform::NativeComputer(
+              *files_, {data.path().toStdString(), drivers_.path().toStdString(), {}, {}}, error_)),
+          host_{events, dialogs_, *clock_, *files_, *computer_, random_},
+          kelvra(host_),
+          desktop(kelvra, dialogs_, data.path().toStdString()) {
+        kelvra.Start();
+        desktop.Painter().Flush();
+        QApplication::setActiveWindow(&Main());
+        QCoreApplication::processEvents();
+    }
+
+    FrameWindow& Main() { return desktop.Main().Widget(); }
+    template <class Widget>
+    Widget& Find(const char* name) {
+        return *Main().findChild<Widget*>(name);
+    }
+    GridWidget& Results() { return Find<GridWidget>("ResultGrid"); }
+    QPushButton& Start() { return Find<QPushButton>("StartIt"); }
+    void Click(const char* button) {
+        QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
+    }
+
+private:
+    QTemporaryDir drivers_;
+    std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
+    std::unique_ptr<platform::Clock> clock_ = platform::NativeClock();
+    std::error_code error_;
+    std::unique_ptr<platform::Computer> computer_;
+    QtDialogs dialogs_;
+    util::Random random_{1};
+
+public:
+    QtEvents events{nullptr};
+
+private:
+    platform::Host host_;
+
+public:
+    app::Kelvra kelvra;
+    Desktop desktop;
+};
+
+}  // namespace kelvra::desktop

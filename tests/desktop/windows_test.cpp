@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAccessible>
+#include <QWindow>
+
+#include "desktop/running_desktop.h"
+
+namespace kelvra::desktop {
+
+class WindowTest : public QObject {
+    Q_OBJECT
+
+    // The widgets that were shown as windows of their own.
+    struct ShownWindows : QObject {
+        ShownWindows() { qApp->installEventFilter(this); }
+        bool eventFilter(QObject* object, QEvent* event) override {
+            auto* widget = qobject_cast<QWidget*>(object);
+            if (event->type() == QEvent::Show && widget != nullptr && widget->isWindow())
+                widgets << widget;
+            return false;
+        }
+        QList<QWidget*> widgets;
+    };
+
+private slots:
+    void TheFrameShowsItsRecordWithoutAnEcho() {
+        controls::Changes changes;
+        controls::Window record(changes, "W", "Old", {150, 150, 3000, 3000});
+        record.closesByRule = true;
+        int resizes = 0;
+        int closes = 0;
+        record.Resize.Connect([&] { ++resizes; });
+        record.CloseRequest.Connect([&] { ++closes; });
+        Mirror mirror(changes);
+        FrameWindow frame(record);
+        mirror.Add(record, std::make_unique<FrameWindowAdapter>(record, frame));
+        record.Caption = "New";
+        record.Place = controls::Geometry{300, 300, 4500, 3750};
+        record.Visible = true;
+        mirror.Flush();
+        QCoreApplication::processEvents();
+        QCOMPARE(frame.windowTitle(), "New");
+        QCOMPARE(frame.geometry(), QRect(20, 20, 300, 250));
+        QCOMPARE(resizes, 0);
+
+        frame.windowHandle()->resize(320, 260);  // as the window manager does for a person
+        QCoreApplication::processEvents();
+        QCOMPARE(resizes, 1);
+        QCOMPARE(record.Place->width, 4800);
+        QCOMPARE(record.Place->height, 3900);
+
+        frame.close();
+        QCOMPARE(closes, 1);
+        QVERIFY(frame.isVisible());
+    }
+
+    void NothingButTheFrameIsEverAWindowOfItsOwn() {
+        const QTemporaryDir data;
+        ShownWindows shown;
+        RunningDesktop running(data);
+        QCOMPARE(shown.widgets, QList<QWidget*>{&running.Main()});
+    }
+
+    void EveryWidgetThatTakesFocusSaysWhatItIs() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        int found = 0;
+        for (QWidget* widget : running.Main().findChildren<QWidget*>()) {
+            if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible()) continue;
+            ++found;
+            const auto* face = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(face != nullptr && !face->text(QAccessible::Name).isEmpty(),
+                     widget->metaObject()->className() + widget->objectName().toLatin1());
+        }
+        QVERIFY(found >= 7);
+    }
+
+    void TabVisitsTheControlsInReadingOrder() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        running.kelvra.forms.mdiMain.StopIt.Enabled = true;
+        running.desktop.Painter().Flush();
+        running.Start().setFocus();
+        QStringList visited;
+        do {
+            visited << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (visited.size() < 20 && !visited.contains("ResultGrid"));
+        QCOMPARE(visited, (QStringList{"StartIt", "StopIt", "Show_Settings", "SensSyncMode",
+                                       "TimeSensor_select_new", "CalcGrid", "ResultGrid"}));
+    }
+
+    void UnderlinedLettersPressTheirButtons() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        for (auto* button : running.Main().findChildren<QPushButton*>()) {
+            button->setEnabled(true);
+            QSignalBlocker noRule(button);
+            const QString text = button->text();
+            const QString letter = text.mid(text.indexOf('&') + 1, 1).toUpper();
+            const int key = letter.at(0).unicode();
+            QTest::keyClick(&running.Main(), static_cast<Qt::Key>(key), Qt::AltModifier);
+            QVERIFY2(button->isDown(), qPrintable(text));
+            QTRY_VERIFY(!button->isDown());
+        }
+    }
+};
+
+std::unique_ptr<QObject> WindowTests() {
+    return std::make_unique<WindowTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "windows_test.moc"
