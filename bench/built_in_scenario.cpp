@@ -13,14 +13,14 @@ source generator 10 dBm
 source oscillator -25 dBm
 
 sensor PS-101 100001
-    name "Forward"
-    sees generator -20 dB
+    name "Reflected"
+    sees generator -34 dB
     noise 0.01 dB
     noise 50 pW
 
 sensor PS-106 100002
-    name "Reflected"
-    sees generator -34 dB
+    name "Forward"
+    sees generator -20 dB
     noise 0.01 dB
     noise 50 pW
 
