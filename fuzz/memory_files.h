@@ -47,7 +47,6 @@ public:
         bytes.erase(path);
         return {};
     }
-    std::error_code SyncFolderOf(const std::string&) override { return {}; }
     std::error_code CopyPermissions(const std::string&, Handle) override { return {}; }
     std::string ResolveLinks(const std::string& path) override { return path; }
     bool Exists(const std::string& path) override { return bytes.contains(path); }

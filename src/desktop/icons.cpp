@@ -9,7 +9,9 @@
 #include "util/number_reading.h"
 
 // The pictures are in a static library: they must be asked for, outside of any namespace.
-static void InitialisePictures() { Q_INIT_RESOURCE(icons); }
+static void InitialisePictures() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace kelvra::desktop {
 

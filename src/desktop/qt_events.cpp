@@ -52,7 +52,8 @@ void QtEvents::StopTimer(TimerId timer) {
 void QtEvents::Quit() {
     quit_ = true;
     for (const auto& [id, timer] : timers_) timer->stop();
-    QCoreApplication::exit();  // not quit, which would first ask the windows, and those ask the rules
+    QCoreApplication::exit();  // not quit, which would first ask the windows, and those ask the
+                               // rules
 }
 
 }  // namespace kelvra::desktop

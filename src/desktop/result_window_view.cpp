@@ -40,8 +40,9 @@ void ResultWindowView::SetZoom(int steps) {
     FitWindow();
 }
 
-// All columns and rows are in sight, as far as the area has room; the window grows and never shrinks.
-// Later, in one go: a table that fills itself asks often, and has its sizes when it is laid out.
+// All columns and rows are in sight, as far as the area has room; the window grows and never
+// shrinks. Later, in one go: a table that fills itself asks often, and has its sizes when it is
+// laid out.
 void ResultWindowView::FitWindow() {
     if (fitting_) return;
     fitting_ = true;

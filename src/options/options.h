@@ -25,7 +25,7 @@ struct Program {
     const char* name = "";
     const char* description = "";
     const char* footer = "";  // the words in its usage
-    bool hasScript = false;  // takes --echo
+    bool hasScript = false;   // takes --echo
 };
 
 constexpr int WrongUsage = 2;

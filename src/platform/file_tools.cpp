@@ -89,12 +89,9 @@ std::error_code ReplaceFile(Files& files, const std::string& path, std::string_v
 
     auto error = CloseAfter(Fill(files, handle, target, bytes), files, handle);
     if (!error) error = files.Rename(temporary, target);
-    if (error) {
-        // Whether this succeeds or not, the error that brought us here is the one to report.
-        files.Remove(temporary);
-        return error;
-    }
-    return files.SyncFolderOf(target);
+    // Whether this succeeds or not, the error that brought us here is the one to report.
+    if (error) files.Remove(temporary);
+    return error;
 }
 
 std::error_code AppendToFile(Files& files, const std::string& path, std::string_view bytes) {

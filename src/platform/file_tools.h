@@ -20,8 +20,9 @@ std::error_code ReadWholeFile(Files& files, const std::string& path, std::string
 
 // The file holds the old bytes or the new ones, whole, whenever and wherever this stops: they are
 // written to a temporary file beside it, synced, and renamed over it. An error leaves the old file
-// and no temporary one; only if the very last step fails, the folder's sync, the new file stands
-// already. Links are followed, permissions kept, a read-only file is refused.
+// and no temporary one. Links are followed, permissions kept, a read-only file is refused. After a
+// power cut right behind it the old file may be back, whole: the folder is not synced, which would
+// double the time.
 std::error_code ReplaceFile(Files& files, const std::string& path, std::string_view bytes);
 
 // Opens, appends and closes; makes a missing file. An error may leave a part of the bytes.

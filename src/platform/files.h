@@ -44,8 +44,6 @@ public:
     virtual std::error_code Close(Handle handle) = 0;
     virtual std::error_code Rename(const std::string& from, const std::string& to) = 0;
     virtual std::error_code Remove(const std::string& path) = 0;
-    // Makes the contents of the folder that holds the path survive a power cut.
-    virtual std::error_code SyncFolderOf(const std::string& path) = 0;
     // The new file gets the permissions of the old one.
     virtual std::error_code CopyPermissions(const std::string& from, Handle to) = 0;
     // The file that a chain of links ends at; the path itself where there is no link.

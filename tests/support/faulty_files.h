@@ -59,7 +59,6 @@ public:
     Error Sync(Handle h) override { return Run([&] { return inner_.Sync(h); }); }
     Error Rename(Path old, Path to) override { return Run([&] { return inner_.Rename(old, to); }); }
     Error Remove(Path path) override { return Run([&] { return inner_.Remove(path); }); }
-    Error SyncFolderOf(Path p) override { return Run([&] { return inner_.SyncFolderOf(p); }); }
     Error MakeFolders(Path path) override { return Run([&] { return inner_.MakeFolders(path); }); }
     // clang-format on
     std::string ResolveLinks(Path path) override { return inner_.ResolveLinks(path); }

@@ -89,22 +89,13 @@ std::error_code PosixFiles::Remove(const std::string& path) {
     return Outcome(::unlink(path.c_str()));
 }
 
-std::error_code PosixFiles::SyncFolderOf(const std::string& path) {
-    const fs::path folder = fs::path(path).parent_path();
-    Handle handle = -1;
-    if (const auto error =
-            OpenWith(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY, handle))
-        return error;
-    const auto error = Sync(handle);
-    const auto closing = Close(handle);
-    // Some file systems have nothing to sync in a folder and say so.
-    if (error && error != std::errc::invalid_argument) return error;
-    return closing;
-}
-
 std::error_code PosixFiles::CopyPermissions(const std::string& from, Handle to) {
     struct stat old {};
-    if (::stat(from.c_str(), &old) != 0) return LastError();
+    struct stat now {};
+    if (::stat(from.c_str(), &old) != 0 || ::fstat(to, &now) != 0) return LastError();
+    // What is as it should be is left alone: each change makes the sync take longer.
+    if (old.st_uid == now.st_uid && old.st_gid == now.st_gid && old.st_mode == now.st_mode)
+        return {};
     // Before the permissions, which a change of owner may reduce.
     for (const auto& [owner, group] : {std::pair<uid_t, gid_t>(-1, old.st_gid), {old.st_uid, -1}})
         if (::fchown(to, owner, group) != 0 && errno != EPERM) return LastError();

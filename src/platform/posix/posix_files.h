@@ -15,7 +15,6 @@ public:
     std::error_code Close(Handle handle) override;
     std::error_code Rename(const std::string& from, const std::string& to) override;
     std::error_code Remove(const std::string& path) override;
-    std::error_code SyncFolderOf(const std::string& path) override;
     // Group and owner too, as far as the user may give them away.
     std::error_code CopyPermissions(const std::string& from, Handle to) override;
     std::string ResolveLinks(const std::string& path) override;
