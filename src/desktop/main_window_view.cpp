@@ -188,7 +188,9 @@ QWidget* MainWindowView::BuildFormulas() {
     outer->setMinimumWidth(LeastFormulaWidth);
     mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
-    mirror_.Add(form_.CalcGrid, std::make_unique<GridAdapter>(form_.CalcGrid, *grid));
+    auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *grid);
+    grid->onZoom = [shown = adapter.get()](int) { shown->FitColumns(); };
+    mirror_.Add(form_.CalcGrid, std::move(adapter));
     // Where room is short the formula gives way: names and results are what is read.
     grid->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;

@@ -60,6 +60,11 @@ ChildWindow::ChildWindow(controls::Window& window) : window_(window) {
     setAttribute(Qt::WA_DeleteOnClose, false);
 }
 
+bool ChildWindow::focusNextPrevChild(bool next) {
+    auto* frame = dynamic_cast<FrameWindow*>(window());
+    return frame != nullptr && frame->focusNextPrevChild(next);
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     window_.PersonCloses();

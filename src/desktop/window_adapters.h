@@ -16,6 +16,8 @@ class FrameWindow final : public QMainWindow {
 public:
     explicit FrameWindow(controls::Window& window) : window_(window) {}
 
+    using QMainWindow::focusNextPrevChild;  // the windows inside pass the Tab key on
+
 protected:
     // The close is the record's rule; the program ends by it, not by the toolkit.
     void closeEvent(QCloseEvent* event) override;
@@ -45,6 +47,8 @@ public:
     explicit ChildWindow(controls::Window& window);
 
 protected:
+    // The Tab key walks through the whole frame, in and out of the windows inside it.
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

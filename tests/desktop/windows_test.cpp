@@ -33,9 +33,10 @@ private slots:
         Mirror mirror(changes);
         FrameWindow frame(record);
         mirror.Add(record, std::make_unique<FrameWindowAdapter>(record, frame));
+        record.Visible = true;
+        mirror.Flush();
         record.Caption = "New";
         record.Place = controls::Geometry{300, 300, 4500, 3750};
-        record.Visible = true;
         mirror.Flush();
         QCoreApplication::processEvents();
         QCOMPARE(frame.windowTitle(), "New");
@@ -84,7 +85,8 @@ private slots:
         do {
             visited << QApplication::focusWidget()->objectName();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (visited.size() < 20 && !visited.contains("ResultGrid"));
+        } while (visited.size() < 20 && QApplication::focusWidget() != &running.Start());
+        visited.removeAll("");
         QCOMPARE(visited, (QStringList{"StartIt", "StopIt", "Show_Settings", "SensSyncMode",
                                        "TimeSensor_select_new", "CalcGrid", "ResultGrid"}));
     }
