@@ -11,7 +11,7 @@
 #include <string>
 
 #include "desktop/desktop.h"
-#include "platform/native.h"
+#include "options/surroundings.h"
 #include "support/temp_folder.h"
 
 namespace kelvra::benchmarks {
@@ -55,10 +55,14 @@ class DesktopRun {
 public:
     // Without driver libraries there are simulated sensors, until others are plugged in.
     explicit DesktopRun(const std::string& driverFolder = {})
-        : computer_(platform::NativeComputer(
-              *files_,
-              {folder_.Path(), driverFolder.empty() ? folder_.Path() : driverFolder, {}, Version},
-              noFolder_)),
+        : surroundings_({driverFolder.empty() ? folder_.Path() : driverFolder,
+                         folder_.Path(),
+                         {},
+                         1,
+                         false,
+                         {}},
+                        {}),
+          host_(surroundings_.HostWith(events_, dialogs_)),
           kelvra(host_),
           desktop(kelvra, dialogs_, folder_.Path()) {
         kelvra.Start();
@@ -81,17 +85,11 @@ public:
     }
 
 private:
-    static inline const platform::ProgramVersion Version{"Kelvra", 1, 0, 0};
-
     test::TempFolder folder_;
-    std::error_code noFolder_;
-    std::unique_ptr<platform::Clock> clock_ = platform::NativeClock();
-    std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
-    std::unique_ptr<platform::Computer> computer_;
-    desktop::QtEvents events_{nullptr};
+    options::Surroundings surroundings_;
+    desktop::QtEvents events_{surroundings_.Clock(), nullptr};
     desktop::QtDialogs dialogs_;
-    util::Random random_{1};
-    platform::Host host_{events_, dialogs_, *clock_, *files_, *computer_, random_};
+    platform::Host host_;
 
 public:
     app::Kelvra kelvra;

@@ -48,7 +48,7 @@ double MeasurePasses(benchmark::State& state, benchmark::IterationCount passes) 
     const bool ran = run.Run();
     // The last sensor's spread shows that all have been read often enough.
     const controls::Grid& table = run.kelvra.forms.statusForm.ResultGrid;
-    if (!ran || table.Rows() <= Sensors || table.At(Sensors, measure::SigmaColumn).text.empty())
+    if (!ran || table.Rows() <= Sensors || table.At(Sensors, measure::SigmaColumn).Text().empty())
         state.SkipWithError("the sensors were not read");
     return std::chrono::duration<double>(taken[1] - taken[0]).count();
 }

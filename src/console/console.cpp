@@ -3,12 +3,11 @@
 
 #include <cstdio>
 #include <memory>
-#include <random>
 #include <utility>
 
 #include "app/kelvra.h"
 #include "console/script.h"
-#include "options/version.h"
+#include "options/surroundings.h"
 #include "platform/native.h"
 
 namespace kelvra::console {
@@ -16,11 +15,6 @@ namespace kelvra::console {
 namespace {
 
 constexpr int CommandFailed = 1;
-
-std::uint64_t AnySeed() {
-    std::random_device device;
-    return (std::uint64_t{device()} << 32) | device();
-}
 
 }  // namespace
 
@@ -45,26 +39,19 @@ int RunConsole(const options::Options& options) {
     }
     platform::WatchForTermination();
 
-    const auto files = platform::NativeFiles();
-    const auto nativeClock = platform::NativeClock();
-    std::unique_ptr<platform::SetClock> setClock;
-    if (options.clock) setClock = std::make_unique<platform::SetClock>(*options.clock);
-    platform::Clock& clock = setClock ? static_cast<platform::Clock&>(*setClock) : *nativeClock;
-    std::error_code dataFolderError;
-    const auto computer = platform::NativeComputer(
-        *files, {options.dataDir, options.driverDir, choice.commandLine, options::Version},
-        dataFolderError);
-    if (dataFolderError)
-        errors.Line("The data folder " + computer->ProgramFolder() +
-                    " can't be made: " + dataFolderError.message());
+    options::Surroundings surroundings(options, choice.commandLine);
+    if (const auto error = surroundings.DataFolderError())
+        errors.Line("The data folder " + surroundings.Computer().ProgramFolder() +
+                    " can't be made: " + error.message());
 
-    ScriptEvents events(clock, setClock.get());
+    platform::Clock& clock = surroundings.Clock();
+    platform::SetClock* ownClock = surroundings.OwnClock();
+    ScriptEvents events(clock, ownClock);
     ScriptDialogs dialogs(output);
-    util::Random random(options.seed ? *options.seed : AnySeed());
-    platform::Host host{events, dialogs, clock, *files, *computer, random};
+    platform::Host host = surroundings.HostWith(events, dialogs);
     app::Kelvra kelvra(host);
     Script script(
-        {kelvra, *input, dialogs, output, errors, clock, setClock != nullptr, options.echo});
+        {kelvra, *input, dialogs, output, errors, clock, ownClock != nullptr, options.echo});
     events.Connect(script);
     kelvra.Start();
     events.Run();

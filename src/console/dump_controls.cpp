@@ -34,10 +34,11 @@ void ListMembers(JsonLine& json, const List& list) {
 }
 
 void Cell(JsonLine& json, const Grid::Cell& cell) {
-    json.BeginObject().Member("text", cell.text).Member("bold", cell.bold);
-    json.Member("italic", cell.italic).Member("align", static_cast<int>(cell.align)).Key("back");
-    if (cell.back)
-        json.Colour(*cell.back);
+    const Grid::Look& look = cell.look;
+    json.BeginObject().Member("text", cell.Text()).Member("bold", look.bold);
+    json.Member("italic", look.italic).Member("align", static_cast<int>(look.align)).Key("back");
+    if (look.back)
+        json.Colour(*look.back);
     else
         json.Null();
     json.EndObject();

@@ -30,7 +30,7 @@ std::vector<std::string> GridLines(const controls::Grid& grid) {
         std::string line;
         for (int column = 0; column < grid.Columns(); ++column) {
             if (column > 0) line += '\t';
-            line += OneCell(grid.At(row, column).text);
+            line += OneCell(grid.At(row, column).Text());
         }
         lines.push_back(std::move(line));
     }

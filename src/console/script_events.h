@@ -39,7 +39,10 @@ public:
     void DoEvents(std::chrono::milliseconds patience) override;
     TimerId StartTimer(std::chrono::milliseconds interval, std::function<void()> handler) override;
     void StopTimer(TimerId timer) override { timers_.Stop(timer); }
-    void Quit() override { quit_ = true; }
+    void Quit() override {
+        quit_ = true;
+        timers_.Clear();
+    }
 
     // The main loop: returns after Quit.
     void Run();

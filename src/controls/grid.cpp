@@ -40,26 +40,37 @@ void Grid::Resize(int rows, int columns) {
     MarkChanged();
 }
 
-void Grid::SetCell(int row, int column, std::string_view text, Align align, bool bold, bool italic,
-                   std::optional<Colour> back) {
+template <class Content>
+void Grid::Write(int row, int column, const Content& content, const Look& look) {
     if (row < 0 || column < 0) return;
     if (row >= rows_ || column >= columns_)
         Resize(std::max(rows_, row + 1), std::max(columns_, column + 1));
     Cell& cell = cells_[Offset(row, column)];
-    const std::optional<Colour> newBack = back ? back : cell.back;
-    if (cell.text == text && cell.align == align && cell.bold == bold && cell.italic == italic &&
-        cell.back == newBack)
-        return;
-    if (cell.text != text) cell.text = text;
-    cell.align = align;
-    cell.bold = bold;
-    cell.italic = italic;
-    cell.back = newBack;
-    MarkCell(cell, row, column);
+    const bool saysElse = cell.content.Set(content);
+    const bool looksElse = ChangeLook(cell, look);
+    if (saysElse || looksElse) MarkCell(cell, row, column);
 }
 
-void Grid::SetLook(int row, int column, Align align, bool bold, bool italic, Colour back) {
-    SetCell(row, column, At(row, column).text, align, bold, italic, back);
+void Grid::SetCell(int row, int column, std::string_view text, const Look& look) {
+    Write(row, column, text, look);
+}
+
+void Grid::SetCell(int row, int column, const util::Figure& figure, const Look& look) {
+    Write(row, column, figure, look);
+}
+
+void Grid::SetLook(int row, int column, const Look& look) {
+    Cell& cell = cells_[Offset(row, column)];
+    if (ChangeLook(cell, look)) MarkCell(cell, row, column);
+}
+
+bool Grid::ChangeLook(Cell& cell, const Look& look) {
+    const Look& own = cell.look;
+    if (own.align == look.align && own.bold == look.bold && own.italic == look.italic &&
+        (!look.back || own.back == look.back))
+        return false;
+    cell.look = {look.align, look.bold, look.italic, look.back ? look.back : own.back};
+    return true;
 }
 
 void Grid::SetCellTooltip(int row, int column, std::string_view text) {
@@ -83,7 +94,12 @@ std::vector<std::pair<int, int>> Grid::TakeChangedCells() {
 
 void SetGridCell(Grid& grid, int row, int column, std::string_view text, Align align, bool bold,
                  bool italic, std::optional<Colour> backColour) {
-    grid.SetCell(row, column, text, align, bold, italic, backColour);
+    grid.SetCell(row, column, text, {align, bold, italic, backColour});
+}
+
+void SetGridCell(Grid& grid, int row, int column, const util::Figure& figure, Align align,
+                 bool bold, bool italic, std::optional<Colour> backColour) {
+    grid.SetCell(row, column, figure, {align, bold, italic, backColour});
 }
 
 }  // namespace kelvra::controls

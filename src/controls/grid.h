@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "controls/cell_text.h"
 #include "controls/control.h"
 #include "controls/event.h"
 
@@ -18,14 +19,19 @@ enum class Align { Left = 1, Centre = 4 };
 
 class Grid : public Control {
 public:
-    struct Cell {
-        std::string text;
+    struct Look {
+        Align align = Align::Left;
         bool bold = false;
         bool italic = false;
-        Align align = Align::Left;
         std::optional<Colour> back;  // none: the grid's own colour
+    };
+    struct Cell {
+        CellText content;
+        Look look;
         std::string tooltip;
         bool changed = false;  // since the last TakeChangedCells
+
+        const std::string& Text() const { return content.Get(); }
     };
 
     // Row 0 is the heading.
@@ -40,12 +46,12 @@ public:
     void SetRows(int rows);  // new cells are empty
     void SetWidth(int column, int width);
 
-    // The one writer of cells. A row or column (from 0) beyond the last one makes the grid grow to
-    // it. Without a colour the cell keeps its own.
-    void SetCell(int row, int column, std::string_view text, Align align, bool bold, bool italic,
-                 std::optional<Colour> back = std::nullopt);
-    // The same for a cell that is there and keeps its text.
-    void SetLook(int row, int column, Align align, bool bold, bool italic, Colour back);
+    // The writers of cells. A row or column (from 0) beyond the last one makes the grid grow to it.
+    // A look without a colour leaves the cell its own.
+    void SetCell(int row, int column, std::string_view text, const Look& look);
+    void SetCell(int row, int column, const util::Figure& figure, const Look& look);
+    // The same for a cell that is there and keeps what it says.
+    void SetLook(int row, int column, const Look& look);
 
     void SetCellTooltip(int row, int column, std::string_view text);
 
@@ -66,6 +72,9 @@ private:
                static_cast<std::size_t>(column);
     }
     void Resize(int rows, int columns);
+    template <class Content>
+    void Write(int row, int column, const Content& content, const Look& look);
+    static bool ChangeLook(Cell& cell, const Look& look);
     void MarkCell(Cell& cell, int row, int column);
 
     int rows_;
@@ -78,5 +87,7 @@ private:
 // The system's name for Grid::SetCell.
 void SetGridCell(Grid& grid, int row, int column, std::string_view text, Align align, bool bold,
                  bool italic, std::optional<Colour> backColour = std::nullopt);
+void SetGridCell(Grid& grid, int row, int column, const util::Figure& figure, Align align,
+                 bool bold, bool italic, std::optional<Colour> backColour = std::nullopt);
 
 }  // namespace kelvra::controls

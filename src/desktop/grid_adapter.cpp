@@ -181,11 +181,11 @@ void GridAdapter::ShowHeading(int column) {
         item = new QTableWidgetItem;
         widget_.setHorizontalHeaderItem(column, item);
     }
-    const QFont font = FontOf(widget_.font(), cell.bold, cell.italic);
-    const QString text = Shown(cell.text).replace("\r\n", "\n");
+    const QFont font = FontOf(widget_.font(), cell.look.bold, cell.look.italic);
+    const QString text = Shown(cell.Text()).replace("\r\n", "\n");
     item->setText(text);
     item->setFont(font);
-    item->setTextAlignment(ToolkitAlign(cell.align));
+    item->setTextAlignment(ToolkitAlign(cell.look.align));
     if (grid_.FixedBack.Get()) item->setBackground(ToolkitColour(*grid_.FixedBack.Get()));
     Widen(column, text, font);
 }
@@ -197,12 +197,13 @@ void GridAdapter::ShowCell(int row, int column) {
         item = new QTableWidgetItem;
         widget_.setItem(row - 1, column, item);
     }
-    const QString text = Shown(cell.text);
+    const QString text = Shown(cell.Text());
     if (item->text() != text) item->setText(text);
-    if (const QFont font = FontOf(widget_.font(), cell.bold, cell.italic); item->font() != font)
+    if (const QFont font = FontOf(widget_.font(), cell.look.bold, cell.look.italic);
+        item->font() != font)
         item->setFont(font);
-    item->setTextAlignment(ToolkitAlign(cell.align));
-    const auto& back = cell.back ? cell.back : grid_.Back.Get();
+    item->setTextAlignment(ToolkitAlign(cell.look.align));
+    const auto& back = cell.look.back ? cell.look.back : grid_.Back.Get();
     if (back && item->background().color() != ToolkitColour(*back))
         item->setBackground(ToolkitColour(*back));
     item->setForeground(Qt::black);

@@ -3,12 +3,11 @@
 #include <QSocketNotifier>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 
 #include "desktop/desktop.h"
 #include "options/options.h"
-#include "options/version.h"
+#include "options/surroundings.h"
 #include "platform/native.h"
 
 namespace {
@@ -51,31 +50,19 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
                      [&kelvra](QSessionManager&) { kelvra.MFileExit_Click(); });
 }
 
-std::uint64_t AnySeed() {
-    std::random_device device;
-    return (std::uint64_t{device()} << 32) | device();
-}
-
 int Run(QApplication& application, const options::Options& chosen) {
-    const auto files = platform::NativeFiles();
-    const auto nativeClock = platform::NativeClock();
-    std::unique_ptr<platform::SetClock> setClock;
-    if (chosen.clock) setClock = std::make_unique<platform::SetClock>(*chosen.clock);
-    platform::Clock& clock = setClock ? static_cast<platform::Clock&>(*setClock) : *nativeClock;
-    std::error_code folderError;
-    const auto computer = platform::NativeComputer(
-        *files, {chosen.dataDir, chosen.driverDir, chosen.words, options::Version}, folderError);
-    const std::string folder = computer->ProgramFolder();
-    if (!folderError && !files->Writable(folder))
+    options::Surroundings surroundings(chosen, chosen.words);
+    const std::string folder = surroundings.Computer().ProgramFolder();
+    std::error_code folderError = surroundings.DataFolderError();
+    if (!folderError && !surroundings.Files().Writable(folder))
         folderError = std::make_error_code(std::errc::permission_denied);
     if (folderError) {
         Complain("kelvra: the data folder " + folder + " can't be used: " + folderError.message());
         return NoDataFolder;
     }
-    desktop::QtEvents events(setClock.get());
+    desktop::QtEvents events(surroundings.Clock(), surroundings.OwnClock());
     desktop::QtDialogs dialogs;
-    util::Random random(chosen.seed ? *chosen.seed : AnySeed());
-    platform::Host host{events, dialogs, clock, *files, *computer, random};
+    platform::Host host = surroundings.HostWith(events, dialogs);
     app::Kelvra kelvra(host);
     desktop::Desktop desktop(kelvra, dialogs, folder);
     ExitWhenAsked(application, kelvra);

@@ -2,7 +2,8 @@
 #include "desktop/qt_events.h"
 
 #include <QCoreApplication>
-#include <QTimer>
+#include <QScopedValueRollback>
+#include <algorithm>
 
 namespace kelvra::desktop {
 
@@ -11,47 +12,76 @@ using Steady = std::chrono::steady_clock;
 
 namespace {
 constexpr auto DeliveryInterval = milliseconds(1);
+constexpr auto RoundTime = milliseconds(1);  // on a clock of the program's own
 }  // namespace
 
-QtEvents::~QtEvents() = default;
+QtEvents::QtEvents(platform::Clock& clock, platform::SetClock* setClock)
+    : clock_(clock), setClock_(setClock) {
+    for (QTimer* timer : {&due_, &patience_}) {
+        timer->setSingleShot(true);
+        timer->setTimerType(Qt::PreciseTimer);
+    }
+    QObject::connect(&due_, &QTimer::timeout, [this] {
+        const auto next = timers_.NextDue();
+        if (setClock_ != nullptr && !inRound_ && next) setClock_->AdvanceTo(*next);
+        RunTimers();
+    });
+}
 
 void QtEvents::DoEvents(milliseconds patience) {
     if (quit_) return;
-    if (setClock_ != nullptr) setClock_->Advance(milliseconds(1));
-    if (patience <= milliseconds::zero()) {
-        if (Steady::now() - lastDelivery_ < DeliveryInterval) return;
-        QCoreApplication::processEvents();
-    } else {
-        QTimer wake;  // ends the wait when nothing else does
-        wake.setSingleShot(true);
-        wake.start(patience);
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (setClock_ != nullptr) {
+        setClock_->Advance(RoundTime);
+        RunTimers();
     }
+    const bool waits = patience > milliseconds::zero();
+    if (!waits && Steady::now() - lastDelivery_ < DeliveryInterval) return;
+    const QScopedValueRollback round(inRound_, true);
+    Deliver(patience);
     lastDelivery_ = Steady::now();
+}
+
+void QtEvents::Deliver(milliseconds patience) {
+    if (patience <= milliseconds::zero()) {
+        QCoreApplication::processEvents();
+        return;
+    }
+    patience_.start(patience);
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    patience_.stop();
 }
 
 platform::Events::TimerId QtEvents::StartTimer(milliseconds interval,
                                                std::function<void()> handler) {
-    auto timer = std::make_unique<QTimer>();
-    QObject::connect(timer.get(), &QTimer::timeout,
-                     [this, running = false, handler = std::move(handler)]() mutable {
-                         if (running || quit_) return;
-                         running = true;
-                         handler();
-                         running = false;
-                     });
-    timer->start(interval);
-    timers_.emplace(++lastId_, std::move(timer));
-    return lastId_;
+    const TimerId timer = timers_.Start(clock_.Monotonic(), interval, std::move(handler));
+    Arm();
+    return timer;
 }
 
 void QtEvents::StopTimer(TimerId timer) {
-    timers_.erase(timer);
+    timers_.Stop(timer);
+    Arm();
+}
+
+void QtEvents::RunTimers() {
+    timers_.RunDue(clock_.Monotonic());
+    Arm();
+}
+
+void QtEvents::Arm() {
+    const auto next = timers_.NextDue();
+    if (!next) {
+        due_.stop();
+        return;
+    }
+    const platform::Duration left = *next - clock_.Monotonic();
+    due_.start(std::chrono::ceil<milliseconds>(std::max(left, platform::Duration::zero())));
 }
 
 void QtEvents::Quit() {
     quit_ = true;
-    for (const auto& [id, timer] : timers_) timer->stop();
+    timers_.Clear();
+    due_.stop();
     QCoreApplication::exit();  // not quit, which would first ask the windows, and those ask the
                                // rules
 }

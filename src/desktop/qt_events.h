@@ -2,22 +2,20 @@
 // The toolkit's event loop behind the program's interface.
 #pragma once
 
-#include <QObject>
-#include <map>
-#include <memory>
+#include <QTimer>
 
 #include "platform/clock.h"
 #include "platform/events.h"
-
-class QTimer;
+#include "platform/timer_list.h"
 
 namespace kelvra::desktop {
 
 class QtEvents final : public platform::Events {
 public:
-    // With a clock of the program's own (null without), each round counts 1 ms on it.
-    explicit QtEvents(platform::SetClock* setClock) : setClock_(setClock) {}
-    ~QtEvents() override;
+    // `setClock` is null when the computer's clock is used. A clock of the program's own moves 1 ms
+    // a round and, outside rounds, on to the timer that is due next; that timer comes after as much
+    // of a person's time, who would see nothing otherwise.
+    QtEvents(platform::Clock& clock, platform::SetClock* setClock);
 
     // Delivers the toolkit's events. A measurement that runs thousands of passes a second asks far
     // more often than a person can act, so events are delivered at most once in a millisecond.
@@ -29,10 +27,17 @@ public:
     bool HasQuit() const { return quit_; }
 
 private:
+    void Deliver(std::chrono::milliseconds patience);
+    void RunTimers();
+    void Arm();
+
+    platform::Clock& clock_;
     platform::SetClock* setClock_;
-    std::map<TimerId, std::unique_ptr<QTimer>> timers_;
-    TimerId lastId_ = 0;
+    platform::TimerList timers_;
+    QTimer due_;       // for the next of the timers
+    QTimer patience_;  // ends a wait when nothing else does
     std::chrono::steady_clock::time_point lastDelivery_{};
+    bool inRound_ = false;
     bool quit_ = false;
 };
 

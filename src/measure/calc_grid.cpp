@@ -60,7 +60,7 @@ void CalcGrid::LayOut() {
 
 void CalcGrid::Compute() {
     for (int row = 1; row <= FormulaRows; ++row)
-        if (!grid_.At(row, NameColumn).text.empty()) ComputeRow(row);
+        if (!grid_.At(row, NameColumn).Text().empty()) ComputeRow(row);
 }
 
 void CalcGrid::ComputeRow(int row) {
@@ -72,7 +72,7 @@ void CalcGrid::ComputeRow(int row) {
         return;
     }
     const double result = parser.Eval();
-    SetGridCell(grid_, row, ResultColumn, util::FixedText(result, 3, host_.computer.Numbers()),
+    SetGridCell(grid_, row, ResultColumn, util::FixedFigure(result, host_.computer.Numbers()),
                 Align::Left, false, false);
     grid_.SetCellTooltip(row, ResultColumn,
                          parser.Failed() ? std::string_view(parser.ErrorDescription()) : "");
@@ -81,7 +81,7 @@ void CalcGrid::ComputeRow(int row) {
 // An unchanged formula stays compiled.
 parser::MathParser& CalcGrid::EvaluatorOf(int row) {
     Evaluator& evaluator = evaluators_[row - 1];
-    const std::string& formula = grid_.At(row, FormulaColumn).text;
+    const std::string& formula = grid_.At(row, FormulaColumn).Text();
     const bool first = evaluator.parser == nullptr;
     if (first)
         evaluator.parser =
@@ -107,7 +107,7 @@ std::string CalcGrid::BindReadings(parser::MathParser& parser) {
 void CalcGrid::CalcGrid_Click(int row, int column) {
     if (row < 1 || row > FormulaRows) return;
     const std::string answer =
-        host_.dialogs.Prompt("INPUT:", grid_.At(row, column).text).value_or("");
+        host_.dialogs.Prompt("INPUT:", grid_.At(row, column).Text()).value_or("");
     SetGridCell(grid_, row, column, answer, Align::Left, false, false);
 }
 

@@ -24,11 +24,6 @@ bool Cycle::Takes(int slot) const {
     return index < measured_.size() && measured_[index] && p_.table[slot].Present;
 }
 
-void Cycle::DoEvents(milliseconds patience) {
-    p_.host.events.DoEvents(patience);
-    lastRound_ = p_.host.clock.Monotonic();
-}
-
 void Cycle::Pass() {
     pacing_.PassBegins();
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
@@ -37,15 +32,16 @@ void Cycle::Pass() {
         if (!prepared || p_.state.Ending()) return;
     }
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].TriggerNowRequest = false;
-    speed_.Restart();
+    const platform::Duration began = p_.host.clock.Monotonic();
+    speed_.Restart(began);
     Initiate();
     p_.forms.mdiMain.FileSaveData.Enabled = true;
-    Poll();
+    Poll(began);
     if (p_.state.Ending()) return;
     speed_.UpdateSpeedAndBusy();
     Fetch();
     p_.calcGrid.Compute();
-    DoEvents();
+    p_.host.events.DoEvents();
     if (p_.state.exiting) return;
     if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);
     pacing_.WaitForDeadline();
@@ -106,25 +102,27 @@ void Cycle::Initiate() {
     log.OutputDebug("psdrv_chans_initiate -> TeskSession FINISHED");
 }
 
-void Cycle::Poll() {
-    lastNotice_ = p_.host.clock.Monotonic();
+// One reading of the clock serves a round, and the first round has that of the pass.
+void Cycle::Poll(platform::Duration began) {
+    lastNotice_ = began;
     bool allDone = false;
-    while (!allDone && !p_.state.Ending()) {
+    for (platform::Duration now = began; !allDone && !p_.state.Ending();) {
         allDone = true;
         bool progress = false;
         for (int slot = 0; slot < p_.table.Slots(); ++slot) {
             const sensors::SensorEntry& entry = p_.table[slot];
             if (!entry.SessionOpen || entry.MeasPending != 1 || entry.SettingsChanged) continue;
-            const bool complete = PollSlot(slot);
+            const bool complete = PollSlot(slot, now);
             progress = progress || complete;
             allDone = allDone && complete;
         }
-        DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
+        p_.host.events.DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
+        if (!allDone) now = p_.host.clock.Monotonic();
     }
 }
 
-bool Cycle::PollSlot(int slot) {
-    if (!p_.table.SimulationMode && !AskWhetherComplete(slot)) return false;
+bool Cycle::PollSlot(int slot, platform::Duration now) {
+    if (!p_.table.SimulationMode && !AskWhetherComplete(slot, now)) return false;
     sensors::SensorEntry& entry = p_.table[slot];
     entry.MeasPending = 0;
     p_.results.ShowActivity(slot, false);
@@ -132,7 +130,7 @@ bool Cycle::PollSlot(int slot) {
     return true;
 }
 
-bool Cycle::AskWhetherComplete(int slot) {
+bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     driver::InstrumentOperations& op = p_.session.operations;
     driver::DebugIf& log = p_.session.log;
     const driver::Handle handle = p_.session.state.instrumentHandle;
@@ -150,12 +148,11 @@ bool Cycle::AskWhetherComplete(int slot) {
     const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
     if (log.STAT)
         log.OutputDebug(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
-    ShowWaiting(slot, status);
+    ShowWaiting(slot, status, now);
     return complete != 0;
 }
 
-void Cycle::ShowWaiting(int slot, driver::Status status) {
-    const platform::Duration now = p_.host.clock.Monotonic();
+void Cycle::ShowWaiting(int slot, driver::Status status, platform::Duration now) {
     if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.ErrorShown) return;
     std::string text = "Waiting for a trigger signal at sensor " +
                        util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});

@@ -63,19 +63,18 @@ private:
     void ShowSwitch(int slot);
     void ShowStartFailure();
     void ShowIdle();
-    void LetEventsRunIfLate();
+    void LetEventsRunIfLate(platform::Duration& lastRound);
 
     // cycle.cpp
-    void DoEvents(std::chrono::milliseconds patience = {});
     void Pass();
     bool PrepareSlot(int slot);
     void TakeOut(int slot);
     void Configure(int slot);
     void Initiate();
-    void Poll();
-    bool PollSlot(int slot);
-    bool AskWhetherComplete(int slot);
-    void ShowWaiting(int slot, driver::Status status);
+    void Poll(platform::Duration began);
+    bool PollSlot(int slot, platform::Duration now);
+    bool AskWhetherComplete(int slot, platform::Duration now);
+    void ShowWaiting(int slot, driver::Status status, platform::Duration now);
     void Fetch();
     void FetchSlot(int slot);
     void Close();
@@ -88,7 +87,6 @@ private:
     Pacing pacing_;
     std::vector<bool> measured_;  // by slot, as it was at Start
     platform::Duration lastNotice_{};
-    platform::Duration lastRound_{};
 };
 
 }  // namespace kelvra::measure

@@ -42,7 +42,7 @@ void Cycle::StartIt_Click() {
     p_.view.ModesChanged();
     speed_.Reset();
     pacing_.Reset();
-    DoEvents();
+    p_.host.events.DoEvents();
     switch (p_.state.Ending() ? Prepared::Ended : OpenSensors()) {
         case Prepared::Ready:
             OfferSensorCommands(p_.forms.setupForm, false);
@@ -126,6 +126,7 @@ void Cycle::FindModes() {
 
 Cycle::Prepared Cycle::OpenSensors() {
     bool operational = false;
+    platform::Duration lastRound = p_.host.clock.Monotonic();
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) {
             p_.table[slot].SessionOpen = false;
@@ -135,7 +136,7 @@ Cycle::Prepared Cycle::OpenSensors() {
         if (p_.state.Ending()) return Prepared::Ended;
         if (!opened) return Prepared::Failed;
         operational = true;
-        LetEventsRunIfLate();
+        LetEventsRunIfLate(lastRound);
         if (p_.state.Ending()) return Prepared::Ended;
     }
     return operational ? Prepared::Ready : Prepared::Nothing;
@@ -161,8 +162,10 @@ void Cycle::ShowSwitch(int slot) {
     p_.selection.UpdateSensSelect();
 }
 
-void Cycle::LetEventsRunIfLate() {
-    if (p_.host.clock.Monotonic() - lastRound_ > LongestWithoutEvents) DoEvents();
+void Cycle::LetEventsRunIfLate(platform::Duration& lastRound) {
+    if (p_.host.clock.Monotonic() - lastRound <= LongestWithoutEvents) return;
+    p_.host.events.DoEvents();
+    lastRound = p_.host.clock.Monotonic();
 }
 
 void Cycle::ShowStartFailure() {

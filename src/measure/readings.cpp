@@ -50,14 +50,15 @@ void Readings::GetSingleReading(int slot) {
     const util::NumberForm& form = host_.computer.Numbers();
     entry.History.Add(entry.LastReading);
     const double levelDbm = entry.History.LastLevel();
-    results_.SetValue(slot, WattColumn, util::ScientificText(entry.LastReading, form), Align::Left);
-    results_.SetValue(slot, DbmColumn, util::FixedText(levelDbm, 3, form), Align::Left);
+    results_.SetValue(slot, WattColumn, util::ScientificFigure(entry.LastReading, form),
+                      Align::Left);
+    results_.SetValue(slot, DbmColumn, util::FixedFigure(levelDbm, form), Align::Left);
     if (!table_.SimulationMode)
         table_.SlotReadings[static_cast<std::size_t>(slot)] = {entry.LastReading, levelDbm};
-    results_.SetValue(slot, CountColumn, util::TrimmedNumberText(std::int64_t{entry.AvgCountRead}),
+    results_.SetValue(slot, CountColumn, util::CountFigure(entry.AvgCountRead, form),
                       Align::Centre);
     if (const auto sigma = entry.History.Sigma())
-        results_.SetValue(slot, SigmaColumn, util::FixedText(*sigma, 3, form), Align::Centre);
+        results_.SetValue(slot, SigmaColumn, util::FixedFigure(*sigma, form), Align::Centre);
 }
 
 void Readings::FetchScalar(int slot) {

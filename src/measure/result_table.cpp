@@ -73,19 +73,20 @@ void ResultTable::ClearValues(int slot) {
 
 void ResultTable::SetTableMark(int slot, bool scalar) {
     for (const Column column : MarkedColumns)
-        grid_.SetLook(RowOf(slot), column, Align::Left, false, false,
-                      scalar ? controls::White : controls::Grey);
+        grid_.SetLook(RowOf(slot), column,
+                      {Align::Left, false, false, scalar ? controls::White : controls::Grey});
 }
 
-void ResultTable::SetValue(int slot, Column column, std::string_view text, Align align) {
-    SetGridCell(grid_, RowOf(slot), column, text, align, false, false);
+void ResultTable::SetValue(int slot, Column column, const util::Figure& figure, Align align) {
+    SetGridCell(grid_, RowOf(slot), column, figure, align, false, false);
 }
 
 void ResultTable::ShowActivity(int slot, bool waiting) {
-    constexpr std::string_view bars = "||||||||";
-    const auto length = std::clamp<std::size_t>(table_[slot].WaitTicks, 0, bars.size());
-    std::string text(bars.substr(0, length));
-    if (waiting) text += '.';
+    constexpr std::string_view bars = "||||||||.";
+    constexpr int longest = bars.size() - 1;
+    const auto length =
+        static_cast<std::size_t>(std::clamp<int>(table_[slot].WaitTicks, 0, longest));
+    const std::string_view text = bars.substr(longest - length, length + (waiting ? 1 : 0));
     SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Left, true, false);
 }
 

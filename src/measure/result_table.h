@@ -39,7 +39,7 @@ public:
     // Colours the value cells for the kind of result that comes next: scalar on white, array on
     // grey.
     void SetTableMark(int slot, bool scalar);
-    void SetValue(int slot, Column column, std::string_view text, controls::Align align);
+    void SetValue(int slot, Column column, const util::Figure& figure, controls::Align align);
     // The activity bar, with a point while the sensor is waited for.
     void ShowActivity(int slot, bool waiting);
     // What is being done with the sensor ("CONF"), on a colour; empty text on white ends it.

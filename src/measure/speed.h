@@ -15,7 +15,7 @@ public:
 
     void Reset();
     // A pass starts measuring.
-    void Restart() { startedAt_ = host_.clock.Monotonic(); }
+    void Restart(platform::Duration now) { startedAt_ = now; }
     // Its measurements are complete.
     void UpdateSpeedAndBusy();
 

@@ -14,6 +14,7 @@ class TimerList {
 public:
     Events::TimerId Start(Duration now, Duration interval, std::function<void()> handler);
     void Stop(Events::TimerId timer);
+    void Clear() { timers_.clear(); }
 
     // Runs each timer that is due and not running already, once, in the order in which they fell
     // due. Ticks that were missed meanwhile are dropped.

@@ -129,7 +129,7 @@ TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {
     expect("", "SensSim1SensSim2......");
     Switch(0);
     expect("", "SensSim1-SensSim2......");
-    EXPECT_EQ(Cell(0, 0).back, controls::Grey);
+    EXPECT_EQ(Cell(0, 0).look.back, controls::Grey);
     expect("AB", "AB-");
     Switch(1);
     expect("A", "A.......");
@@ -144,7 +144,7 @@ TEST_F(StartupTest, ANameOfTheDeviceListIsTakenOverAndNoneIsTheChannel) {
     driver.devices[0].name = "new";
     Tick();
     EXPECT_EQ(Slots(), "new2");
-    EXPECT_EQ(Cell(0, 0).text, "new");
+    EXPECT_EQ(Cell(0, 0).Text(), "new");
 }
 
 }  // namespace kelvra::app

@@ -98,15 +98,34 @@ TEST_F(Controls, GridGrowsToTheCellAndKeepsWhatItHas) {
     SetGridCell(window.grid, 4, 2, "new", Align::Left, false, false);
     EXPECT_EQ(window.grid.Rows(), 5);
     EXPECT_EQ(window.grid.Columns(), 3);
-    EXPECT_EQ(window.grid.At(4, 2).text, "new");
+    EXPECT_EQ(window.grid.At(4, 2).Text(), "new");
     SetGridCell(window.grid, 1, 1, "kept too", Align::Left, false, false);
-    EXPECT_EQ(window.grid.At(1, 1).text, "kept too");
-    EXPECT_EQ(window.grid.At(1, 1).back, Cyan);
+    EXPECT_EQ(window.grid.At(1, 1).Text(), "kept too");
+    EXPECT_EQ(window.grid.At(1, 1).look.back, Cyan);
     SetGridCell(window.grid, -1, 0, "nowhere", Align::Left, false, false);
     EXPECT_EQ(window.grid.Rows(), 5);
     window.grid.SetRows(2);
     EXPECT_EQ(window.grid.TakeChangedCells(), (std::vector<std::pair<int, int>>{{1, 1}}));
     EXPECT_TRUE(window.grid.TakeChangedCells().empty());
+}
+
+TEST_F(Controls, CellShowsWhatWasWrittenLastBeItTextOrFigure) {
+    const util::NumberForm form{",", ""};
+    const auto write = [&](const auto& content) {
+        SetGridCell(window.grid, 1, 1, content, Align::Left, false, false);
+        return !window.grid.TakeChangedCells().empty();
+    };
+    const auto shown = [&] { return window.grid.At(1, 1).Text(); };
+    EXPECT_TRUE(write(util::FixedFigure(-1.5, form)));
+    EXPECT_FALSE(write(util::FixedFigure(-1.5, form)));
+    EXPECT_EQ(shown(), "-1,500");
+    EXPECT_TRUE(write(util::ScientificFigure(-1.5, form)));
+    EXPECT_EQ(shown(), "-1,5000E+00");
+    EXPECT_TRUE(write(util::CountFigure(64, form)));
+    EXPECT_TRUE(write(std::string_view("")));
+    EXPECT_EQ(shown(), "");
+    EXPECT_TRUE(write(util::CountFigure(64, form)));
+    EXPECT_EQ(shown(), "64");
 }
 
 TEST_F(Controls, ChangedControlIsListedOnceUntilTaken) {

@@ -100,7 +100,7 @@ private slots:
         RunningDesktop running(data);
         auto& grid = running.Find<GridWidget>("CalcGrid");
         AnswerFormula(running, "X1dB");
-        QCOMPARE(running.kelvra.forms.mdiMain.CalcGrid.At(1, 1).text, "X1dB");
+        QCOMPARE(running.kelvra.forms.mdiMain.CalcGrid.At(1, 1).Text(), "X1dB");
         QVERIFY(MeasureUntilShown(running, grid, 2, [&] { running.Click("StopIt"); }));
         running.desktop.Painter().Flush();
         QCOMPARE(Cell(grid, 0, 1), "X1dB");

@@ -11,7 +11,7 @@
 #include <memory>
 
 #include "desktop/desktop.h"
-#include "platform/native.h"
+#include "options/surroundings.h"
 
 namespace kelvra::desktop {
 
@@ -42,9 +42,9 @@ inline void ClickCell(QTableWidget& table, int row, int column) {
 class RunningDesktop {
 public:
     explicit RunningDesktop(const QTemporaryDir& data)
-        : computer_(platform::NativeComputer(
-              *files_, {data.path().toStdString(), drivers_.path().toStdString(), {}, {}}, error_)),
-          host_{events, dialogs_, *clock_, *files_, *computer_, random_},
+        : surroundings_(
+              {drivers_.path().toStdString(), data.path().toStdString(), {}, 1, false, {}}, {}),
+          host_(surroundings_.HostWith(events, dialogs_)),
           kelvra(host_),
           desktop(kelvra, dialogs_, data.path().toStdString()) {
         kelvra.Start();
@@ -66,15 +66,11 @@ public:
 
 private:
     QTemporaryDir drivers_;
-    std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
-    std::unique_ptr<platform::Clock> clock_ = platform::NativeClock();
-    std::error_code error_;
-    std::unique_ptr<platform::Computer> computer_;
+    options::Surroundings surroundings_;
     QtDialogs dialogs_;
-    util::Random random_{1};
 
 public:
-    QtEvents events{nullptr};
+    QtEvents events{surroundings_.Clock(), nullptr};
 
 private:
     platform::Host host_;

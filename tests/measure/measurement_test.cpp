@@ -60,7 +60,7 @@ TEST_F(MeasurementTest, AClickOnAPresentSensorsNameSwitchesItAndNothingElseDoes)
     for (const auto& [row, column, enabled] : clicks) {
         Click(row, column);
         EXPECT_EQ(program->table[0].Enabled, enabled) << row << column;
-        EXPECT_EQ(Cell(0, NameColumn).back, enabled ? Green : Grey);
+        EXPECT_EQ(Cell(0, NameColumn).look.back, enabled ? Green : Grey);
         EXPECT_FALSE(program->table[1].Enabled);
     }
 }
@@ -111,11 +111,11 @@ TEST_F(MeasurementTest, AReadingIsShownWhateverItIs) {
         driver.reading = reading;
         driver.averagingCount = count;
         Measure(35);
-        EXPECT_EQ(Cell(0, WattColumn).text, watts);
-        EXPECT_EQ(Cell(0, DbmColumn).text, dbm);
-        EXPECT_EQ(Cell(0, CountColumn).text, std::to_string(count));
-        EXPECT_EQ(Cell(0, SigmaColumn).text, std::isfinite(reading) ? "0.000" : "NaN");
-        EXPECT_EQ(Cell(0, WattColumn).back, controls::White);
+        EXPECT_EQ(Cell(0, WattColumn).Text(), watts);
+        EXPECT_EQ(Cell(0, DbmColumn).Text(), dbm);
+        EXPECT_EQ(Cell(0, CountColumn).Text(), std::to_string(count));
+        EXPECT_EQ(Cell(0, SigmaColumn).Text(), std::isfinite(reading) ? "0.000" : "NaN");
+        EXPECT_EQ(Cell(0, WattColumn).look.back, controls::White);
     }
     driver.reading = 0.001;
     Measure(1);
@@ -139,7 +139,7 @@ TEST_F(MeasurementTest, AnArrayHasAsManyValuesAsCame) {
             ASSERT_EQ(results.size(), kept) << values;
             EXPECT_EQ(results[0], values > 0 ? 0.5 : 0);
         }
-        EXPECT_EQ(Cell(0, WattColumn).back, controls::Grey);
+        EXPECT_EQ(Cell(0, WattColumn).look.back, controls::Grey);
     }
 }
 

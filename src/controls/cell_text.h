@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a grid cell says: a text, or a figure whose text is made when it is first read.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "util/figure.h"
+
+namespace kelvra::controls {
+
+class CellText {
+public:
+    // True when it was another one. Two figures count as different even if they look the same.
+    bool Set(std::string_view text);
+    bool Set(const util::Figure& figure);
+
+    const std::string& Get() const;
+
+private:
+    std::optional<util::Figure> figure_;
+    mutable std::string text_;
+    mutable bool made_ = true;  // the text is that of the figure
+};
+
+}  // namespace kelvra::controls
