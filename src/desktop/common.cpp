@@ -8,6 +8,7 @@ namespace kelvra::desktop {
 namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int DarkBelow = 110;  // of 255, as the eye weighs it
+constexpr const char* OwnTooltip = "ownTooltip";
 }  // namespace
 
 QColor ToolkitColour(controls::Colour colour) {
@@ -46,9 +47,14 @@ void UpdateCommon(QWidget& widget, const controls::Control& control) {
     // What isn't in its window yet comes into sight with it; shown alone it would be a window.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.Visible) widget.setVisible(control.Visible);
-    const QString tooltip = Shown(control.Tooltip.Get());
-    if (!tooltip.isEmpty() && widget.toolTip() != tooltip) widget.setToolTip(tooltip);
+    const QString tooltip = control.Tooltip->empty() ? widget.property(OwnTooltip).toString()
+                                                     : Shown(control.Tooltip.Get());
+    if (widget.toolTip() != tooltip) widget.setToolTip(tooltip);
     UpdateColours(widget, control);
+}
+
+void SetOwnTooltip(QWidget& widget, const QString& text) {
+    widget.setProperty(OwnTooltip, text);
 }
 
 void Describe(QWidget& widget, const QString& name) {

@@ -20,6 +20,9 @@ int Twips(int pixels);
 // Enabled, visible, tooltip, background and text colour. A dark background gets white text.
 void UpdateCommon(QWidget& widget, const controls::Control& control);
 
+// The tooltip while the control has none.
+void SetOwnTooltip(QWidget& widget, const QString& text);
+
 // For screen readers: what the control is, in words, where its caption doesn't say it.
 void Describe(QWidget& widget, const QString& name);
 

@@ -7,13 +7,9 @@ Desktop::Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dat
     : preferences_(dataFolder),
       mirror_(kelvra.forms.changes),
       main_(kelvra.forms.mdiMain, mirror_),
-      results_(kelvra.forms.statusForm, mirror_, main_.Area()) {
+      results_(kelvra.forms.statusForm, mirror_, main_.Area()),
+      zoom_(preferences_, main_.WindowMenu(), {&results_.Table(), &main_.Formulas()}) {
     dialogs.SetParent(&main_.Widget());
-    results_.SetZoom(preferences_.TableZoom());
-    results_.Table().onZoom = [this](int steps) {
-        results_.SetZoom(steps);
-        preferences_.SetTableZoom(steps);
-    };
 }
 
 }  // namespace kelvra::desktop

@@ -11,6 +11,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_events.h"
 #include "desktop/result_window_view.h"
+#include "desktop/zoom.h"
 
 namespace kelvra::desktop {
 
@@ -28,6 +29,7 @@ private:
     Mirror mirror_;
     MainWindowView main_;
     ResultWindowView results_;
+    Zoom zoom_;
 };
 
 }  // namespace kelvra::desktop

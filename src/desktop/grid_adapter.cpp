@@ -17,7 +17,7 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int LeastZoom = -3;
-constexpr int MostZoom = 24;
+constexpr int MostZoom = 12;
 constexpr qreal ZoomStep = 1.15;
 constexpr int CellMargin = 16;  // pixels beside a text
 
@@ -63,11 +63,7 @@ void GridWidget::SetZoom(int steps) {
     zoomed.setPointSizeF(normalSize_ * std::pow(ZoomStep, zoom_));
     setFont(zoomed);
     horizontalHeader()->setFont(zoomed);
-}
-
-void GridWidget::ChangeZoom(int steps) {
-    SetZoom(steps);
-    if (onZoom) onZoom(zoom_);
+    if (onFont) onFont();
 }
 
 void GridWidget::Activate() {
@@ -102,15 +98,6 @@ QString GridWidget::SelectedText() const {
 void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         QApplication::clipboard()->setText(SelectedText());
-    } else if (event->matches(QKeySequence::ZoomIn) ||
-               // "+" is a shifted "=" on many keyboards.
-               (event->modifiers().testFlag(Qt::ControlModifier) &&
-                (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal))) {
-        ChangeZoom(zoom_ + 1);
-    } else if (event->matches(QKeySequence::ZoomOut)) {
-        ChangeZoom(zoom_ - 1);
-    } else if (event->key() == Qt::Key_0 && event->modifiers() == Qt::ControlModifier) {
-        ChangeZoom(0);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                event->key() == Qt::Key_Space) {
         Activate();
@@ -124,7 +111,8 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    ChangeZoom(zoom_ + (event->angleDelta().y() > 0 ? 1 : -1));
+    SetZoom(zoom_ + (event->angleDelta().y() > 0 ? 1 : -1));
+    if (onWheel) onWheel();
     event->accept();
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The adapter of a grid: a table whose heading is the grid's row 0. Only cells that have changed
 // are touched. A person presses and clicks cells with the mouse, or with Enter and Space on the
-// keyboard, copies the selected ones with Ctrl+C, and enlarges the font with Ctrl and "+", "-", "0"
-// or the wheel.
+// keyboard, copies the selected ones with Ctrl+C, and enlarges the font with Ctrl and the wheel.
 #pragma once
 
 #include <QTableWidget>
@@ -19,10 +18,11 @@ class GridWidget final : public QTableWidget {
 public:
     explicit GridWidget(controls::Grid& grid, QWidget* parent = nullptr);
 
-    // Steps of the font's size, 0 is the normal one; told when a person changes it.
+    // Steps of the font's size, 0 is the normal one.
     void SetZoom(int steps);
     int Zoom() const { return zoom_; }
-    std::function<void(int steps)> onZoom;
+    std::function<void()> onFont;   // it has another size
+    std::function<void()> onWheel;  // by a person's wheel
 
     // All rows and columns without scrolling.
     QSize sizeHint() const override;
@@ -35,7 +35,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void ChangeZoom(int steps);
     void Activate();
 
     controls::Grid& grid_;

@@ -16,12 +16,17 @@ namespace kelvra::desktop {
 namespace {
 constexpr int ToolIcon = 28;  // logical pixels
 constexpr int IndicatorIcon = 20;
+constexpr int NoticeLines = 2;  // room for the usual ones, so that the strip does not jump
 constexpr int LeastFormulaWidth = 200;
 constexpr int FormulaColumn = 1;
 }  // namespace
 
 MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
-    : form_(form), mirror_(mirror), widget_(form), area_(new QMdiArea) {
+    : form_(form),
+      mirror_(mirror),
+      widget_(form),
+      area_(new QMdiArea),
+      formulas_(new GridWidget(form.CalcGrid)) {
     BuildMenus();
     auto* top = new QHBoxLayout;
     top->setSpacing(0);
@@ -63,6 +68,7 @@ void MainWindowView::BuildMenus() {
     for (const auto& entry : entries) {
         if (entry.item.Parent() == &form_) {
             menu = widget_.menuBar()->addMenu(entry.text);
+            if (&entry.item == &form_.MenueWindow) windowMenu_ = menu;
             continue;
         }
         if (entry.item.IsSeparator()) {
@@ -95,7 +101,7 @@ QPushButton* MainWindowView::MakeButton(controls::Button& button, const char* te
     if (*shortcut != '\0') {
         // Beside the underlined letter, which the button's own shortcut would replace.
         new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->animateClick(); });
-        widget->setToolTip(QString(text).remove('&') + " (" + shortcut + ")");
+        SetOwnTooltip(*widget, QString(text).remove('&') + " (" + shortcut + ")");
     }
     Describe(*widget, QString(text).remove('&'));
     mirror_.Add(button, std::make_unique<ButtonAdapter>(button, *widget));
@@ -159,6 +165,7 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     inside->setContentsMargins(0, 0, 0, 0);
     QLabel* text = MakeLabel(form_.lblMeasAwait);
     text->setWordWrap(true);
+    text->setMinimumHeight(NoticeLines * QFontMetrics(text->font()).lineSpacing());
     inside->addWidget(text);
     mirror_.Add(form_.ConnectedFrame,
                 std::make_unique<FrameAdapter>(form_.ConnectedFrame, *notice));
@@ -177,22 +184,21 @@ QWidget* MainWindowView::BuildFormulas() {
     auto* innerLayout = new QVBoxLayout(inner);
     outerLayout->setContentsMargins(0, 0, 0, 0);
     outerLayout->addWidget(inner);
-    auto* grid = new GridWidget(form_.CalcGrid);
     // The formulas are always in sight, and take no more room than that.
-    grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    grid->setObjectName("CalcGrid");
-    Describe(*grid, "Calculated values");
-    innerLayout->addWidget(grid);
+    formulas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    formulas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    formulas_->setObjectName("CalcGrid");
+    Describe(*formulas_, "Calculated values");
+    innerLayout->addWidget(formulas_);
     outer->setMinimumWidth(LeastFormulaWidth);
     mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
-    auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *grid);
-    grid->onZoom = [shown = adapter.get()](int) { shown->FitColumns(); };
+    auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *formulas_);
+    formulas_->onFont = [shown = adapter.get()] { shown->FitColumns(); };
     mirror_.Add(form_.CalcGrid, std::move(adapter));
     // Where room is short the formula gives way: names and results are what is read.
-    grid->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
+    formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;
 }
 

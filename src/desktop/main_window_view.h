@@ -13,6 +13,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace kelvra::desktop {
@@ -23,6 +24,9 @@ public:
 
     FrameWindow& Widget() { return widget_; }
     QMdiArea& Area() { return *area_; }
+    GridWidget& Formulas() { return *formulas_; }
+    // For entries of the front end's own.
+    QMenu& WindowMenu() { return *windowMenu_; }
 
 private:
     void BuildMenus();
@@ -39,6 +43,8 @@ private:
     Mirror& mirror_;
     FrameWindow widget_;
     QMdiArea* area_;
+    GridWidget* formulas_;
+    QMenu* windowMenu_ = nullptr;
 };
 
 }  // namespace kelvra::desktop

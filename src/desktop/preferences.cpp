@@ -6,18 +6,22 @@
 namespace kelvra::desktop {
 
 namespace {
-constexpr const char* ZoomKey = "ResultTable/Zoom";
+
+QString ZoomKey(const QString& table) {
+    return table + "/Zoom";
+}
+
 }  // namespace
 
 Preferences::Preferences(const std::string& dataFolder)
     : settings_(Shown(dataFolder) + "/Desktop.ini", QSettings::IniFormat) {}
 
-int Preferences::TableZoom() const {
-    return settings_.value(ZoomKey, 0).toInt();
+int Preferences::Zoom(const QString& table) const {
+    return settings_.value(ZoomKey(table), 0).toInt();
 }
 
-void Preferences::SetTableZoom(int steps) {
-    settings_.setValue(ZoomKey, steps);
+void Preferences::SetZoom(const QString& table, int steps) {
+    settings_.setValue(ZoomKey(table), steps);
 }
 
 }  // namespace kelvra::desktop

@@ -12,9 +12,9 @@ class Preferences {
 public:
     explicit Preferences(const std::string& dataFolder);
 
-    // Steps of the result table's font; 0 is the normal size.
-    int TableZoom() const;
-    void SetTableZoom(int steps);
+    // Steps of a table's font; 0 is the normal size.
+    int Zoom(const QString& table) const;
+    void SetZoom(const QString& table, int steps);
 
 private:
     QSettings settings_;

@@ -28,15 +28,13 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
     adapter_ = adapter.get();
     adapter_->onGrowth = [this] { FitWindow(); };
+    table_->onFont = [this] {
+        adapter_->FitColumns();
+        FitWindow();
+    };
     mirror.Add(form.SensorFrame, std::make_unique<FrameAdapter>(form.SensorFrame, *frame));
     mirror.Add(form.ResultGrid, std::move(adapter));
     mirror.Add(form, std::make_unique<ChildWindowAdapter>(form, *window_));
-    FitWindow();
-}
-
-void ResultWindowView::SetZoom(int steps) {
-    table_->SetZoom(steps);
-    adapter_->FitColumns();
     FitWindow();
 }
 

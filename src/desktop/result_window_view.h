@@ -16,8 +16,6 @@ public:
     ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area);
 
     GridWidget& Table() { return *table_; }
-    // Gives the table's font another size, and the window the room for it.
-    void SetZoom(int steps);
 
 private:
     void FitWindow();

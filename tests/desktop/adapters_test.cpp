@@ -5,6 +5,7 @@
 #include "desktop/common.h"
 #include "desktop/mirror.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/qt_events.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -114,16 +115,6 @@ private slots:
         }
     }
 
-    void ACheckMarkIsTheRecordsAndNotTheActions() {
-        Room room;
-        controls::MenuItem item(room.window, "M", "Old");
-        QAction action;
-        action.setCheckable(true);
-        MenuItemAdapter adapter(item, action);
-        action.trigger();  // no rule answers
-        QVERIFY(!action.isChecked());
-    }
-
     void LabelsPicturesAndFramesShowTheirRecords() {
         Room room;
         controls::Label label(room.window, "L");
@@ -151,16 +142,27 @@ private slots:
         QVERIFY(pictureWidget.pixmap().toImage() != first);
         QVERIFY(!frameWidget.isVisibleTo(&parent));
         label.Fore = controls::Red;
+        label.Tooltip = "";
         frame.Visible = true;
         room.mirror.Flush();
         QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(255, 0, 0));
+        QCOMPARE(labelWidget.toolTip(), "");
         QVERIFY(frameWidget.isVisibleTo(&parent));
     }
 
-    void ColoursComeInBlueGreenRedOrder() {
-        QCOMPARE(ToolkitColour(controls::Red), QColor(255, 0, 0));
-        QCOMPARE(ToolkitColour(controls::DarkBlue), QColor(0, 0, 0xC0));
-        QCOMPARE(ToolkitColour(0xFF123456), QColor(0x56, 0x34, 0x12));
+    void AClockOfItsOwnMovesOnToTheNextTimerAndWithTheRounds() {
+        platform::SetClock clock({2005, 3, 7, 12, 0, 0, 0});
+        QtEvents events(clock, &clock);
+        int ticks = 0;
+        events.StartTimer(std::chrono::milliseconds(20), [&] { ++ticks; });
+        for (int i = 0; ticks == 0 && i < 1000; ++i)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCOMPARE(clock.Monotonic(), platform::Duration(std::chrono::milliseconds(20)));
+        for (int round = 1; round <= 20; ++round) {
+            QCOMPARE(ticks, 1);
+            events.DoEvents({});
+        }
+        QCOMPARE(ticks, 2);
     }
 
     void FileFiltersAreTranslatedPairByPair() {

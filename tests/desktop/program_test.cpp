@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSettings>
 
 #include "desktop/common.h"
 #include "desktop/running_desktop.h"
@@ -135,22 +134,34 @@ private slots:
         }
     }
 
-    void ZoomIsKeptForTheNextRun() {
+    void KeysZoomTheTableWithTheFocusAndTheNextRunKeepsIt() {
         const QTemporaryDir data;
-        qreal normal = 0;
+        const struct {
+            Qt::Key key;
+            Qt::KeyboardModifiers with;
+            int zoom;
+        } cases[] = {
+            {Qt::Key_Plus, {}, 1},   {Qt::Key_Plus, Qt::KeypadModifier, 2},
+            {Qt::Key_Equal, {}, 3},  {Qt::Key_0, {}, 0},
+            {Qt::Key_Minus, {}, -1}, {Qt::Key_0, {}, 0},
+            {Qt::Key_Equal, {}, 1},
+        };
         {
             RunningDesktop running(data);
-            normal = running.Results().font().pointSizeF();
+            running.Start().setFocus();
             const int width = running.Results().columnWidth(1);
-            for (int i = 0; i < 3; ++i)
-                QTest::keyClick(&running.Results(), Qt::Key_Plus, Qt::ControlModifier);
+            for (const auto& c : cases) {
+                QTest::keyClick(&running.Main(), c.key, c.with | Qt::ControlModifier);
+                QCOMPARE(running.Results().Zoom(), c.zoom);
+            }
             QVERIFY(running.Results().columnWidth(1) > width);
+            running.Find<GridWidget>("CalcGrid").setFocus();
+            for (int i = 0; i < 2; ++i)
+                QTest::keyClick(&running.Main(), Qt::Key_Plus, Qt::ControlModifier);
         }
-        const QSettings kept(data.filePath("Desktop.ini"), QSettings::IniFormat);
-        QCOMPARE(kept.value("ResultTable/Zoom").toInt(), 3);
         RunningDesktop running(data);
-        QCOMPARE(running.Results().Zoom(), 3);
-        QVERIFY(running.Results().font().pointSizeF() > normal);
+        QCOMPARE(running.Results().Zoom(), 1);
+        QCOMPARE(running.Find<GridWidget>("CalcGrid").Zoom(), 2);
     }
 
     void ClosingTheWindowEndsAMeasurementInOrder() {
