@@ -170,9 +170,11 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     mirror_.Add(form_.ConnectedFrame,
                 std::make_unique<FrameAdapter>(form_.ConnectedFrame, *notice));
     // The row keeps its height while the notice comes and goes.
-    QSizePolicy policy = notice->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    notice->setSizePolicy(policy);
+    for (QWidget* hidden : {static_cast<QWidget*>(notice), static_cast<QWidget*>(text)}) {
+        QSizePolicy policy = hidden->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        hidden->setSizePolicy(policy);
+    }
     row->addWidget(notice, 1);
     return row;
 }

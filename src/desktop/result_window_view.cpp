@@ -11,7 +11,7 @@
 namespace kelvra::desktop {
 
 ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area)
-    : window_(new ChildWindow(form)), table_(new GridWidget(form.ResultGrid)) {
+    : window_(new ChildWindow(form, area)), table_(new GridWidget(form.ResultGrid)) {
     auto* frame = new QFrame;
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(4, 4, 4, 4);
@@ -19,7 +19,6 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     table_->setObjectName("ResultGrid");
     Describe(*table_, "Results");
     window_->setWidget(frame);
-    area.addSubWindow(window_);
     // Without a close button: there is no way to bring it back.
     window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowMinMaxButtonsHint);
@@ -38,18 +37,15 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     FitWindow();
 }
 
-// All columns and rows are in sight, as far as the area has room; the window grows and never
-// shrinks. Later, in one go: a table that fills itself asks often, and has its sizes when it is
-// laid out.
+// All columns and rows are in sight, as far as the area has room. Later, in one go: a table that
+// fills itself asks often, and has its sizes when it is laid out.
 void ResultWindowView::FitWindow() {
     if (fitting_) return;
     fitting_ = true;
     QTimer::singleShot(0, window_, [this] {
         fitting_ = false;
         const QSize lacking = (table_->sizeHint() - table_->size()).expandedTo({0, 0});
-        const QSize area = window_->mdiArea()->viewport()->size();
-        const QSize room = area - QSize(window_->x(), window_->y());
-        window_->resize((window_->size() + lacking).boundedTo(room.expandedTo(window_->size())));
+        window_->ResizeInside(window_->size() + lacking);
     });
 }
 

@@ -56,8 +56,22 @@ QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
     return wanted;
 }
 
-ChildWindow::ChildWindow(controls::Window& window) : window_(window) {
+ChildWindow::ChildWindow(controls::Window& window, QMdiArea& area) : window_(window), area_(area) {
+    area.addSubWindow(this);
     setAttribute(Qt::WA_DeleteOnClose, false);
+    area.viewport()->installEventFilter(this);
+}
+
+void ChildWindow::ResizeInside(const QSize& wanted) {
+    if (isMaximized() || isMinimized()) return;
+    const QSize room = area_.viewport()->size() - QSize(x(), y());
+    resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
+}
+
+bool ChildWindow::eventFilter(QObject* object, QEvent* event) {
+    if (object == area_.viewport() && event->type() == QEvent::Resize && isVisible())
+        ResizeInside(size());
+    return QMdiSubWindow::eventFilter(object, event);
 }
 
 bool ChildWindow::focusNextPrevChild(bool next) {

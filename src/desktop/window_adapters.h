@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 
 #include "controls/kinds.h"
@@ -44,16 +45,23 @@ private:
 // A window inside the frame. It is never smaller than what is in it needs.
 class ChildWindow final : public QMdiSubWindow {
 public:
-    explicit ChildWindow(controls::Window& window);
+    // Puts itself into the area.
+    ChildWindow(controls::Window& window, QMdiArea& area);
+
+    // As far as the area has room, and never smaller than it can be.
+    void ResizeInside(const QSize& wanted);
 
 protected:
     // The Tab key walks through the whole frame, in and out of the windows inside it.
     bool focusNextPrevChild(bool next) override;
+    // When the area becomes smaller, so does a window that would be cut.
+    bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     controls::Window& window_;
+    QMdiArea& area_;
 };
 
 class ChildWindowAdapter final : public Adapter {

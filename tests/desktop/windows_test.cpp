@@ -61,6 +61,15 @@ private slots:
         QCOMPARE(shown.widgets, QList<QWidget*>{&running.Main()});
     }
 
+    void ASmallerFrameCutsNoWindowInsideIt() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& inside = running.Find<QMdiSubWindow>("");
+        running.Main().resize(running.Main().minimumSizeHint() + QSize(0, 60));
+        QCoreApplication::processEvents();
+        QVERIFY(inside.mdiArea()->viewport()->rect().contains(inside.geometry()));
+    }
+
     void EveryWidgetThatTakesFocusSaysWhatItIs() {
         const QTemporaryDir data;
         RunningDesktop running(data);
