@@ -66,13 +66,6 @@ const driver::DeviceListEntry* Discovery::DeviceOf(const SensorEntry& entry) con
     return found == devices.end() ? nullptr : &*found;
 }
 
-std::vector<SensorEntry*> Discovery::Present() {
-    std::vector<SensorEntry*> present;
-    for (int slot = 0; slot < p_.table.Slots(); ++slot)
-        if (p_.table[slot].Present) present.push_back(&p_.table[slot]);
-    return present;
-}
-
 std::vector<bool> Discovery::EnabledSlots() const {
     std::vector<bool> enabled;
     for (const SensorEntry& entry : p_.table.Sensors) enabled.push_back(entry.Enabled);
@@ -83,7 +76,7 @@ std::vector<bool> Discovery::EnabledSlots() const {
 void Discovery::SaveWhatHasGone() {
     const sensors::TableLock lock(p_.table);
     std::vector<SensorEntry*> known;
-    for (SensorEntry* entry : Present())
+    for (SensorEntry* entry : p_.table.Present())
         if (!entry->SensorId.empty()) known.push_back(entry);
     const auto gone = [&](const SensorEntry* entry) { return DeviceOf(*entry) == nullptr; };
     if (std::none_of(known.begin(), known.end(), gone)) return;
@@ -113,7 +106,7 @@ void Discovery::SizeTable() {
 void Discovery::RealSensors() {
     measure::OfferSensorCommands(p_.forms.setupForm, true);
     if (p_.table.SimulationMode) {
-        for (SensorEntry* entry : Present()) sensors::ReleaseSlot(*entry);
+        for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
         p_.table.DeviceTableChanged = true;
         presenceChanged_ = true;
     }
@@ -211,7 +204,7 @@ void Discovery::EnterSimulation() {
 }
 
 void Discovery::SwitchPresentOn() {
-    for (SensorEntry* entry : Present())
+    for (SensorEntry* entry : p_.table.Present())
         if (!p_.table.SwitchedOff(*entry)) entry->Enabled = true;
     p_.table.DeviceTableChanged = false;
     changed_ = true;
@@ -221,7 +214,7 @@ void Discovery::SwitchPresentOn() {
 // stays it, in whatever slot it is found again.
 void Discovery::ReleasePresent() {
     currentBefore_ = p_.table[p_.table.CurrentSensor].SensorId;
-    for (SensorEntry* entry : Present()) sensors::ReleaseSlot(*entry);
+    for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
     sensors::PrepareWorkArrays(p_.table, p_.table.CurrentSensor);
 }
 

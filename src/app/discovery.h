@@ -54,7 +54,6 @@ private:
     void ReleasePresent();
     void Repaint();
     const driver::DeviceListEntry* DeviceOf(const sensors::SensorEntry& entry) const;
-    std::vector<sensors::SensorEntry*> Present();
     std::vector<bool> EnabledSlots() const;
 
     DiscoveryParts p_;

@@ -36,6 +36,8 @@ public:
     // present sensors, releases the device list, and ends the event loop. Handlers that are running
     // return at their next look (exit.cpp).
     void MFileExit_Click();
+    // Writes the settings of the present sensors, as exit does.
+    void SaveSettings();
 
     platform::Host& host;
 

@@ -37,7 +37,8 @@ bool DisplayIsNamed() {
     return false;
 }
 
-// A usual session ends, or the system asks the program to: the exit routine runs in order.
+// The system asks the program to end: the exit routine runs in order. A session manager asks it to
+// save first, sometimes without an end; the end comes as a wish to close the window.
 void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
     platform::WatchForTermination();
     auto* notifier =
@@ -47,7 +48,7 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
         kelvra.MFileExit_Click();
     });
     QObject::connect(&application, &QGuiApplication::commitDataRequest,
-                     [&kelvra](QSessionManager&) { kelvra.MFileExit_Click(); });
+                     [&kelvra](QSessionManager&) { kelvra.SaveSettings(); });
 }
 
 int Run(QApplication& application, const options::Options& chosen) {

@@ -35,6 +35,13 @@ void SensorTable::SwapSlots(int a, int b) {
         CurrentSensor = static_cast<std::int16_t>(a);
 }
 
+std::vector<SensorEntry*> SensorTable::Present() {
+    std::vector<SensorEntry*> present;
+    for (int slot = 0; slot < Slots(); ++slot)
+        if ((*this)[slot].Present) present.push_back(&(*this)[slot]);
+    return present;
+}
+
 int SensorTable::FindMeasured(std::string_view logicalName) const {
     for (int slot = 0; slot < Slots(); ++slot) {
         const SensorEntry& entry = (*this)[slot];

@@ -45,6 +45,9 @@ struct SensorTable {
         return Sensors[static_cast<std::size_t>(slot)];
     }
 
+    // The sensors that are there, in the order of their slots.
+    std::vector<SensorEntry*> Present();
+
     // The table with that many slots (1 .. 32767): what is kept stays, new elements are set up. A
     // locked table is not resized; trying to is an error of the caller, which a debug build stops
     // at.
