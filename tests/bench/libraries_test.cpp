@@ -8,13 +8,12 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "operations.h"
 #include "status.h"
+#include "support/temp_folder.h"
 
 namespace kelvra::bench {
 namespace {
@@ -26,9 +25,8 @@ constexpr const char* ResourceA = "USB::0xAAd::0X003::A";
 class Libraries {
 public:
     explicit Libraries(const std::string& scenario, const std::string& folder = BENCH_FOLDER) {
-        const std::string path = testing::TempDir() + "bench_test.scenario";
-        std::ofstream(path, std::ios::binary) << scenario;
-        setenv("KELVRA_BENCH", path.c_str(), 1);
+        folder_.Put("bench.scenario", scenario);
+        setenv("KELVRA_BENCH", folder_.Path("bench.scenario").c_str(), 1);
         driver_ = dlopen((folder + "/libpsdrv_32.so").c_str(), RTLD_NOW | RTLD_LOCAL);
         list_ = dlopen((folder + "/libTeskControl2.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     }
@@ -90,6 +88,7 @@ public:
     }
 
 private:
+    test::TempFolder folder_;
     void* driver_ = nullptr;
     void* list_ = nullptr;
 };
