@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A window with the controls of Kelvra's main window and nothing behind them: the floor of what the
-// toolkit costs.
+// A window with the controls and texts of Kelvra's main window and nothing behind them: the floor
+// of what the toolkit costs.
 #pragma once
 
 #include <QComboBox>
@@ -35,12 +35,21 @@ public:
         tools->addStretch();
         top->addWidget(Framed(tools), 3);
         formulas = Table(2, {"Name", "Formular", "RESULT"});
+        const char* texts[][2] = {{"DIFF", "ABS(X1dB-X2dB)"},
+                                  {"SWR", "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))"}};
+        for (int row : {0, 1})
+            for (int column : {0, 1}) formulas->item(row, column)->setText(texts[row][column]);
         formulas->setFixedHeight(140);
         top->addWidget(Framed(Framed(formulas)), 2);
         all->addLayout(top);
         auto* area = new QMdiArea;
         results = Table(
             8, {"Sensor", "Reading\n[W]", "Reading\n[dBm]", "Status", "Sigma\n[dB]", "AVG\nCount"});
+        for (int row = 0; row < 8; ++row) {
+            QTableWidgetItem* name = results->item(row, 0);
+            name->setFont(Bold(name->font()));
+            name->setText(row < 2 ? QString("SensSim%1").arg(row + 1) : QString());
+        }
         area->addSubWindow(Framed(results))->resize(500, 320);
         all->addWidget(area, 1);
         setCentralWidget(central);
@@ -58,6 +67,11 @@ private:
         menuBar()->addMenu("&Window")->addAction("Settings always on &top")->setCheckable(true);
         QMenu* help = menuBar()->addMenu("&Help");
         for (const char* entry : {"&Help", "&About"}) help->addAction(entry);
+    }
+
+    static QFont Bold(QFont font) {
+        font.setBold(true);
+        return font;
     }
 
     static QFrame* Framed(QLayout* inside) {
@@ -99,7 +113,9 @@ private:
     static QLayout* Connection() {
         auto* row = new QHBoxLayout;
         row->addWidget(Picture("connectedPic", 20));
-        row->addWidget(new QLabel("Simulation Mode"));
+        auto* connected = new QLabel("Simulation Mode");
+        connected->setFont(Bold(connected->font()));
+        row->addWidget(connected);
         auto* notice = new QLabel(" ");
         notice->setWordWrap(true);
         row->addWidget(Framed(notice), 1);

@@ -51,6 +51,11 @@ inline void RunEvents(std::chrono::milliseconds length) {
     loop.exec();
 }
 
+inline app::Kelvra& Started(app::Kelvra& kelvra) {
+    kelvra.Start();
+    return kelvra;
+}
+
 class DesktopRun {
 public:
     // Without driver libraries there are simulated sensors, until others are plugged in.
@@ -64,10 +69,7 @@ public:
                         {}),
           host_(surroundings_.HostWith(events_, dialogs_)),
           kelvra(host_),
-          desktop(kelvra, dialogs_, folder_.Path()) {
-        kelvra.Start();
-        desktop.Painter().Flush();
-    }
+          desktop(Started(kelvra), dialogs_, folder_.Path()) {}
 
     template <class Widget>
     Widget& Find(const char* name) {

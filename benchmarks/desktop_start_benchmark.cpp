@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 #include "bare_window.h"
@@ -51,7 +52,11 @@ Start Measure(const char* which) {
     process.start(QCoreApplication::applicationFilePath(), {which});
     process.waitForFinished();
     const QList<QByteArray> words = process.readAllStandardOutput().trimmed().split(' ');
-    if (words.size() != 2) return {};
+    if (words.size() != 2) {
+        std::fprintf(stderr, "%s did not start\n%s", which,
+                     process.readAllStandardError().constData());
+        std::exit(1);
+    }
     return {words[0].toDouble(), words[1].toDouble()};
 }
 

@@ -10,6 +10,7 @@ Desktop::Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dat
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       zoom_(preferences_, main_.WindowMenu(), {&results_.Table(), &main_.Formulas()}) {
     dialogs.SetParent(&main_.Widget());
+    main_.MirrorFrame();
 }
 
 }  // namespace kelvra::desktop

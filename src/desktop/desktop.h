@@ -15,7 +15,7 @@
 
 namespace kelvra::desktop {
 
-// The windows of a Kelvra, mirrored from its start-up on.
+// The windows of a Kelvra. Best made when start-up is over, so that nothing is drawn twice.
 class Desktop {
 public:
     Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dataFolder);

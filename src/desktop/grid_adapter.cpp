@@ -58,7 +58,9 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
 }
 
 void GridWidget::SetZoom(int steps) {
-    zoom_ = std::clamp(steps, LeastZoom, MostZoom);
+    const int zoom = std::clamp(steps, LeastZoom, MostZoom);
+    if (zoom == zoom_) return;
+    zoom_ = zoom;
     QFont zoomed = font();
     zoomed.setPointSizeF(normalSize_ * std::pow(ZoomStep, zoom_));
     setFont(zoomed);

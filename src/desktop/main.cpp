@@ -65,10 +65,9 @@ int Run(QApplication& application, const options::Options& chosen) {
     desktop::QtDialogs dialogs;
     platform::Host host = surroundings.HostWith(events, dialogs);
     app::Kelvra kelvra(host);
-    desktop::Desktop desktop(kelvra, dialogs, folder);
     ExitWhenAsked(application, kelvra);
     kelvra.Start();
-    desktop.Painter().Flush();
+    const desktop::Desktop desktop(kelvra, dialogs, folder);
     return events.HasQuit() ? 0 : QApplication::exec();
 }
 

@@ -41,6 +41,9 @@ MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
     area_->setAccessibleName("Windows");
     widget_.setCentralWidget(central);
     widget_.setWindowIcon(Icon("kelvra"));
+}
+
+void MainWindowView::MirrorFrame() {
     mirror_.Add(form_, std::make_unique<FrameWindowAdapter>(form_, widget_));
 }
 

@@ -22,6 +22,9 @@ class MainWindowView {
 public:
     MainWindowView(forms::MDIMain& form, Mirror& mirror);
 
+    // To be called when all that is in the frame is there: from then on it may be seen.
+    void MirrorFrame();
+
     FrameWindow& Widget() { return widget_; }
     QMdiArea& Area() { return *area_; }
     GridWidget& Formulas() { return *formulas_; }

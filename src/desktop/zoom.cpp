@@ -40,7 +40,7 @@ GridWidget& Zoom::Meant() const {
 }
 
 void Zoom::Set(GridWidget& table, int steps) {
-    if (steps != table.Zoom()) table.SetZoom(steps);
+    table.SetZoom(steps);
     preferences_.SetZoom(table.objectName(), table.Zoom());
 }
 

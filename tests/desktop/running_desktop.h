@@ -39,6 +39,11 @@ inline void ClickCell(QTableWidget& table, int row, int column) {
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, middle);
 }
 
+inline app::Kelvra& Started(app::Kelvra& kelvra) {
+    kelvra.Start();
+    return kelvra;
+}
+
 class RunningDesktop {
 public:
     explicit RunningDesktop(const QTemporaryDir& data)
@@ -46,9 +51,7 @@ public:
               {drivers_.path().toStdString(), data.path().toStdString(), {}, 1, false, {}}, {}),
           host_(surroundings_.HostWith(events, dialogs_)),
           kelvra(host_),
-          desktop(kelvra, dialogs_, data.path().toStdString()) {
-        kelvra.Start();
-        desktop.Painter().Flush();
+          desktop(Started(kelvra), dialogs_, data.path().toStdString()) {
         QApplication::setActiveWindow(&Main());
         QCoreApplication::processEvents();
     }
