@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/profile_text.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "platform/profile_lines.h"
 #include "util/text.h"
 
 namespace kelvra::platform {
@@ -14,7 +16,7 @@ using util::TrimBlanks;
 constexpr std::string_view LineBreak = "\r\n";
 
 bool HasLineBreak(std::string_view text) {
-    return text.find_first_of(LineBreak) != std::string_view::npos;
+    return std::any_of(text.begin(), text.end(), IsLineBreak);
 }
 
 std::string_view WithoutQuotes(std::string_view value) {
@@ -34,75 +36,97 @@ std::string NewLine(std::string_view key, std::string_view value) {
 }  // namespace
 
 ProfileText::ProfileText(std::string bytes) : bytes_(std::move(bytes)) {
-    BuildIndex();
+    FindSections();
+}
+
+std::optional<std::string> ProfileText::Find(std::string_view section, std::string_view key) const {
+    const Section* present = SectionNamed(section);
+    if (present == nullptr) return std::nullopt;
+    const std::string_view text = TextOf(*present);
+    const Place place = FindKey(text, key);
+    if (!place.found) return std::nullopt;
+    const std::string_view line = text.substr(place.line.begin, place.line.end);
+    return std::string(
+        WithoutQuotes(TrimBlanks(line.substr(place.line.valueAt))).substr(0, BufferSize - 1));
 }
 
 std::string ProfileText::Read(std::string_view section, std::string_view key,
                               std::string_view fallback) const {
-    std::string_view value = fallback;
-    if (const auto present = sections_.find(NameKey(section)); present != sections_.end())
-        if (const Place place = FindKey(present->second, key); place.found)
-            value = WithoutQuotes(ValueOf(place.line));
-    return std::string(value.substr(0, BufferSize - 1));
+    return Find(section, key).value_or(std::string(fallback.substr(0, BufferSize - 1)));
 }
 
 void ProfileText::Write(std::string_view section, std::string_view key, std::string_view value) {
-    const auto present = sections_.find(NameKey(section));
-    if (present == sections_.end()) return AddSection(TrimBlanks(section), TrimBlanks(key), value);
-    const Place place = FindKey(present->second, key);
-    if (!place.found) return AddKey(place.line, TrimBlanks(key), value);
-    ReplaceValue(place.line, value);
+    Section* present = SectionNamed(section);
+    if (present == nullptr) return AddSection(TrimBlanks(section), TrimBlanks(key), value);
+    const Place place = FindKey(TextOf(*present), key);
+    if (!place.found) return AddKey(*present, place.line, TrimBlanks(key), value);
+    ReplaceValue(*present, place.line, value);
 }
 
 void ProfileText::DeleteKey(std::string_view section, std::string_view key) {
-    const auto present = sections_.find(NameKey(section));
-    if (present == sections_.end()) return;
-    const Place place = FindKey(present->second, key);
-    if (place.found) Replace(place.line.begin, Behind(place.line) - place.line.begin, {});
+    Section* present = SectionNamed(section);
+    if (present == nullptr) return;
+    const std::string_view text = TextOf(*present);
+    const Place place = FindKey(text, key);
+    if (!place.found) return;
+    const std::size_t end = BehindLineBreak(text, place.line.begin + place.line.end);
+    Replace(*present, place.line.begin, end - place.line.begin, {});
 }
 
-void ProfileText::ReplaceValue(const Line& line, std::string_view value) {
-    if (ValueOf(line) == value) return;
+void ProfileText::ReplaceValue(Section& section, const Line& line, std::string_view value) {
+    const std::string_view text = TextOf(section).substr(line.begin, line.end);
+    if (TrimBlanks(text.substr(line.valueAt)) == value) return;
     // "[a=" is a key, but "[a=b]" is a section.
-    const bool plain = !HasLineBreak(value) && !TrimBlanks(TextOf(line)).starts_with('[');
-    Replace(line.begin + line.valueAt, line.end - line.valueAt, value);
-    if (!plain) BuildIndex();
+    const bool plain = !HasLineBreak(value) && !TrimBlanks(text).starts_with('[');
+    Replace(section, line.begin + line.valueAt, line.end - line.valueAt, value);
+    if (!plain) Renew();
 }
 
-void ProfileText::AddKey(const Line& last, std::string_view key, std::string_view value) {
-    if (last.begin + last.end == bytes_.size()) Replace(bytes_.size(), 0, LineBreak);
-    Replace(Behind(last), 0, NewLine(key, value));
+void ProfileText::AddKey(Section& section, const Line& last, std::string_view key,
+                         std::string_view value) {
+    std::size_t behind = BehindLineBreak(TextOf(section), last.begin + last.end);
+    std::string added = NewLine(key, value);
+    if (behind == last.begin + last.end) added.insert(0, LineBreak);
+    Replace(section, behind, 0, added);
     // An added line that starts a section takes lines, or a name, from others.
-    if (HasLineBreak(key) || HasLineBreak(value) || key.starts_with('[')) BuildIndex();
+    if (HasLineBreak(key) || HasLineBreak(value) || key.starts_with('[')) Renew();
 }
 
-void ProfileText::AddSection(std::string_view section, std::string_view key,
-                             std::string_view value) {
-    const bool startsSection = !HasLineBreak(section);
-    std::string added;
-    if (!bytes_.empty() && !HasLineBreak({&bytes_.back(), 1})) added += LineBreak;
-    const std::size_t at = bytes_.size() + added.size();
-    added += '[';
-    added += section;
-    added += ']';
-    added += LineBreak;
-    added += NewLine(key, value);
-    Replace(bytes_.size(), 0, added);
-    if (startsSection) {
-        IndexFrom(at);
-    } else {
-        BuildIndex();
-    }
-}
-
-void ProfileText::Replace(std::size_t at, std::size_t count, std::string_view text) {
-    if (std::string_view(bytes_).substr(at, count) == text) return;
-    const std::size_t behind = at + count;
-    const std::size_t growth = text.size() - count;  // wraps round for a shorter text, as does +=
-    bytes_.replace(at, count, text);
+void ProfileText::AddSection(std::string_view name, std::string_view key, std::string_view value) {
+    Section& last = sections_.back();
+    if (const std::string_view text = TextOf(last); !text.empty() && !IsLineBreak(text.back()))
+        Replace(last, text.size(), 0, LineBreak);
+    Section added;
+    added.nameAt = 1;
+    added.nameSize = name.size();
+    added.edited = "[" + std::string(name) + "]";
+    added.edited->append(LineBreak).append(NewLine(key, value));
+    sections_.push_back(std::move(added));
     changed_ = true;
-    for (auto& [name, begin] : sections_)
-        if (begin >= behind) begin += growth;
+    // What the new lines start themselves, and a name that is no name.
+    if (HasLineBreak(name) || name.find(']') != std::string_view::npos || HasLineBreak(key) ||
+        HasLineBreak(value) || key.starts_with('['))
+        Renew();
+}
+
+void ProfileText::Replace(Section& section, std::size_t at, std::size_t count,
+                          std::string_view text) {
+    if (TextOf(section).substr(at, count) == text) return;
+    if (!section.edited) section.edited = TextOf(section);
+    section.edited->replace(at, count, text);
+    changed_ = true;
+}
+
+std::string ProfileText::Bytes() const {
+    std::string bytes;
+    bytes.reserve(bytes_.size() + BufferSize);
+    for (const Section& section : sections_) bytes += TextOf(section);
+    return bytes;
+}
+
+void ProfileText::Renew() {
+    bytes_ = Bytes();
+    FindSections();
 }
 
 }  // namespace kelvra::platform

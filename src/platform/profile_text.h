@@ -9,9 +9,10 @@
 // writing, a value that is there already changes nothing.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 namespace kelvra::platform {
 
@@ -20,19 +21,29 @@ public:
     explicit ProfileText(std::string bytes = {});
 
     // The value as a caller's buffer of 750 characters with its NUL would hold it: 749 bytes at
-    // most. The fallback, cut alike, stands in for a key that is not there.
+    // most. Nothing when the key is not there; or the fallback, cut alike.
     static constexpr std::size_t BufferSize = 750;
+    std::optional<std::string> Find(std::string_view section, std::string_view key) const;
     std::string Read(std::string_view section, std::string_view key,
                      std::string_view fallback) const;
 
     void Write(std::string_view section, std::string_view key, std::string_view value);
     void DeleteKey(std::string_view section, std::string_view key);
 
-    const std::string& Bytes() const { return bytes_; }
+    std::string Bytes() const;
     bool Changed() const { return changed_; }  // since construction
 
 private:
-    // Its parts count from its beginning.
+    // A heading and the lines up to the next one. Only the first has no heading.
+    struct Section {
+        std::size_t begin = 0;  // in the bytes that came
+        std::size_t size = 0;
+        std::size_t nameAt = 0;  // in its text, trimmed
+        std::size_t nameSize = 0;
+        std::optional<std::string> edited;  // instead of those bytes
+    };
+
+    // Its parts count from its beginning, which counts from that of its section.
     struct Line {
         std::size_t begin = 0;
         std::size_t valueAt = 0;  // behind the "="; 0 in a line that holds no key
@@ -45,26 +56,25 @@ private:
         bool found = false;
     };
 
-    void BuildIndex();
-    void IndexFrom(std::size_t begin);
-    Line LineAt(std::size_t begin) const;
-    std::size_t Behind(const Line& line) const;  // where the next line begins
+    // profile_sections.cpp
+    void FindSections();
+    std::string_view TextOf(const Section& section) const;
+    std::string_view NameOf(const Section& section) const;
+    Section* SectionNamed(std::string_view name);
+    const Section* SectionNamed(std::string_view name) const;
+    static Place FindKey(std::string_view section, std::string_view key);
 
-    static std::string NameKey(std::string_view name);  // trimmed and lower-cased
-    Place FindKey(std::size_t sectionBegin, std::string_view key) const;
-    std::string_view TextOf(const Line& line) const;
-    std::string_view ValueOf(const Line& line) const;
-
-    void ReplaceValue(const Line& line, std::string_view value);
-    void AddKey(const Line& last, std::string_view key, std::string_view value);
-    void AddSection(std::string_view section, std::string_view key, std::string_view value);
-    void Replace(std::size_t at, std::size_t count, std::string_view text);
+    void ReplaceValue(Section& section, const Line& line, std::string_view value);
+    void AddKey(Section& section, const Line& last, std::string_view key, std::string_view value);
+    void AddSection(std::string_view name, std::string_view key, std::string_view value);
+    void Replace(Section& section, std::size_t at, std::size_t count, std::string_view text);
+    void Renew();
 
     std::string bytes_;
+    std::vector<Section> sections_;
+    mutable std::size_t lastFound_ =
+        0;  // a block of settings asks for the same one again and again
     bool changed_ = false;
-    // Where the first section of each name begins, by lower-cased name. Keys have no index: a block
-    // of settings looks into few of the sections, and these are short.
-    std::unordered_map<std::string, std::size_t> sections_;
 };
 
 }  // namespace kelvra::platform

@@ -22,12 +22,6 @@ std::string FileText(const SettingValue& value) {
     return util::TrimmedNumberText(std::int64_t{std::get<std::int32_t>(value)});
 }
 
-// What is read when the key is missing must come out as the fallback again.
-std::string FallbackText(const SettingValue& fallback) {
-    if (const auto* truth = std::get_if<bool>(&fallback)) return *truth ? "True" : "False";
-    return FileText(fallback);
-}
-
 bool MeansTrue(std::string_view text) {
     const std::string word = util::UpperCase(text);
     return word == "1" || word == "WAHR" || word == "TRUE";
@@ -69,8 +63,9 @@ void IniSetting(platform::ProfileText& file, const std::string& section, const S
 
 SettingValue IniRead(const platform::ProfileText& file, std::string_view section,
                      std::string_view key, const SettingValue& fallback) {
-    const std::string text = file.Read(section, key, FallbackText(fallback));
-    return std::visit([&](const auto& value) { return Parse(text, value); }, fallback);
+    const auto text = file.Find(section, key);
+    if (!text) return fallback;
+    return std::visit([&](const auto& value) { return Parse(*text, value); }, fallback);
 }
 
 void IniWrite(platform::ProfileText& file, std::string_view section, std::string_view key,

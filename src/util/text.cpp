@@ -17,10 +17,11 @@ char Lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-std::string_view TrimAny(std::string_view text, std::string_view unwanted) {
-    const auto first = text.find_first_not_of(unwanted);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(unwanted) - first + 1);
+template <class Unwanted>
+std::string_view TrimWhere(std::string_view text, Unwanted unwanted) {
+    while (!text.empty() && unwanted(text.front())) text.remove_prefix(1);
+    while (!text.empty() && unwanted(text.back())) text.remove_suffix(1);
+    return text;
 }
 
 // What may follow a lead byte in valid UTF-8: how many bytes, and the range of the first of them
@@ -56,15 +57,15 @@ std::size_t Utf8Length(std::string_view bytes) {
 }  // namespace
 
 std::string_view TrimSpaces(std::string_view text) {
-    return TrimAny(text, " ");
+    return TrimWhere(text, [](char c) { return c == ' '; });
 }
 
 std::string_view TrimBlanks(std::string_view text) {
-    return TrimAny(text, " \t");
+    return TrimWhere(text, [](char c) { return c == ' ' || c == '\t'; });
 }
 
 std::string CleanText(std::string_view text) {
-    return std::string(TrimAny(TrimSpaces(text), "\r\n"));
+    return std::string(TrimWhere(TrimSpaces(text), [](char c) { return c == '\r' || c == '\n'; }));
 }
 
 std::string_view TrimLineBreaks(std::string_view text) {
@@ -84,9 +85,10 @@ std::string LowerCase(std::string_view text) {
     return result;
 }
 
+// From the end: names that are compared are often those of a family and begin alike.
 bool EqualNoCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Lower(x) == Lower(y); });
+    return a.size() == b.size() && std::equal(a.rbegin(), a.rend(), b.rbegin(),
+                                              [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 SplitText SplitAtFirst(std::string_view text, char separator) {
