@@ -3,12 +3,6 @@
 // Update, a person's acts on the widget reach the record's act functions. Neither comes back.
 #pragma once
 
-#include <memory>
-#include <unordered_map>
-
-#include "controls/changes.h"
-#include "controls/control.h"
-
 namespace kelvra::desktop {
 
 class Adapter {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/common.h"
 
+#include <QTextDocument>
+
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -48,9 +50,14 @@ void UpdateCommon(QWidget& widget, const controls::Control& control) {
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.Visible) widget.setVisible(control.Visible);
     const QString tooltip = control.Tooltip->empty() ? widget.property(OwnTooltip).toString()
-                                                     : Shown(control.Tooltip.Get());
+                                                     : TooltipText(control.Tooltip.Get());
     if (widget.toolTip() != tooltip) widget.setToolTip(tooltip);
     UpdateColours(widget, control);
+}
+
+QString TooltipText(const std::string& text) {
+    const QString shown = Shown(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
 }
 
 void SetOwnTooltip(QWidget& widget, const QString& text) {

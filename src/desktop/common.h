@@ -20,6 +20,9 @@ int Twips(int pixels);
 // Enabled, visible, tooltip, background and text colour. A dark background gets white text.
 void UpdateCommon(QWidget& widget, const controls::Control& control);
 
+// A text for a tooltip, which would take some texts for markup.
+QString TooltipText(const std::string& text);
+
 // The tooltip while the control has none.
 void SetOwnTooltip(QWidget& widget, const QString& text);
 

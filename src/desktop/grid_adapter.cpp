@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "desktop/common.h"
+#include "desktop/grid_painting.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -44,6 +45,8 @@ int TextWidth(const QString& text, const QFont& font) {
 
 GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     : QTableWidget(parent), grid_(grid), normalSize_(font().pointSizeF()) {
+    setItemDelegate(new CellPainter(this));
+    setHorizontalHeader(new Heading(this));
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setAlternatingRowColors(false);
@@ -51,10 +54,16 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     verticalHeader()->hide();
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
-    connect(this, &QTableWidget::cellPressed,
-            [this](int row, int column) { grid_.MouseDown.Raise(row + 1, column); });
-    connect(this, &QTableWidget::cellClicked,
-            [this](int row, int column) { grid_.Click.Raise(row + 1, column); });
+    connect(this, &QTableWidget::cellPressed, [this](int row, int column) {
+        if (!Selects()) grid_.MouseDown.Raise(row + 1, column);
+    });
+    connect(this, &QTableWidget::cellClicked, [this](int row, int column) {
+        if (!Selects()) grid_.Click.Raise(row + 1, column);
+    });
+    // The second of two quick clicks.
+    connect(this, &QTableWidget::cellDoubleClicked, [this](int row, int column) {
+        if (!Selects()) Activate(row, column);
+    });
 }
 
 void GridWidget::SetZoom(int steps) {
@@ -65,15 +74,24 @@ void GridWidget::SetZoom(int steps) {
     zoomed.setPointSizeF(normalSize_ * std::pow(ZoomStep, zoom_));
     setFont(zoomed);
     horizontalHeader()->setFont(zoomed);
-    if (onFont) onFont();
+    if (onFit) onFit();
 }
 
-void GridWidget::Activate() {
-    const int row = currentRow();
-    const int column = currentColumn();
+// A click with these keys extends the selection and means nothing else.
+bool GridWidget::Selects() {
+    return (QApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
+}
+
+void GridWidget::Activate(int row, int column) {
     if (row < 0 || column < 0) return;
     grid_.MouseDown.Raise(row + 1, column);
     grid_.Click.Raise(row + 1, column);
+}
+
+int GridWidget::MostColumnWidth() const {
+    if (horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) return QWIDGETSIZE_MAX;
+    constexpr int characters = 12;
+    return characters * fontMetrics().horizontalAdvance('0');
 }
 
 QSize GridWidget::sizeHint() const {
@@ -99,10 +117,11 @@ QString GridWidget::SelectedText() const {
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
-        QApplication::clipboard()->setText(SelectedText());
+        if (const QString text = SelectedText(); !text.isEmpty())
+            QApplication::clipboard()->setText(text);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                event->key() == Qt::Key_Space) {
-        Activate();
+        Activate(currentRow(), currentColumn());
     } else {
         QTableWidget::keyPressEvent(event);
     }
@@ -113,8 +132,12 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    SetZoom(zoom_ + (event->angleDelta().y() > 0 ? 1 : -1));
-    if (onWheel) onWheel();
+    // A fine wheel or a touchpad turns in small parts of a step.
+    turned_ += event->angleDelta().y();
+    const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    SetZoom(zoom_ + steps);
+    if (steps != 0 && onWheel) onWheel();
     event->accept();
 }
 
@@ -145,14 +168,14 @@ void GridAdapter::Shape() {
         palette.setColor(QPalette::Base, ToolkitColour(*grid_.EmptyBack.Get()));
     widget_.setPalette(palette);
     FitColumns();
-    if (onGrowth) onGrowth();
 }
 
 void GridAdapter::FitColumns() {
     const QFontMetrics metrics(widget_.font());
     const qreal scale = std::pow(ZoomStep, widget_.Zoom());
     for (int column = 0; column < grid_.Columns(); ++column) {
-        widget_.setColumnWidth(column, static_cast<int>(Pixels(grid_.Width(column)) * scale));
+        const int width = static_cast<int>(Pixels(grid_.Width(column)) * scale);
+        widget_.setColumnWidth(column, std::min(width, widget_.MostColumnWidth()));
         ShowHeading(column);
         for (int row = 1; row < grid_.Rows(); ++row) ShowCell(row, column);
     }
@@ -162,6 +185,7 @@ void GridAdapter::FitColumns() {
     for (int row = 0; row < widget_.rowCount(); ++row)
         widget_.setRowHeight(row, metrics.height() + CellMargin / 2);
     widget_.updateGeometry();
+    if (onGrowth) onGrowth();
 }
 
 void GridAdapter::ShowHeading(int column) {
@@ -197,15 +221,17 @@ void GridAdapter::ShowCell(int row, int column) {
     if (back && item->background().color() != ToolkitColour(*back))
         item->setBackground(ToolkitColour(*back));
     item->setForeground(Qt::black);
-    if (const QString tooltip = Shown(cell.tooltip); item->toolTip() != tooltip)
+    if (const QString tooltip = TooltipText(cell.tooltip); item->toolTip() != tooltip) {
         item->setToolTip(tooltip);
+        item->setData(Qt::AccessibleDescriptionRole, Shown(cell.tooltip));
+    }
     Widen(column, text, item->font());
 }
 
 // Columns grow with their texts and don't shrink: a table that jumps can't be read.
 void GridAdapter::Widen(int column, const QString& text, const QFont& font) {
     if (text.isEmpty()) return;
-    const int needed = TextWidth(text, font);
+    const int needed = std::min(TextWidth(text, font), widget_.MostColumnWidth());
     if (needed <= widget_.columnWidth(column)) return;
     widget_.setColumnWidth(column, needed);
     if (onGrowth) onGrowth();

@@ -21,8 +21,12 @@ public:
     // Steps of the font's size, 0 is the normal one.
     void SetZoom(int steps);
     int Zoom() const { return zoom_; }
-    std::function<void()> onFont;   // it has another size
+    std::function<void()> onFit;    // the font is another one: columns and rows want fitting
     std::function<void()> onWheel;  // by a person's wheel
+
+    // The most that a column takes: some characters, so that every column of a table without a
+    // scroll bar stays in sight; as much as it wants in others.
+    int MostColumnWidth() const;
 
     // All rows and columns without scrolling.
     QSize sizeHint() const override;
@@ -35,11 +39,13 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void Activate();
+    static bool Selects();
+    void Activate(int row, int column);
 
     controls::Grid& grid_;
     qreal normalSize_;
     int zoom_ = 0;
+    int turned_ = 0;  // of the wheel, less than a step
 };
 
 class GridAdapter final : public Adapter {
@@ -49,7 +55,7 @@ public:
 
     // After a change of the font: columns and heading get the room that they need.
     void FitColumns();
-    // Told when the table needs more room than before.
+    // Told when the table needs other room than before.
     std::function<void()> onGrowth;
 
 private:

@@ -22,12 +22,14 @@ void Complain(const std::string& text) {
     std::fwrite("\n", 1, 1, stderr);
 }
 
-// The toolkit ends the program when it finds no display or none of its plugins; the last words are
-// ours.
-void OnToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+// The toolkit ends the program when it can't reach the display or lacks its plugin, and says which;
+// the last words are ours. Once the application stands it is on its own again.
+void OnStartingToolkit(QtMsgType type, const QMessageLogContext&, const QString& message) {
     Complain(message.toStdString());
     if (type != QtFatalMsg) return;
-    Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
+    Complain(
+        "kelvra: the display can't be reached, or the toolkit's plugin for it is missing; "
+        "kelvra-console measures without a display.");
     std::_Exit(NoDisplay);
 }
 
@@ -85,9 +87,10 @@ int main(int argc, char** argv) {
         Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
         return NoDisplay;
     }
-    qInstallMessageHandler(OnToolkitMessage);
+    qInstallMessageHandler(OnStartingToolkit);
     int toolkitArgc = 1;  // the command line is the program's own
     QApplication application(toolkitArgc, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("Kelvra");
     QApplication::setDesktopFileName("kelvra");
     return Run(application, *parsed.options);

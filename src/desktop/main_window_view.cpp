@@ -6,8 +6,10 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/common.h"
+#include "desktop/focus_ring.h"
 #include "desktop/icons.h"
 #include "desktop/simple_adapters.h"
 
@@ -17,7 +19,7 @@ namespace {
 constexpr int ToolIcon = 28;  // logical pixels
 constexpr int IndicatorIcon = 20;
 constexpr int NoticeLines = 2;  // room for the usual ones, so that the strip does not jump
-constexpr int LeastFormulaWidth = 200;
+constexpr int LeastFormulaWidth = 60;
 constexpr int FormulaColumn = 1;
 }  // namespace
 
@@ -92,6 +94,7 @@ QWidget* MainWindowView::BuildTools() {
     rows->addLayout(BuildChoices());
     rows->addLayout(BuildConnection());
     rows->addStretch();
+    new FocusRing(tools);
     mirror_.Add(form_.MainTools, std::make_unique<FrameAdapter>(form_.MainTools, *tools));
     return tools;
 }
@@ -103,7 +106,7 @@ QPushButton* MainWindowView::MakeButton(controls::Button& button, const char* te
     widget->setObjectName(QString::fromStdString(button.Name()));
     if (*shortcut != '\0') {
         // Beside the underlined letter, which the button's own shortcut would replace.
-        new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->animateClick(); });
+        new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->click(); });
         SetOwnTooltip(*widget, QString(text).remove('&') + " (" + shortcut + ")");
     }
     Describe(*widget, QString(text).remove('&'));
@@ -119,7 +122,7 @@ QLabel* MainWindowView::MakeLabel(const controls::Label& label) {
 }
 
 QWidget* MainWindowView::MakeList(controls::List& list, const char* name) {
-    auto* widget = new QComboBox;
+    auto* widget = new ListWidget;
     widget->setObjectName(QString::fromStdString(list.Name()));
     widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     Describe(*widget, name);
@@ -133,7 +136,7 @@ QHBoxLayout* MainWindowView::BuildButtons() {
     row->addWidget(MakeButton(form_.StopIt, "S&top", "Shift+F5"));
     row->addWidget(MakeButton(form_.Show_Settings, "S&ettings", ""));
     auto* busy = new QLabel;
-    Describe(*busy, "Measuring");
+    Describe(*busy, "Activity");
     mirror_.Add(form_.BusySign, std::make_unique<PictureAdapter>(form_.BusySign, *busy, ToolIcon));
     row->addWidget(busy);
     row->addWidget(MakeLabel(form_.MeasSpeedInfo));
@@ -182,6 +185,13 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     return row;
 }
 
+void MainWindowView::KeepResultsInSight() {
+    int width = std::max(LeastFormulaWidth, formulas_->horizontalHeader()->minimumSectionSize());
+    for (int column = 0; column < formulas_->columnCount(); ++column)
+        if (column != FormulaColumn) width += formulas_->columnWidth(column);
+    formulas_->setMinimumWidth(width + 2 * formulas_->frameWidth());
+}
+
 QWidget* MainWindowView::BuildFormulas() {
     auto* outer = new QFrame;
     auto* outerLayout = new QVBoxLayout(outer);
@@ -196,11 +206,11 @@ QWidget* MainWindowView::BuildFormulas() {
     formulas_->setObjectName("CalcGrid");
     Describe(*formulas_, "Calculated values");
     innerLayout->addWidget(formulas_);
-    outer->setMinimumWidth(LeastFormulaWidth);
     mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
     auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *formulas_);
-    formulas_->onFont = [shown = adapter.get()] { shown->FitColumns(); };
+    formulas_->onFit = [shown = adapter.get()] { shown->FitColumns(); };
+    adapter->onGrowth = [this] { KeepResultsInSight(); };
     mirror_.Add(form_.CalcGrid, std::move(adapter));
     // Where room is short the formula gives way: names and results are what is read.
     formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);

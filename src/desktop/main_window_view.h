@@ -38,6 +38,7 @@ private:
     QHBoxLayout* BuildChoices();
     QHBoxLayout* BuildConnection();
     QWidget* BuildFormulas();
+    void KeepResultsInSight();
     QPushButton* MakeButton(controls::Button& button, const char* text, const char* shortcut);
     QLabel* MakeLabel(const controls::Label& label);
     QWidget* MakeList(controls::List& list, const char* name);

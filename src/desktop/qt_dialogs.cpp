@@ -15,6 +15,8 @@ namespace kelvra::desktop {
 
 namespace {
 
+constexpr int PromptWidth = 480;  // a formula is longer than a usual answer
+
 QMessageBox::Icon ToolkitIcon(platform::MessageIcon icon) {
     switch (icon) {
         case platform::MessageIcon::Information:
@@ -39,12 +41,13 @@ void QtDialogs::Message(const std::string& title, const std::string& text,
 }
 
 std::optional<std::string> QtDialogs::Prompt(const std::string& text, const std::string& proposed) {
-    bool confirmed = false;
-    const QString answer =
-        QInputDialog::getText(parent_, QCoreApplication::applicationName(), Shown(text),
-                              QLineEdit::Normal, Shown(proposed), &confirmed);
-    if (!confirmed) return std::nullopt;
-    return Bytes(answer);
+    QInputDialog dialog(parent_);
+    dialog.setWindowTitle(QCoreApplication::applicationName());
+    dialog.setLabelText(Shown(text));
+    dialog.setTextValue(Shown(proposed));
+    dialog.resize(PromptWidth, dialog.sizeHint().height());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return Bytes(dialog.textValue());
 }
 
 QString ToolkitFilter(const std::string& filter) {
@@ -59,15 +62,18 @@ QString ToolkitFilter(const std::string& filter) {
 }
 
 std::optional<std::string> QtDialogs::AskFile(const platform::FileQuestion& question) {
-    const QString filter = ToolkitFilter(question.filter);
-    QString selected = filter.split(";;").value(question.filterIndex - 1);
-    const QString title = Shown(question.title);
+    const QStringList filters = ToolkitFilter(question.filter).split(";;");
     const QString proposed = Shown(question.proposed);
-    const QString path =
-        question.save ? QFileDialog::getSaveFileName(parent_, title, proposed, filter, &selected)
-                      : QFileDialog::getOpenFileName(parent_, title, proposed, filter, &selected);
-    if (path.isEmpty()) return std::nullopt;
-    return Bytes(path);
+    QFileDialog dialog(parent_, Shown(question.title), QFileInfo(proposed).path());
+    dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(question.filterIndex - 1));
+    dialog.selectFile(proposed);
+    // A name without a suffix gets that of the proposed one, as the filter lists it.
+    dialog.setDefaultSuffix(QFileInfo(proposed).suffix());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return Bytes(dialog.selectedFiles().value(0));
 }
 
 void QtDialogs::OpenHelp(const std::string& file, int) {

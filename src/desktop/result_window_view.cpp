@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/result_window_view.h"
 
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -11,7 +12,7 @@
 namespace kelvra::desktop {
 
 ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area)
-    : window_(new ChildWindow(form, area)), table_(new GridWidget(form.ResultGrid)) {
+    : form_(form), window_(new ChildWindow(form, area)), table_(new GridWidget(form.ResultGrid)) {
     auto* frame = new QFrame;
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(4, 4, 4, 4);
@@ -27,25 +28,29 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
     adapter_ = adapter.get();
     adapter_->onGrowth = [this] { FitWindow(); };
-    table_->onFont = [this] {
-        adapter_->FitColumns();
-        FitWindow();
-    };
+    table_->onFit = [this] { adapter_->FitColumns(); };
+    window_->onRoom = [this] { FitWindow(); };
     mirror.Add(form.SensorFrame, std::make_unique<FrameAdapter>(form.SensorFrame, *frame));
     mirror.Add(form.ResultGrid, std::move(adapter));
     mirror.Add(form, std::make_unique<ChildWindowAdapter>(form, *window_));
     FitWindow();
 }
 
-// All columns and rows are in sight, as far as the area has room. Later, in one go: a table that
+// All columns and rows are in sight, as far as the area has room and unless a person wants it
+// otherwise. Later, in one go: a table that
 // fills itself asks often, and has its sizes when it is laid out.
 void ResultWindowView::FitWindow() {
     if (fitting_) return;
     fitting_ = true;
     QTimer::singleShot(0, window_, [this] {
         fitting_ = false;
-        const QSize lacking = (table_->sizeHint() - table_->size()).expandedTo({0, 0});
-        window_->ResizeInside(window_->size() + lacking);
+        const controls::Geometry& place = form_.Place.Get();
+        const QSize wanted(Pixels(place.width), Pixels(place.height));
+        if (window_->SizedByPerson()) return window_->ResizeInside(wanted);
+        QSize needed = window_->size() - table_->size() + table_->sizeHint();
+        if (needed.height() > window_->Room().height())
+            needed.rwidth() += table_->verticalScrollBar()->sizeHint().width();
+        window_->ResizeInside(needed.expandedTo(wanted));
     });
 }
 

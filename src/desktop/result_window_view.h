@@ -20,6 +20,7 @@ public:
 private:
     void FitWindow();
 
+    forms::StatusForm& form_;
     ChildWindow* window_;  // the area's
     GridWidget* table_;
     GridAdapter* adapter_;

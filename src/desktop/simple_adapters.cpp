@@ -2,12 +2,18 @@
 #include "desktop/simple_adapters.h"
 
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include "desktop/common.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
+
+LabelAdapter::LabelAdapter(const controls::Label& label, QLabel& widget)
+    : label_(label), widget_(widget) {
+    widget_.setTextFormat(Qt::PlainText);
+}
 
 void LabelAdapter::Update() {
     const QString caption = Shown(label_.Caption.Get()).replace("\r\n", "\n");
@@ -46,6 +52,13 @@ void MenuItemAdapter::Update() {
     action_.setEnabled(item_.Enabled);
     action_.setVisible(item_.Visible);
     if (action_.isCheckable()) action_.setChecked(item_.Checked);
+}
+
+void ListWidget::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 ListAdapter::ListAdapter(controls::List& list, QComboBox& widget) : list_(list), widget_(widget) {

@@ -16,7 +16,7 @@ namespace kelvra::desktop {
 
 class LabelAdapter final : public Adapter {
 public:
-    LabelAdapter(const controls::Label& label, QLabel& widget) : label_(label), widget_(widget) {}
+    LabelAdapter(const controls::Label& label, QLabel& widget);
     void Update() override;
 
 private:
@@ -45,6 +45,15 @@ private:
     controls::MenuItem& item_;
     QAction& action_;
     std::string shownCaption_;
+};
+
+// A list that the wheel turns only when it has the focus: a page may be scrolled over it.
+class ListWidget final : public QComboBox {
+public:
+    ListWidget() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 class ListAdapter final : public Adapter {

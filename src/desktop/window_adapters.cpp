@@ -2,8 +2,10 @@
 #include "desktop/window_adapters.h"
 
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 #include "desktop/common.h"
@@ -13,14 +15,18 @@ namespace kelvra::desktop {
 
 namespace {
 
+QSize SizeOf(const controls::Geometry& place) {
+    return {Pixels(place.width), Pixels(place.height)};
+}
+
 // The record hears of sizes that a person has given, not of those that it gave itself.
 void ReportSize(controls::Window& window, const QResizeEvent& event) {
-    const int width = Twips(event.size().width());
-    const int height = Twips(event.size().height());
-    const controls::Geometry& known = window.Place.Get();
-    const bool same = Pixels(known.width) == event.size().width() &&
-                      Pixels(known.height) == event.size().height();
-    if (!same && event.oldSize().isValid()) window.PersonResizes(width, height);
+    if (SizeOf(window.Place.Get()) != event.size() && event.oldSize().isValid())
+        window.PersonResizes(Twips(event.size().width()), Twips(event.size().height()));
+}
+
+bool SameCorner(const controls::Geometry& a, const controls::Geometry& b) {
+    return a.left == b.left && a.top == b.top;
 }
 
 }  // namespace
@@ -39,20 +45,26 @@ void FrameWindowAdapter::Update() {
     const QString title = Shown(window_.Caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
     const controls::Geometry& place = window_.Place.Get();
-    if (shown_ != place) {
+    // A size that a person has given comes back as the record's, with the corner that it knows.
+    if (!SameCorner(shown_, place))
         widget_.setGeometry(OnScreen(place));
-        shown_ = place;
-    }
+    else if (shown_ != place && widget_.size() != SizeOf(place))
+        widget_.resize(OnScreen(place).size());
+    shown_ = place;
     widget_.setVisible(window_.Visible);
 }
 
-// The rules know a usual screen; on a smaller one the window is moved and cut to what is there.
+// The rules know a usual screen; on a smaller one the window is moved and cut to what is there,
+// with room for its title bar.
 QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
     const QRect screen = widget_.screen()->availableGeometry();
-    QRect wanted(Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height));
-    wanted.setSize(wanted.size().boundedTo(screen.size()));
-    wanted.moveLeft(std::clamp(wanted.left(), screen.left(), screen.right() + 1 - wanted.width()));
-    wanted.moveTop(std::clamp(wanted.top(), screen.top(), screen.bottom() + 1 - wanted.height()));
+    const int title = widget_.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    QRect wanted(QPoint(Pixels(place.left), Pixels(place.top)), SizeOf(place));
+    const bool tooHigh = wanted.height() + title > screen.height();
+    const QRect room = tooHigh ? screen.adjusted(0, title, 0, 0) : screen;
+    wanted.setSize(wanted.size().boundedTo(room.size()));
+    wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - wanted.width()));
+    wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - wanted.height()));
     return wanted;
 }
 
@@ -62,15 +74,17 @@ ChildWindow::ChildWindow(controls::Window& window, QMdiArea& area) : window_(win
     area.viewport()->installEventFilter(this);
 }
 
+QSize ChildWindow::Room() const {
+    return area_.viewport()->size() - QSize(x(), y());
+}
+
 void ChildWindow::ResizeInside(const QSize& wanted) {
     if (isMaximized() || isMinimized()) return;
-    const QSize room = area_.viewport()->size() - QSize(x(), y());
-    resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
+    resize(wanted.boundedTo(Room()).expandedTo(minimumSizeHint()));
 }
 
 bool ChildWindow::eventFilter(QObject* object, QEvent* event) {
-    if (object == area_.viewport() && event->type() == QEvent::Resize && isVisible())
-        ResizeInside(size());
+    if (object == area_.viewport() && event->type() == QEvent::Resize && onRoom) onRoom();
     return QMdiSubWindow::eventFilter(object, event);
 }
 
@@ -84,22 +98,31 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     window_.PersonCloses();
 }
 
+void ChildWindow::mousePressEvent(QMouseEvent* event) {
+    held_ = true;
+    QMdiSubWindow::mousePressEvent(event);
+}
+
+void ChildWindow::mouseReleaseEvent(QMouseEvent* event) {
+    held_ = false;
+    QMdiSubWindow::mouseReleaseEvent(event);
+}
+
 void ChildWindow::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
-    // While a person drags an edge, the window holds the mouse.
-    if (QWidget::mouseGrabber() == this) ReportSize(window_, *event);
+    if (!held_ || isMaximized() || isMinimized()) return;
+    sizedByPerson_ = true;
+    ReportSize(window_, *event);
 }
 
 void ChildWindowAdapter::Update() {
     const QString title = Shown(window_.Caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
     const controls::Geometry& place = window_.Place.Get();
-    if (shown_ != place) {
-        const QSize wanted(Pixels(place.width), Pixels(place.height));
-        widget_.move(Pixels(place.left), Pixels(place.top));
-        widget_.resize(wanted.expandedTo(widget_.sizeHint()));
-        shown_ = place;
-    }
+    if (!SameCorner(shown_, place)) widget_.move(Pixels(place.left), Pixels(place.top));
+    if (shown_ != place && widget_.size() != SizeOf(place))
+        widget_.ResizeInside(SizeOf(place).expandedTo(widget_.sizeHint()));
+    shown_ = place;
     widget_.setVisible(window_.Visible);
 }
 

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <functional>
 
 #include "controls/kinds.h"
 #include "desktop/adapter.h"
@@ -50,18 +51,25 @@ public:
 
     // As far as the area has room, and never smaller than it can be.
     void ResizeInside(const QSize& wanted);
+    // What the area has for it, from its corner on.
+    QSize Room() const;
+    std::function<void()> onRoom;  // the area has another size
+    bool SizedByPerson() const { return sizedByPerson_; }
 
 protected:
     // The Tab key walks through the whole frame, in and out of the windows inside it.
     bool focusNextPrevChild(bool next) override;
-    // When the area becomes smaller, so does a window that would be cut.
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     controls::Window& window_;
     QMdiArea& area_;
+    bool held_ = false;  // by a person's mouse
+    bool sizedByPerson_ = false;
 };
 
 class ChildWindowAdapter final : public Adapter {

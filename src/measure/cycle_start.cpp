@@ -77,14 +77,15 @@ void Cycle::BeginMeasuring() {
     p_.state.Measuring = true;
     p_.state.StopRequested = false;
     ++p_.state.starts;
-    p_.forms.mdiMain.StartIt.Enabled = false;
+    // In this order: the focus goes from the one to the other.
     p_.forms.mdiMain.StopIt.Enabled = true;
+    p_.forms.mdiMain.StartIt.Enabled = false;
 }
 
 // Also at the end of a measurement: Stop may have been pressed by someone, or by a recovery.
 void Cycle::ShowIdle() {
-    p_.forms.mdiMain.StopIt.Enabled = false;
     p_.forms.mdiMain.StartIt.Enabled = true;
+    p_.forms.mdiMain.StopIt.Enabled = false;
     OfferSensorCommands(p_.forms.setupForm, true);
 }
 

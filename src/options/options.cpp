@@ -39,8 +39,9 @@ std::optional<std::uint64_t> ParseSeed(const std::string& text) {
     return result.ec == std::errc{} && result.ptr == end ? std::optional(seed) : std::nullopt;
 }
 
-Parsed Wrong(std::string why) {
-    return {std::nullopt, WrongUsage, std::move(why)};
+Parsed Wrong(const Program& program, const std::string& why) {
+    const std::string name = program.name;
+    return {std::nullopt, WrongUsage, name + ": " + why + "; see " + name + " --help"};
 }
 
 }  // namespace
@@ -63,19 +64,19 @@ Parsed Parse(int argc, const char* const* argv, const Program& program) {
     } catch (const CLI::Success&) {
         return {std::nullopt, 0, app.help()};
     } catch (const CLI::ParseError& error) {
-        return Wrong(error.what());
+        return Wrong(program, error.what());
     }
     if (clockOption->count() > 0) {
         options.clock = ParseClock(clock);
-        if (!options.clock) return Wrong("--clock wants \"YYYY-MM-DD HH:MM:SS\"");
+        if (!options.clock) return Wrong(program, "--clock wants \"YYYY-MM-DD HH:MM:SS\"");
     }
     if (seedOption->count() > 0) {
         options.seed = ParseSeed(seed);
-        if (!options.seed) return Wrong("--seed wants a whole number from 0 on");
+        if (!options.seed) return Wrong(program, "--seed wants a whole number from 0 on");
     }
     options.words = app.remaining();
     for (const std::string& word : options.words)
-        if (word.starts_with("--")) return Wrong("unknown option " + word);
+        if (word.starts_with("--")) return Wrong(program, "unknown option " + word);
     return {std::move(options), 0, {}};
 }
 

@@ -128,13 +128,14 @@ private slots:
         room.mirror.Add(picture, std::make_unique<PictureAdapter>(picture, pictureWidget, 20));
         room.mirror.Add(frame, std::make_unique<FrameAdapter>(frame, frameWidget));
         const QImage first = pictureWidget.pixmap().toImage();
-        label.Caption = "two\r\nlines \xFF";
+        label.Caption = "<b>two</b>\r\nlines \xFF";
         label.Tooltip = "why";
         label.Back = controls::DarkBlue;
         picture.Image = "busy2";
         frame.Visible = false;
         room.mirror.Flush();
-        QCOMPARE(labelWidget.text(), QString("two\nlines \uFFFD"));
+        QCOMPARE(labelWidget.text(), QString("<b>two</b>\nlines \uFFFD"));
+        QCOMPARE(labelWidget.textFormat(), Qt::PlainText);
         QCOMPARE(labelWidget.accessibleName(), labelWidget.text());
         QCOMPARE(labelWidget.toolTip(), "why");
         QCOMPARE(labelWidget.palette().color(QPalette::Window), QColor(0, 0, 0xC0));

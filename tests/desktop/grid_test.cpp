@@ -80,10 +80,37 @@ private slots:
         QCOMPARE(events_, one);
     }
 
+    void QuickClicksCountAndThoseThatExtendTheSelectionDoNot() {
+        ClickCell(*table_, 0, 1);
+        const QPoint middle = table_->visualRect(table_->model()->index(0, 1)).center();
+        QTest::mouseDClick(table_->viewport(), Qt::LeftButton, {}, middle);
+        QCOMPARE(events_.count("click 1 1"), 2);
+        events_.clear();
+        for (const auto key : {Qt::ShiftModifier, Qt::ControlModifier})
+            ClickCell(*table_, 2, 1, key);
+        QCOMPARE(events_, QStringList());
+        QCOMPARE(table_->selectedItems().size(), 2);
+    }
+
+    void SelectedCellsAndHeadingsKeepTheirColours() {
+        controls::SetGridCell(grid_, 1, 0, "", controls::Align::Left, true, false, controls::Green);
+        grid_.FixedBack = controls::DarkCyan;
+        mirror_->Flush();
+        table_->setCurrentCell(0, 0);
+        const QImage cells = table_->viewport()->grab().toImage();
+        QCOMPARE(cells.pixelColor(table_->visualRect(table_->model()->index(0, 0)).center()),
+                 QColor(0, 255, 0));
+        QCOMPARE(table_->horizontalHeader()->grab().toImage().pixelColor(2, 2),
+                 QColor(0, 0xC0, 0xC0));
+    }
+
     void CopyTakesTheSelectedCellsWithTabs() {
         table_->setRangeSelected({0, 1, 1, 2}, true);
         QTest::keyClick(table_.get(), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), "b1\tc1\nb2\tc2\n");
+        table_->clearSelection();
+        QTest::keyClick(table_.get(), Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(!QApplication::clipboard()->text().isEmpty());
     }
 
     void ColumnsGrowWithTheirTextsAndStay() {

@@ -34,9 +34,9 @@ void WhenAsked(QObject& alive, std::function<void(Dialog&)> act) {
         alive, [=] { return dialog() != nullptr; }, [=] { act(*dialog()); });
 }
 
-inline void ClickCell(QTableWidget& table, int row, int column) {
+inline void ClickCell(QTableWidget& table, int row, int column, Qt::KeyboardModifiers keys = {}) {
     const QPoint middle = table.visualRect(table.model()->index(row, column)).center();
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, middle);
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, keys, middle);
 }
 
 inline app::Kelvra& Started(app::Kelvra& kelvra) {

@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QWindow>
 
+#include "desktop/common.h"
 #include "desktop/running_desktop.h"
 
 namespace kelvra::desktop {
@@ -43,8 +44,10 @@ private slots:
         QCOMPARE(frame.geometry(), QRect(20, 20, 300, 250));
         QCOMPARE(resizes, 0);
 
-        frame.windowHandle()->resize(320, 260);  // as the window manager does for a person
+        frame.windowHandle()->setGeometry(50, 60, 320, 260);  // as the window manager does
         QCoreApplication::processEvents();
+        mirror.Flush();
+        QCOMPARE(frame.geometry(), QRect(50, 60, 320, 260));
         QCOMPARE(resizes, 1);
         QCOMPARE(record.Place->width, 4800);
         QCOMPARE(record.Place->height, 3900);
@@ -61,12 +64,31 @@ private slots:
         QCOMPARE(shown.widgets, QList<QWidget*>{&running.Main()});
     }
 
+    void AnEdgeDraggedByAPersonStaysAndIsTheRecords() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& inside = running.Find<QMdiSubWindow>("");
+        QTest::qWait(1);  // its first size comes later
+        const auto& place = running.kelvra.forms.statusForm.Place;
+        const int before = place->width;
+        const QPoint edge(inside.width() - 1, inside.height() / 2);
+        QTest::mouseMove(&inside, edge);
+        QTest::mousePress(&inside, Qt::LeftButton, {}, edge);
+        const QSize wanted = inside.size() + QSize(50, 0);
+        inside.resize(wanted);
+        QTest::mouseRelease(&inside, Qt::LeftButton, {}, edge);
+        inside.resize(wanted + QSize(10, 0));  // nobody's hand
+        running.desktop.Painter().Flush();
+        QCOMPARE(place->width, Twips(wanted.width()));
+        QVERIFY(place->width > before);
+    }
+
     void ASmallerFrameCutsNoWindowInsideIt() {
         const QTemporaryDir data;
         RunningDesktop running(data);
         auto& inside = running.Find<QMdiSubWindow>("");
         running.Main().resize(running.Main().minimumSizeHint() + QSize(0, 60));
-        QCoreApplication::processEvents();
+        QTest::qWait(1);
         QVERIFY(inside.mdiArea()->viewport()->rect().contains(inside.geometry()));
     }
 

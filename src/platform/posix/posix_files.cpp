@@ -122,7 +122,7 @@ bool PosixFiles::Exists(const std::string& path) {
 bool PosixFiles::Writable(const std::string& path) {
     struct stat file {};
     return ::stat(path.c_str(), &file) == 0 && (file.st_mode & 0222) != 0 &&
-           ::access(path.c_str(), W_OK) == 0;
+           ::access(path.c_str(), S_ISDIR(file.st_mode) ? W_OK | X_OK : W_OK) == 0;
 }
 
 std::error_code PosixFiles::MakeFolders(const std::string& path) {

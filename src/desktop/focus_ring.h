@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A ring around whatever in a frame has the focus: the toolkit's own is hardly seen on a dark
+// ground. Tables draw theirs themselves.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace kelvra::desktop {
+
+class FocusRing final : public QWidget {
+public:
+    explicit FocusRing(QWidget* frame);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void Follow(QWidget* focused);
+    void Place();
+
+    QPointer<QWidget> followed_;
+};
+
+}  // namespace kelvra::desktop
