@@ -58,17 +58,17 @@ void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
     platform::ProfileFile file(files_, AppIniPath);
     for (auto& [sensorId, settings] : unsaved_)
         sensors::TransferSettings(settings, file.Text(), Stem(sensorId), Transfer::Write);
-    if (const std::error_code error = file.Save())
-        Tell("saved", error);
-    else
-        unsaved_.clear();
+    const std::error_code error = file.Save();
+    saveFailure_ = error ? Tell("saved", error) : std::string();
+    if (!error) unsaved_.clear();
 }
 
-void SettingsStore::Tell(const char* what, const std::error_code& error) {
+std::string SettingsStore::Tell(const char* what, const std::error_code& error) {
     const std::string text = std::string("The settings could not be ") + what + ": " + AppIniPath +
                              ": " + error.message();
     measure::ShowNotice(window_, text);
     log_.OutputDebug(text);
+    return text;
 }
 
 }  // namespace kelvra::app

@@ -31,15 +31,18 @@ public:
     void Read(const std::vector<sensors::SensorEntry*>& entries);
     // Writes them, with one pass over the file; a sensor without a SensorId is not written.
     void Save(const std::vector<sensors::SensorEntry*>& entries);
+    // What is wrong with the last save, for whoever outlives the windows; empty when all is saved.
+    const std::string& SaveFailure() const { return saveFailure_; }
 
 private:
-    void Tell(const char* what, const std::error_code& error);
+    std::string Tell(const char* what, const std::error_code& error);
 
     platform::Files& files_;
     driver::DebugIf& log_;
     forms::MDIMain& window_;
     std::map<std::string, sensors::SensorSettings> unsaved_;  // by SensorId
     std::set<std::string> unread_;                            // SensorIds
+    std::string saveFailure_;
 };
 
 }  // namespace kelvra::app

@@ -55,6 +55,7 @@ int RunConsole(const options::Options& options) {
     events.Connect(script);
     kelvra.Start();
     events.Run();
+    if (!kelvra.store.SaveFailure().empty()) errors.Line(kelvra.store.SaveFailure());
     return script.Failed() || !output.Good() ? CommandFailed : 0;
 }
 

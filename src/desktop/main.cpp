@@ -53,6 +53,14 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
                      [&kelvra](QSessionManager&) { kelvra.SaveSettings(); });
 }
 
+// The toolkit ends the process where it stands when the display goes away. No way but this one
+// leads to the program from there.
+app::Kelvra* cutOff = nullptr;
+
+void ExitWhenCutOff() {
+    if (cutOff != nullptr) cutOff->MFileExit_Click();
+}
+
 int Run(QApplication& application, const options::Options& chosen) {
     options::Surroundings surroundings(chosen, chosen.words);
     const std::string folder = surroundings.Computer().ProgramFolder();
@@ -70,7 +78,12 @@ int Run(QApplication& application, const options::Options& chosen) {
     ExitWhenAsked(application, kelvra);
     kelvra.Start();
     const desktop::Desktop desktop(kelvra, dialogs, folder);
-    return events.HasQuit() ? 0 : QApplication::exec();
+    cutOff = &kelvra;
+    std::atexit(ExitWhenCutOff);
+    const int status = events.HasQuit() ? 0 : QApplication::exec();
+    cutOff = nullptr;
+    if (!kelvra.store.SaveFailure().empty()) Complain("kelvra: " + kelvra.store.SaveFailure());
+    return status;
 }
 
 }  // namespace

@@ -54,6 +54,7 @@ TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
         EXPECT_TRUE(
             Notice().starts_with("The settings could not be saved: " + folder.Path("Kelvra.INI")))
             << n << Notice();
+        EXPECT_EQ(program->store.SaveFailure(), Notice()) << n;
         EXPECT_EQ(folder.Names().size(), 1U) << n;
         EXPECT_TRUE(fake.events.quit);
     }
