@@ -20,9 +20,9 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     table_->setObjectName("ResultGrid");
     Describe(*table_, "Results");
     window_->setWidget(frame);
-    // Without a close button: there is no way to bring it back.
-    window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                            Qt::WindowMinMaxButtonsHint);
+    // Without buttons: nothing would bring it back, and a maximised one would write into the title
+    // of the program.
+    window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     window_->setWindowIcon(Icon("kelvra"));
 
     auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
