@@ -145,9 +145,11 @@ GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid)
 
 void GridAdapter::Update() {
     const std::array colours{grid_.Back.Get(), grid_.FixedBack.Get(), grid_.EmptyBack.Get()};
-    if (widget_.rowCount() != grid_.Rows() - 1 || widget_.columnCount() != grid_.Columns() ||
-        colours != colours_) {
+    std::vector<int> widths;
+    for (int column = 0; column < grid_.Columns(); ++column) widths.push_back(grid_.Width(column));
+    if (widget_.rowCount() != grid_.Rows() - 1 || widths != widths_ || colours != colours_) {
         colours_ = colours;
+        widths_ = std::move(widths);
         Shape();
     }
     for (const auto& [row, column] : grid_.TakeChangedCells()) {

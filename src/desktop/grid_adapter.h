@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "controls/grid.h"
 #include "desktop/adapter.h"
@@ -66,7 +67,9 @@ private:
 
     controls::Grid& grid_;
     GridWidget& widget_;
-    std::array<std::optional<controls::Colour>, 3> colours_{};  // shown: cells, heading, empty part
+    // What is shown: colours of cells, heading, empty part; widths of the columns in twips.
+    std::array<std::optional<controls::Colour>, 3> colours_{};
+    std::vector<int> widths_;
 };
 
 }  // namespace kelvra::desktop

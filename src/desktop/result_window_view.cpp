@@ -37,8 +37,8 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
 }
 
 // All columns and rows are in sight, as far as the area has room and unless a person wants it
-// otherwise. Later, in one go: a table that
-// fills itself asks often, and has its sizes when it is laid out.
+// otherwise. Later, in one go: a table that fills itself asks often, and has its sizes when it is
+// laid out.
 void ResultWindowView::FitWindow() {
     if (fitting_) return;
     fitting_ = true;

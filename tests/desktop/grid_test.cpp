@@ -133,8 +133,10 @@ private slots:
         QCOMPARE(table_->item(2, 0)->text(), "a3");
         QCOMPARE(table_->horizontalHeaderItem(2)->text(), "c0");
         grid_.SetRows(4);
+        grid_.SetWidth(1, 3000);
         mirror_->Flush();
         QCOMPARE(table_->rowCount(), 3);
+        QCOMPARE(table_->columnWidth(1), 200);
     }
 
     void TheWheelZoomsInSteps() {
