@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "desktop/desktop.h"

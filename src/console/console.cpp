@@ -2,7 +2,6 @@
 #include "console/console.h"
 
 #include <cstdio>
-#include <memory>
 #include <utility>
 
 #include "app/kelvra.h"

@@ -43,6 +43,8 @@ public:
     // Width of a column in twips; 0 is the design's own.
     int Width(int column) const { return widths_[static_cast<std::size_t>(column)]; }
 
+    const std::vector<int>& Widths() const { return widths_; }
+
     void SetRows(int rows);  // new cells are empty
     void SetWidth(int column, int width);
 

@@ -2,7 +2,7 @@
 // The desktop front end: the whole program behind Qt Widgets.
 #pragma once
 
-#include <memory>
+#include <string>
 
 #include "app/kelvra.h"
 #include "desktop/main_window_view.h"

@@ -145,23 +145,24 @@ GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid)
 
 void GridAdapter::Update() {
     const std::array colours{grid_.Back.Get(), grid_.FixedBack.Get(), grid_.EmptyBack.Get()};
-    std::vector<int> widths;
-    for (int column = 0; column < grid_.Columns(); ++column) widths.push_back(grid_.Width(column));
-    if (widget_.rowCount() != grid_.Rows() - 1 || widths != widths_ || colours != colours_) {
+    const auto changed = grid_.TakeChangedCells();
+    if (widget_.rowCount() != grid_.Rows() - 1 || grid_.Widths() != widths_ ||
+        colours != colours_) {
         colours_ = colours;
-        widths_ = std::move(widths);
+        widths_ = grid_.Widths();
         Shape();
-    }
-    for (const auto& [row, column] : grid_.TakeChangedCells()) {
-        if (row == 0)
-            ShowHeading(column);
-        else
-            ShowCell(row, column);
+    } else {
+        for (const auto& [row, column] : changed) {
+            if (row == 0)
+                ShowHeading(column);
+            else
+                ShowCell(row, column);
+        }
     }
     UpdateCommon(widget_, grid_);
 }
 
-// The first time, and whenever the grid has grown or changed its colours: every cell is shown.
+// The first time, and whenever the grid has other rows, widths or colours: every cell is shown.
 void GridAdapter::Shape() {
     widget_.setRowCount(grid_.Rows() - 1);
     widget_.setColumnCount(grid_.Columns());
@@ -187,7 +188,7 @@ void GridAdapter::FitColumns() {
     for (int row = 0; row < widget_.rowCount(); ++row)
         widget_.setRowHeight(row, metrics.height() + CellMargin / 2);
     widget_.updateGeometry();
-    if (onGrowth) onGrowth();
+    if (onNeed) onNeed();
 }
 
 void GridAdapter::ShowHeading(int column) {
@@ -236,7 +237,7 @@ void GridAdapter::Widen(int column, const QString& text, const QFont& font) {
     const int needed = std::min(TextWidth(text, font), widget_.MostColumnWidth());
     if (needed <= widget_.columnWidth(column)) return;
     widget_.setColumnWidth(column, needed);
-    if (onGrowth) onGrowth();
+    if (onNeed) onNeed();
 }
 
 }  // namespace kelvra::desktop

@@ -57,7 +57,7 @@ public:
     // After a change of the font: columns and heading get the room that they need.
     void FitColumns();
     // Told when the table needs other room than before.
-    std::function<void()> onGrowth;
+    std::function<void()> onNeed;
 
 private:
     void Shape();

@@ -210,7 +210,7 @@ QWidget* MainWindowView::BuildFormulas() {
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
     auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *formulas_);
     formulas_->onFit = [shown = adapter.get()] { shown->FitColumns(); };
-    adapter->onGrowth = [this] { KeepResultsInSight(); };
+    adapter->onNeed = [this] { KeepResultsInSight(); };
     mirror_.Add(form_.CalcGrid, std::move(adapter));
     // Where room is short the formula gives way: names and results are what is read.
     formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);

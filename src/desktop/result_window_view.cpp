@@ -27,7 +27,7 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
 
     auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
     adapter_ = adapter.get();
-    adapter_->onGrowth = [this] { FitWindow(); };
+    adapter_->onNeed = [this] { FitWindow(); };
     table_->onFit = [this] { adapter_->FitColumns(); };
     window_->onRoom = [this] { FitWindow(); };
     mirror.Add(form.SensorFrame, std::make_unique<FrameAdapter>(form.SensorFrame, *frame));

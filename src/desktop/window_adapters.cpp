@@ -79,7 +79,6 @@ QSize ChildWindow::Room() const {
 }
 
 void ChildWindow::ResizeInside(const QSize& wanted) {
-    if (isMaximized() || isMinimized()) return;
     resize(wanted.boundedTo(Room()).expandedTo(minimumSizeHint()));
 }
 
@@ -110,7 +109,7 @@ void ChildWindow::mouseReleaseEvent(QMouseEvent* event) {
 
 void ChildWindow::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
-    if (!held_ || isMaximized() || isMinimized()) return;
+    if (!held_) return;
     sizedByPerson_ = true;
     ReportSize(window_, *event);
 }

@@ -115,7 +115,7 @@ private slots:
 
     void ColumnsGrowWithTheirTextsAndStay() {
         int growths = 0;
-        adapter_->onGrowth = [&] { ++growths; };
+        adapter_->onNeed = [&] { ++growths; };
         const int before = table_->columnWidth(1);
         for (const char* text : {"a text as long as this one is wide", "short"}) {
             Set(1, 1, text);
