@@ -57,7 +57,7 @@ void TimeDiscovery() {
     benchmarks::ConsoleRun run(*clock, [](platform::Duration) { return std::string(); });
     benchmarks::PlugIn<Sensors>(run.kelvra, true);
     const double begin = ProcessorTime();
-    for (int tick = 0; tick < ticks; ++tick) run.kelvra.discovery.SensSearch_Timer();
+    for (int tick = 0; tick < ticks; ++tick) run.kelvra.discovery.Search();
     const double perTick = (ProcessorTime() - begin) / ticks;
     std::printf("discovery: %.1f us a tick over %d sensors, %.4f %% of a core\n", 1e6 * perTick,
                 Sensors, 100 * perTick / TickInterval);

@@ -93,7 +93,7 @@ void PlugIn(app::Kelvra& kelvra, bool complete) {
     PlugInSettings(kelvra.library.instrument);
     PlugInMeasuring(kelvra.library.instrument, complete);
     PlugInDevices<Sensors>(kelvra.library.deviceList);
-    kelvra.discovery.SensSearch_Timer();
+    kelvra.discovery.Search();
 }
 
 }  // namespace kelvra::benchmarks

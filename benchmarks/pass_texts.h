@@ -25,7 +25,7 @@ struct Row {
 
     void Show(double powerW, int pass) {
         const util::NumberForm form;
-        const double level = util::W2dBm(powerW);
+        const double level = util::WToDbm(powerW);
         const std::string bar(static_cast<std::size_t>(pass % 8 + 1), '|');
         Put(activity, bar + '.');
         Put(activity, bar);
@@ -42,7 +42,7 @@ struct Formulas {
 
     void Show(double oneW, double otherW) {
         const util::NumberForm form;
-        const double apart = std::abs(util::W2dBm(oneW) - util::W2dBm(otherW));
+        const double apart = std::abs(util::WToDbm(oneW) - util::WToDbm(otherW));
         const double root = std::sqrt(oneW / otherW);
         Put(difference, util::FixedText(apart, 3, form));
         Put(ratio, util::FixedText((1 + root) / (1 - root), 3, form));

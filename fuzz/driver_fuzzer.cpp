@@ -166,7 +166,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     forms::MDIMain& window = kelvra.forms.mdiMain;
     fake.events.onRound = [&](int round) {
         if (round > mostRounds)
-            kelvra.MFileExit_Click();
+            kelvra.Exit();
         else if (input.Empty())
             window.StopIt.Press();
         else
@@ -180,7 +180,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             fake.events.DoEvents({});
         }
     }
-    kelvra.MFileExit_Click();
+    kelvra.Exit();
     if (!kelvra.state.exiting || kelvra.state.commandRuns || kelvra.session.instrumentHandle != 0)
         std::abort();
     return 0;

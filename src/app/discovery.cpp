@@ -12,7 +12,7 @@ namespace kelvra::app {
 using sensors::SensorEntry;
 using sensors::SensorTable;
 
-void Discovery::SensSearch_Timer() {
+void Discovery::Search() {
     if (p_.state.exiting || running_ || p_.table.Slots() == 0) return;
     if (Rests()) {
         ShowConnection();

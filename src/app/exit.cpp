@@ -8,9 +8,9 @@ void Kelvra::SaveSettings() {
     store.Save(table.Present());
 }
 
-void Kelvra::MFileExit_Click() {
+void Kelvra::Exit() {
     if (state.exiting) return;
-    if (state.Measuring) cycle.StopIt_Click();
+    if (state.Measuring) cycle.Stop();
     state.exiting = true;
     if (!table.SimulationMode) driverSession.Close();
     SaveSettings();

@@ -22,9 +22,9 @@ void Place(controls::Window& window, const Geometry& place) {
 
 MainWindow::MainWindow(forms::Forms& forms, measure::MeasureState& state, platform::Host& host)
     : forms_(forms), state_(state), host_(host) {
-    forms_.mdiMain.Resize.Connect([this] { MDIForm_Resize(); });
-    forms_.mdiMain.Show_Settings.Click.Connect([this] { Show_Settings_Click(); });
-    forms_.mdiMain.SettingAlwaysOnTop.Click.Connect([this] { SettingAlwaysOnTop_Click(); });
+    forms_.mdiMain.Resize.Connect([this] { ArrangeWindows(); });
+    forms_.mdiMain.Show_Settings.Click.Connect([this] { ShowSettings(); });
+    forms_.mdiMain.SettingAlwaysOnTop.Click.Connect([this] { ToggleAlwaysOnTop(); });
     forms_.mdiMain.Helpfunction.Click.Connect([this] {
         platform::Computer& computer = host_.computer;
         host_.dialogs.OpenHelp(computer.Join(computer.ProgramFolder(), "KelvraHelp.chm"), 0);
@@ -71,7 +71,7 @@ void MainWindow::PlaceWindows() {
         display->Visible = false;
 }
 
-void MainWindow::MDIForm_Resize() {
+void MainWindow::ArrangeWindows() {
     forms_.scopeDisp.Visible = state_.ScopeModeActive;
     forms_.timeSlotDisp.Visible = state_.TimeSlotModeActive;
     forms_.timeSlotTabForm.Visible = state_.TimeSlotModeActive;
@@ -94,7 +94,7 @@ void MainWindow::PlaceDisplays() {
     }
 }
 
-void MainWindow::Show_Settings_Click() {
+void MainWindow::ShowSettings() {
     controls::Window& dialog = forms_.setupForm;
     const Geometry& table = forms_.statusForm.Place.Get();
     dialog.Place = Geometry{table.left + table.width + Margin, Margin, dialog.Place->width,
@@ -103,7 +103,7 @@ void MainWindow::Show_Settings_Click() {
     dialog.Tag = "shown";
 }
 
-void MainWindow::SettingAlwaysOnTop_Click() {
+void MainWindow::ToggleAlwaysOnTop() {
     controls::MenuItem& item = forms_.mdiMain.SettingAlwaysOnTop;
     item.Checked = !item.Checked.Get();
     AlwaysOnTop(forms_.setupForm, item.Checked);

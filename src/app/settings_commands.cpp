@@ -13,11 +13,11 @@ constexpr const char* Stem = "Sensor";
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
                                    platform::Host& host)
     : table_(table), host_(host) {
-    forms.mdiMain.Load_Sensor_Settings.Click.Connect([this] { Load_Sensor_Settings_Click(); });
-    forms.mdiMain.Save_Sensor_Settings.Click.Connect([this] { Save_Sensor_Settings_Click(); });
+    forms.mdiMain.Load_Sensor_Settings.Click.Connect([this] { LoadSensorSettings(); });
+    forms.mdiMain.Save_Sensor_Settings.Click.Connect([this] { SaveSensorSettings(); });
 }
 
-void SettingsCommands::Load_Sensor_Settings_Click() {
+void SettingsCommands::LoadSensorSettings() {
     platform::FileQuestion question;
     question.title = "Load sensor configuration";
     question.filter = "Sensor Configuration (*.ini)|*.ini|All files (*.*)|*.*";
@@ -32,7 +32,7 @@ void SettingsCommands::Load_Sensor_Settings_Click() {
                               sensors::Transfer::Read);
 }
 
-void SettingsCommands::Save_Sensor_Settings_Click() {
+void SettingsCommands::SaveSensorSettings() {
     platform::FileQuestion question;
     question.title = "Save sensor configuration";
     question.filter = "Sensor Configuration (*.ini)|*.ini";

@@ -67,7 +67,7 @@ std::string SettingsStore::Tell(const char* what, const std::error_code& error) 
     const std::string text = std::string("The settings could not be ") + what + ": " + AppIniPath +
                              ": " + error.message();
     measure::ShowNotice(window_, text);
-    log_.OutputDebug(text);
+    log_.Write(text);
     return text;
 }
 

@@ -35,7 +35,7 @@ void Kelvra::Start() {
     library.Load(host.computer, log);
     forms.mdiMain.Caption = Title();
     store.AppIniPath = host.computer.Join(host.computer.ProgramFolder(), "Kelvra.INI");
-    host.events.StartTimer(SearchInterval, [this] { discovery.SensSearch_Timer(); });
+    host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
     forms.mdiMain.FileSaveData.Enabled = false;
     CreateTable();
     LayOutGrids();
@@ -55,10 +55,10 @@ void Kelvra::StartDebugLog() {
                             "The debug log can't be written: " + path + ": " + reason);
     };
     const std::string commandLine = util::UpperCase(host.computer.CommandLine());
-    log.STAT = commandLine.find("DEBUG") != std::string::npos;
-    log.DebugFileName = host.computer.DrivePath(DebugFile);
-    log.TimeSamping = true;
-    log.KillOld();
+    log.enabled = commandLine.find("DEBUG") != std::string::npos;
+    log.path = host.computer.DrivePath(DebugFile);
+    log.timeStamps = true;
+    log.RemoveOld();
 }
 
 std::string Kelvra::Title() {
@@ -69,7 +69,7 @@ std::string Kelvra::Title() {
     title += " from ";
     if (const auto date = host.computer.ProgramFileDate())
         title += Number(date->month) + "/" + Number(date->day) + "/" + Number(date->year);
-    if (log.STAT) title += " [DEBUG MODE]";
+    if (log.enabled) title += " [DEBUG MODE]";
     return title;
 }
 
@@ -93,7 +93,7 @@ void Kelvra::LayOutGrids() {
 }
 
 void Kelvra::StartDiscovery() {
-    discovery.SensSearch_Timer();
+    discovery.Search();
     forms.setupForm.SensLogicalName.SetText(table[0].LogicalName);
     selection.UpdateSensSelect();
     table.DeviceTableChanged = true;

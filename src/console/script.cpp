@@ -98,7 +98,7 @@ void Script::End() {
     ended_ = true;
     interrupted_ = EndRequested();
     if (context_.typedInto != nullptr) std::exchange(context_.typedInto, nullptr)->Leave();
-    p_.kelvra.MFileExit_Click();
+    p_.kelvra.Exit();
 }
 
 }  // namespace kelvra::console

@@ -47,7 +47,7 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
         new QSocketNotifier(platform::TerminationDescriptor(), QSocketNotifier::Read, &application);
     QObject::connect(notifier, &QSocketNotifier::activated, [notifier, &kelvra] {
         notifier->setEnabled(false);
-        kelvra.MFileExit_Click();
+        kelvra.Exit();
     });
     QObject::connect(&application, &QGuiApplication::commitDataRequest,
                      [&kelvra](QSessionManager&) { kelvra.SaveSettings(); });
@@ -58,7 +58,7 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
 app::Kelvra* cutOff = nullptr;
 
 void ExitWhenCutOff() {
-    if (cutOff != nullptr) cutOff->MFileExit_Click();
+    if (cutOff != nullptr) cutOff->Exit();
 }
 
 int Run(QApplication& application, const options::Options& chosen) {

@@ -6,28 +6,28 @@
 
 namespace kelvra::driver {
 
-void DebugIf::OutputDebug(std::string_view text) {
-    if (!STAT) return;
-    const std::error_code error = platform::AppendToFile(files_, DebugFileName, Line(text));
+void DebugLog::Write(std::string_view text) {
+    if (!enabled) return;
+    const std::error_code error = platform::AppendToFile(files_, path, Line(text));
     if (!error || failed_) return;
     failed_ = true;
-    if (onFailure) onFailure(DebugFileName, error.message());
+    if (onFailure) onFailure(path, error.message());
 }
 
-std::string DebugIf::Line(std::string_view text) {
+std::string DebugLog::Line(std::string_view text) {
     std::string line;
-    if (TimeSamping) {
+    if (timeStamps) {
         const auto timeOfDay = static_cast<float>(clock_.Now().SecondsSinceMidnight());
         line = util::GroupedText(timeOfDay, numbers_) + ":";
     }
-    if (!util::TrimSpaces(DebugHeader).empty()) line += " " + DebugHeader;
+    if (!util::TrimSpaces(header).empty()) line += " " + header;
     return line.append(text).append("\r\n");
 }
 
-void DebugIf::KillOld() {
-    if (DebugFileName.empty() || !files_.Exists(DebugFileName)) return;
-    const std::error_code error = files_.Remove(DebugFileName);
-    if (error && STAT && onFailure) onFailure(DebugFileName, error.message());
+void DebugLog::RemoveOld() {
+    if (path.empty() || !files_.Exists(path)) return;
+    const std::error_code error = files_.Remove(path);
+    if (error && enabled && onFailure) onFailure(path, error.message());
 }
 
 }  // namespace kelvra::driver

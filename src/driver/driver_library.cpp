@@ -7,20 +7,20 @@ namespace kelvra::driver {
 
 namespace {
 
-std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugIf& log,
+std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugLog& log,
                                            const char* name, OperationList& operations) {
     platform::LoadedLibrary loaded = computer.LoadDriverLibrary(name);
     operations.libraryFile = loaded.fileName;
     operations.libraryLoaded = loaded.library != nullptr;
     operations.whyNotLoaded = loaded.why;
     if (!loaded.library) {
-        log.OutputDebug("Driver library " + loaded.fileName + " was not loaded: " + loaded.why);
+        log.Write("Driver library " + loaded.fileName + " was not loaded: " + loaded.why);
         return nullptr;
     }
     for (OperationBase* operation : operations.all) {
         operation->address = loaded.library->Find(operation->name);
         if (operation->address == nullptr)
-            log.OutputDebug("Driver library " + loaded.fileName + " has no function " +
+            log.Write("Driver library " + loaded.fileName + " has no function " +
                             operation->name);
     }
     return std::move(loaded.library);
@@ -28,7 +28,7 @@ std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugIf
 
 }  // namespace
 
-void DriverLibrary::Load(platform::Computer& computer, DebugIf& log) {
+void DriverLibrary::Load(platform::Computer& computer, DebugLog& log) {
     instrumentLibrary_ = LoadOne(computer, log, "psdrv_32", instrument);
     deviceListLibrary_ = LoadOne(computer, log, "TeskControl2", deviceList);
 }

@@ -46,8 +46,8 @@ void Session::OpenSensor(int slot) {
 }
 
 Status Session::OpenFirst(const std::string& resource) {
-    if (log.STAT)
-        log.OutputDebug("psdrv_init(" + resource + ", 1, 1," +
+    if (log.enabled)
+        log.Write("psdrv_init(" + resource + ", 1, 1," +
                         util::NumberText(std::int64_t{state.instrumentHandle}) + ") STARTING");
     Handle opened = 0;
     const Status status =
@@ -55,21 +55,21 @@ Status Session::OpenFirst(const std::string& resource) {
     if (status == 0) state.instrumentHandle = opened;
     host_.clock.Sleep(OpeningPause);
     ReportError(status, 0, "psdrv_init");
-    if (log.STAT)
-        log.OutputDebug("psdrv_init FINISHED -> instrumentHandle: " +
+    if (log.enabled)
+        log.Write("psdrv_init FINISHED -> instrumentHandle: " +
                         util::NumberText(std::int64_t{state.instrumentHandle}));
     return status;
 }
 
 Status Session::AddFurther(int slot, const std::string& resource) {
-    if (log.STAT)
-        log.OutputDebug("psdrv_AddSensor(" + Trimmed(state.instrumentHandle) + ", " +
+    if (log.enabled)
+        log.Write("psdrv_AddSensor(" + Trimmed(state.instrumentHandle) + ", " +
                         Trimmed(ChannelOf(slot)) + ", " + resource + ", 1, 1) STARTING");
     const Status status = operations.psdrv_AddSensor(state.instrumentHandle, ChannelOf(slot),
                                                      resource.c_str(), CheckIdentity, ResetDevice);
     host_.clock.Sleep(OpeningPause);
     ReportError(status, slot, "psdrv_AddSensor");
-    log.OutputDebug("psdrv_AddSensor FINISHED");
+    log.Write("psdrv_AddSensor FINISHED");
     if (status != 0) table_[slot].Enabled = false;
     return status;
 }
@@ -84,12 +84,12 @@ void Session::Close() {
 
 template <class Call>
 void Session::Framed(bool logged, const OperationBase& operation, Status status, Call call) {
-    const bool write = logged && log.STAT;
+    const bool write = logged && log.enabled;
     const std::string name(operation.name);
     if (write)
-        log.OutputDebug(name + "( " + ArgumentText(state.instrumentHandle, status) + " ) STARTING");
+        log.Write(name + "( " + ArgumentText(state.instrumentHandle, status) + " ) STARTING");
     call();
-    if (write) log.OutputDebug(name + " -> FINISHED");
+    if (write) log.Write(name + " -> FINISHED");
 }
 
 std::string Session::Message(Status status, bool logged) {
@@ -129,15 +129,15 @@ bool Session::CheckStatus(Status status, bool closeOnError) {
 
 void Session::ReportError(Status status, int slot, const char* context) {
     if (status == 0) return;
-    if (log.STAT)
-        log.OutputDebug("   ERROR: Session " +
+    if (log.enabled)
+        log.Write("   ERROR: Session " +
                         util::NumberText(std::int64_t{state.instrumentHandle}) + ", Code " +
                         util::NumberText(std::int64_t{status}) + "=0x" +
                         util::HexText(static_cast<std::uint32_t>(status)));
     const std::string message = Message(status, false);
-    log.OutputDebug("   error_message: " + message);
+    log.Write("   error_message: " + message);
     const std::string query = Query(status, false);
-    log.OutputDebug("   error_query: '" + query + "'");
+    log.Write("   error_query: '" + query + "'");
     std::string& text = table_[slot].LastErrorText;
     text += std::string(context) + "\r\n  " + message + "\r\n  " + query + "\r\n";
     notices_.ShowSensorError(true, slot, text, false);

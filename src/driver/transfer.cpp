@@ -120,7 +120,7 @@ void SendTrigger(SettingsSender& send, InstrumentOperations& op, const SensorSet
     send(op.psdrv_trigger_setSlope, "Trigger Slope", std::int32_t{s.TrigSlope});
     send.Send(LogForm::NameAlone, op.psdrv_trigger_setDelay, "Trigger Delay", s.TrigDelay);
     send(op.psdrv_trigger_setCount, "Trigger Count", s.TrigCount);
-    send(op.psdrv_trigger_setLevel, "Trigger Level", util::dBmToW(s.TrigLevel));
+    send(op.psdrv_trigger_setLevel, "Trigger Level", util::DbmToW(s.TrigLevel));
     send(op.psdrv_trigger_setHysteresis, "Trigger Hysteresis", s.TrigHyster);
     send(op.psdrv_trigger_setHoldoff, "Trigger HoldOff", s.TrigHoldOff);
 }
@@ -203,13 +203,13 @@ std::string LogHeader(Handle handle, int slot) {
 }
 
 void ResetChannel(Session& session, int slot) {
-    if (session.log.STAT)
-        session.log.OutputDebug(
+    if (session.log.enabled)
+        session.log.Write(
             "psdrv_chan_reset(" +
             util::TrimmedNumberText(std::int64_t{session.state.instrumentHandle}) + ", " +
             util::TrimmedNumberText(std::int64_t{ChannelOf(slot)}) + ") STARTING");
     session.operations.psdrv_chan_reset(session.state.instrumentHandle, ChannelOf(slot));
-    session.log.OutputDebug("psdrv_chan_reset -> FINISHED");
+    session.log.Write("psdrv_chan_reset -> FINISHED");
 }
 
 }  // namespace
@@ -222,7 +222,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         marks_.TransferBegins(slot);
         ResetChannel(session_, slot);
         entry.LastErrorText.clear();
-        session_.log.DebugHeader = LogHeader(session_.state.instrumentHandle, slot);
+        session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
 
         SettingsSender send(session_, slot);
         InstrumentOperations& op = session_.operations;
@@ -237,7 +237,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
             SendMode(send, op, entry.Settings);
         }
 
-        session_.log.DebugHeader.clear();
+        session_.log.header.clear();
         notices_.ShowSensorError(!entry.LastErrorText.empty(), slot, entry.LastErrorText, false);
         entry.SettingsChanged = false;
         session_.state.ConfigRunning = false;

@@ -25,7 +25,7 @@ std::optional<double> ReadingOf(const sensors::SensorTable& table, const Reading
     const bool scalar =
         entry.Settings.Mode == sensors::ContinuousAverage || entry.Settings.Mode == sensors::Burst;
     if (!entry.Present || !entry.Enabled || !scalar) return std::nullopt;
-    return name.inDbm ? util::W2dBm(std::abs(entry.LastReading)) : entry.LastReading;
+    return name.inDbm ? util::WToDbm(std::abs(entry.LastReading)) : entry.LastReading;
 }
 
 }  // namespace
@@ -39,7 +39,7 @@ ReadingName ParseReadingName(std::string_view name) {
 
 CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host)
     : grid_(window.CalcGrid), table_(table), host_(host) {
-    grid_.Click.Connect([this](int row, int column) { CalcGrid_Click(row, column); });
+    grid_.Click.Connect([this](int row, int column) { EditCell(row, column); });
 }
 
 void CalcGrid::LayOut() {
@@ -104,7 +104,7 @@ std::string CalcGrid::BindReadings(parser::MathParser& parser) {
 }
 
 // Whatever the prompt gives back is the cell's new text; a cancelled one empties the cell.
-void CalcGrid::CalcGrid_Click(int row, int column) {
+void CalcGrid::EditCell(int row, int column) {
     if (row < 1 || row > FormulaRows) return;
     const std::string answer =
         host_.dialogs.Prompt("INPUT:", grid_.At(row, column).Text()).value_or("");

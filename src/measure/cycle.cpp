@@ -82,7 +82,7 @@ bool Cycle::PrepareSlot(int slot) {
 // there is no session for the others.
 void Cycle::TakeOut(int slot) {
     measured_[static_cast<std::size_t>(slot)] = false;
-    if (slot == 0) StopIt_Click();
+    if (slot == 0) Stop();
 }
 
 void Cycle::Configure(int slot) {
@@ -94,12 +94,12 @@ void Cycle::Configure(int slot) {
 
 void Cycle::Initiate() {
     if (p_.table.SimulationMode) return;
-    driver::DebugIf& log = p_.session.log;
+    driver::DebugLog& log = p_.session.log;
     const driver::Handle handle = p_.session.state.instrumentHandle;
-    if (log.STAT)
-        log.OutputDebug("psdrv_chans_initiate( " + driver::ArgumentText(handle) + " ) STARTING");
+    if (log.enabled)
+        log.Write("psdrv_chans_initiate( " + driver::ArgumentText(handle) + " ) STARTING");
     p_.session.operations.psdrv_chans_initiate(handle);
-    log.OutputDebug("psdrv_chans_initiate -> TeskSession FINISHED");
+    log.Write("psdrv_chans_initiate -> TeskSession FINISHED");
 }
 
 // One reading of the clock serves a round, and the first round has that of the pass.
@@ -132,7 +132,7 @@ bool Cycle::PollSlot(int slot, platform::Duration now) {
 
 bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     driver::InstrumentOperations& op = p_.session.operations;
-    driver::DebugIf& log = p_.session.log;
+    driver::DebugLog& log = p_.session.log;
     const driver::Handle handle = p_.session.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     if (p_.table[slot].TriggerNowRequest) {
@@ -140,14 +140,14 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
                            handle, channel);
         p_.table[slot].TriggerNowRequest = false;
     }
-    const std::string name = log.STAT ? op.psdrv_chan_isMeasurementComplete.name : "";
+    const std::string name = log.enabled ? op.psdrv_chan_isMeasurementComplete.name : "";
     driver::Switch complete = 0;
-    if (log.STAT)
-        log.OutputDebug(name + "( " + driver::ArgumentText(handle, channel, complete) +
+    if (log.enabled)
+        log.Write(name + "( " + driver::ArgumentText(handle, channel, complete) +
                         " ) STARTING");
     const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
-    if (log.STAT)
-        log.OutputDebug(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
+    if (log.enabled)
+        log.Write(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
     ShowWaiting(slot, status, now);
     return complete != 0;
 }

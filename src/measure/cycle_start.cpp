@@ -24,11 +24,11 @@ Cycle::Cycle(const CycleParts& parts)
     : p_(parts),
       speed_(parts.forms.mdiMain, parts.host),
       pacing_(parts.state, parts.host, parts.notices) {
-    p_.forms.mdiMain.StartIt.Click.Connect([this] { StartIt_Click(); });
-    p_.forms.mdiMain.StopIt.Click.Connect([this] { StopIt_Click(); });
+    p_.forms.mdiMain.StartIt.Click.Connect([this] { Start(); });
+    p_.forms.mdiMain.StopIt.Click.Connect([this] { Stop(); });
 }
 
-void Cycle::StartIt_Click() {
+void Cycle::Start() {
     if (p_.state.commandRuns || p_.state.exiting) return;
     const CommandGuard guard(p_.state);
     BeginMeasuring();
@@ -63,7 +63,7 @@ void Cycle::StartIt_Click() {
     Close();
 }
 
-void Cycle::StopIt_Click() {
+void Cycle::Stop() {
     p_.state.Measuring = false;
     p_.state.StopRequested = true;
     p_.state.RecordInterval = 0;

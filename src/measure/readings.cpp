@@ -28,13 +28,13 @@ std::string Number(double value) {
 
 // The frame of a call that gives back a value: the value stands in both lines.
 template <class Value>
-void FramedFetch(driver::DebugIf& log, const char* name, driver::Handle handle,
+void FramedFetch(driver::DebugLog& log, const char* name, driver::Handle handle,
                  driver::Channel channel, const Value& value, auto call) {
-    if (log.STAT)
-        log.OutputDebug(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
+    if (log.enabled)
+        log.Write(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
                         Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
     call();
-    if (log.STAT) log.OutputDebug(std::string(name) + " -> " + Number(value) + " ) FINISHED");
+    if (log.enabled) log.Write(std::string(name) + " -> " + Number(value) + " ) FINISHED");
 }
 
 }  // namespace
@@ -94,12 +94,12 @@ int Readings::FetchArray(int slot) {
     const driver::Channel channel = driver::ChannelOf(slot);
     const std::string name = session_.operations.psdrv_meass_fetchBufferMeasurement.name;
     std::int32_t count = 0;
-    if (session_.log.STAT)
-        session_.log.OutputDebug(
+    if (session_.log.enabled)
+        session_.log.Write(
             name + "( " + driver::ArgumentText(handle, channel, ArraySize, count) + " ) STARTING");
     session_.operations.psdrv_meass_fetchBufferMeasurement(handle, channel, ArraySize,
                                                            table_[slot].Results.data(), &count);
-    if (session_.log.STAT) session_.log.OutputDebug(name + " -> " + Number(count) + " FINISHED");
+    if (session_.log.enabled) session_.log.Write(name + " -> " + Number(count) + " FINISHED");
     return count;
 }
 

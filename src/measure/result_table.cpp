@@ -24,8 +24,8 @@ int RowOf(int slot) {
 ResultTable::ResultTable(forms::Forms& forms, sensors::SensorTable& table,
                          SensorSelection& selection)
     : grid_(forms.statusForm.ResultGrid), table_(table), selection_(selection) {
-    grid_.MouseDown.Connect([this](int row, int column) { ResultGrid_MouseDown(row, column); });
-    grid_.Click.Connect([this](int row, int column) { ResultGrid_Click(row, column); });
+    grid_.MouseDown.Connect([this](int row, int column) { PressCell(row, column); });
+    grid_.Click.Connect([this](int row, int column) { ClickCell(row, column); });
 }
 
 void ResultTable::LayOut() {
@@ -106,11 +106,11 @@ bool ResultTable::IsName(int row, int column) const {
     return column == NameColumn && row >= 1 && row <= table_.Slots();
 }
 
-void ResultTable::ResultGrid_MouseDown(int row, int column) {
+void ResultTable::PressCell(int row, int column) {
     if (IsName(row, column)) selection_.Select(row - 1);
 }
 
-void ResultTable::ResultGrid_Click(int row, int column) {
+void ResultTable::ClickCell(int row, int column) {
     if (!IsName(row, column)) return;
     ToggleEnabled(row - 1);
     selection_.Select(row - 1);

@@ -8,7 +8,7 @@ namespace kelvra::measure {
 
 SensorSelection::SensorSelection(forms::Forms& forms, sensors::SensorTable& table)
     : forms_(forms), table_(table) {
-    forms_.mdiMain.TimeSensor_select_new.Click.Connect([this] { TimeSensor_select_new_Click(); });
+    forms_.mdiMain.TimeSensor_select_new.Click.Connect([this] { ChooseInMainWindow(); });
 }
 
 void SensorSelection::UpdateSensSelect() {
@@ -38,7 +38,7 @@ void SensorSelection::Select(int slot) {
     forms_.setupForm.SensLogicalName.SetText(table_[slot].LogicalName);
 }
 
-void SensorSelection::TimeSensor_select_new_Click() {
+void SensorSelection::ChooseInMainWindow() {
     Select(forms_.mdiMain.TimeSensor_select_new.Data());
 }
 

@@ -16,7 +16,7 @@ struct Level {
 };
 
 double Draw(const Level& level, util::Random& random) {
-    return util::dBmToW(static_cast<double>(random.Next()) * level.spread + level.base);
+    return util::DbmToW(static_cast<double>(random.Next()) * level.spread + level.base);
 }
 
 constexpr Level FirstSensor{0.1, -8.72};

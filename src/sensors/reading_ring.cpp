@@ -39,7 +39,7 @@ void ReadingRing::Add(double powerW) {
     }
     const auto place = static_cast<std::size_t>(index_);
     values_[place] = powerW;
-    levels_[place] = util::W2dBm(std::abs(powerW));
+    levels_[place] = util::WToDbm(std::abs(powerW));
 }
 
 std::optional<double> ReadingRing::Sigma() const {

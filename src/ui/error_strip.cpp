@@ -74,7 +74,7 @@ void ErrorStrip::RecoverAfterTransfer(int slot) {
     Clear();
     const bool reopened = Reopen(slot);
     if (recovery_->state.exiting) return;
-    recovery_->cycle.StopIt_Click();
+    recovery_->cycle.Stop();
     measure::ShowNotice(forms_.mdiMain,
                         std::string("The driver session was lost and ") +
                             (reopened ? "has been opened again" : "could not be opened again") +

@@ -11,16 +11,16 @@ constexpr double SmallestPowerW = 1e-100;
 constexpr double dBmPerW = 30;
 }  // namespace
 
-double W2dBm(double powerW) {
+double WToDbm(double powerW) {
     const double counted = powerW <= 0 ? SmallestPowerW : powerW;
     return 10 * (std::log(counted) / std::numbers::ln10) + dBmPerW;
 }
 
 void ArrayW2dBm(std::span<double> values) {
-    for (double& value : values) value = W2dBm(std::abs(value));
+    for (double& value : values) value = WToDbm(std::abs(value));
 }
 
-double dBmToW(double levelDbm) {
+double DbmToW(double levelDbm) {
     return std::pow(10, levelDbm / 10 - 3);
 }
 

@@ -20,8 +20,8 @@ class DriverTest : public testing::Test, public SensorNotices, public TransferMa
 protected:
     DriverTest() {
         test::FakeDriver::PutInto(operations_, test::FakeDriver::InstrumentFunctions());
-        log_.DebugFileName = folder_.Path("log");
-        log_.STAT = true;
+        log_.path = folder_.Path("log");
+        log_.enabled = true;
         table_.Resize(8);
         for (int slot = 0; slot < 3; ++slot) {
             table_[slot].ResourceName = "USB::" + std::to_string(slot + 1);
@@ -58,7 +58,7 @@ protected:
     SessionState state_;
     InstrumentOperations operations_;
     sensors::SensorTable table_;
-    DebugIf log_{*files_, fake_.clock, fake_.computer.numbers};
+    DebugLog log_{*files_, fake_.clock, fake_.computer.numbers};
     Session session_{state_, operations_, log_, table_, fake_.host, *this};
     ConfigurationTransfer transfer_{session_, table_, *this, *this};
     Lines shown_;

@@ -135,7 +135,7 @@ TEST_F(TransferTest, SendsWhatEachSettingAsksFor) {
 
 TEST_F(TransferTest, EachCallHasItsTwoLinesInTheLog) {
     SensorSettings settings = sensors::DefaultSettings();
-    log_.TimeSamping = true;
+    log_.timeStamps = true;
     Sent(settings);
     settings.AvgMode = 1;
     settings.CorrFreqVal = .1;
@@ -207,7 +207,7 @@ TEST_F(TransferTest, ShowsItsErrorsAtOnceAndAgainAtItsEndElseClearsTheStrip) {
     EXPECT_EQ(shown_, (Lines{error, error}));
     EXPECT_FALSE(table_[0].SettingsChanged);
     EXPECT_FALSE(state_.ConfigRunning);
-    EXPECT_EQ(log_.DebugHeader, "");
+    EXPECT_EQ(log_.header, "");
     EXPECT_EQ(marks_, (Lines{"begins 0", "ends 0"}));
     shown_.clear();
     driver_.status = nullptr;

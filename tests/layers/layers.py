@@ -1,28 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Fails when an include breaks the layers, or a room below the front ends uses more than the standard
-library and (in platform/posix alone) the system's own headers."""
+"""Fails when an include breaks the layers of src/rooms.txt, when a room below the front ends uses more
+than the standard library and (in platform/posix alone) the system's own headers, or when the page that
+explains the rooms shows another table."""
 
 import re
 import sys
 import tempfile
 from pathlib import Path
 
-# What each room may include beside itself.
-SEES = {
-    "util": set(),
-    "platform": {"util"},
-    "controls": {"platform", "util"},
-    "sensors": {"platform", "util"},
-    "forms": {"controls", "platform", "util"},
-    "parser": {"platform", "util"},
-    "driver": {"sensors", "platform", "util"},
-    "measure": {"driver", "parser", "forms", "sensors", "controls", "platform", "util"},
-}
-SEES["ui"] = SEES["measure"] | {"measure"}
-SEES["app"] = SEES["ui"] | {"ui"}
-SEES["options"] = {"platform", "util"}  # the command line, read alike by both front ends
-SEES["console"] = SEES["desktop"] = SEES["app"] | {"app", "options"}
 FRONT_ENDS = {"options", "console", "desktop"}
 
 STANDARD = set("""algorithm any array atomic bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes
@@ -36,31 +22,52 @@ STANDARD = set("""algorithm any array atomic bit bitset cassert cctype cerrno cf
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
+def table_rows(text):
+    return [line.split() for line in text.splitlines() if line and not line.startswith("#")]
+
+
+def rooms_seen(text):
+    """Each room with all that it sees, directly or through what it sees."""
+    seen = {}
+    for room, *lower in table_rows(text):
+        seen[room] = set(lower).union(*(seen[name] for name in lower))
+    return seen
+
+
 def findings(source):
+    seen = rooms_seen((source / "rooms.txt").read_text(encoding="utf-8"))
     found = []
     for file in sorted(source.rglob("*")):
         if file.suffix not in (".cpp", ".h"):
             continue
         parts = file.relative_to(source).parts
-        room = parts[0]
         for bracket, target in INCLUDE.findall(file.read_text(encoding="utf-8")):
-            why = complaint(parts, room, bracket, target)
+            why = complaint(seen, parts, bracket, target)
             if why:
                 found.append(f"{'/'.join(parts)}: {target}: {why}")
     return found
 
 
-def complaint(parts, room, bracket, target):
-    if room not in SEES:
+def complaint(seen, parts, bracket, target):
+    room = parts[0]
+    if room not in seen:
         return "no such room"
+    own_system = parts[:2] == ("platform", "posix")
     if bracket == '"':
         other = target.split("/")[0]
-        if other == room or other in SEES[room]:
+        if other == room or other in seen[room] or (own_system and other == "posix"):
             return None
         return f"{room} does not see {other}"
-    if target in STANDARD or room in FRONT_ENDS or parts[:2] == ("platform", "posix"):
+    if target in STANDARD or room in FRONT_ENDS or own_system:
         return None
     return "not of the standard library"
+
+
+def page_differs(source, page):
+    """The page repeats the table, row by row, in a block of its own."""
+    table = table_rows((source / "rooms.txt").read_text(encoding="utf-8"))
+    blocks = re.findall(r"^```\n(.*?)^```$", page.read_text(encoding="utf-8"), re.MULTILINE | re.DOTALL)
+    return all(table_rows(block) != table for block in blocks)
 
 
 def self_test():
@@ -75,22 +82,27 @@ def self_test():
         "driver/bare.h": '#include "session.h"',
     }
     right = {
-        "platform/posix/files.cpp": "#include <unistd.h>",
-        "console/options.cpp": '#include <CLI/CLI.hpp>\n#include "app/kelvra.h"',
-        "measure/cycle.h": '#include "forms/forms.h"\n#include <vector>',
+        "platform/posix/files.cpp": '#include <unistd.h>\n#include "posix/files.h"',
+        "console/include/console/options.h": '#include <CLI/CLI.hpp>\n#include "app/kelvra.h"',
+        "ui/calc_grid.cpp": '#include "forms/forms.h"\n#include "parser/math_parser.h"\n#include <vector>',
     }
     with tempfile.TemporaryDirectory() as folder:
         root = Path(folder)
-        for name, text in {**wrong, **right}.items():
+        table = (Path(__file__).parents[2] / "src" / "rooms.txt").read_text(encoding="utf-8")
+        for name, text in {**wrong, **right, "rooms.txt": table, "page.md": f"```\n{table}```\n"}.items():
             (root / name).parent.mkdir(parents=True, exist_ok=True)
             (root / name).write_text(text + "\n", encoding="utf-8")
         named = {line.split(":")[0] for line in findings(root)}
-    return named == set(wrong)
+        same = not page_differs(root, root / "page.md")
+        (root / "page.md").write_text(f"```\n{table}attic app\n```\n", encoding="utf-8")
+        return named == set(wrong) and same and page_differs(root, root / "page.md")
 
 
 if __name__ == "__main__":
     if sys.argv[1] == "--self-test":
         sys.exit(0 if self_test() else 1)
     problems = findings(Path(sys.argv[1]))
+    if page_differs(Path(sys.argv[1]), Path(sys.argv[2])):
+        problems.append(f"{sys.argv[2]} shows another table than rooms.txt")
     print("\n".join(problems))
     sys.exit(1 if problems else 0)

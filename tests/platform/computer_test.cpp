@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_computer.h"
+#include "posix/posix_computer.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "platform/posix/posix_clock.h"
-#include "platform/posix/posix_files.h"
+#include "posix/posix_clock.h"
+#include "posix/posix_files.h"
 #include "support/temp_folder.h"
 
 namespace kelvra::platform {

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/posix/posix_files.h"
+#include "posix/posix_files.h"
 #include "platform/profile_file.h"
 #include "support/faulty_files.h"
 #include "support/temp_folder.h"

@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/posix/posix_files.h"
+#include "posix/posix_files.h"
 #include "platform/profile_file.h"
 #include "support/temp_folder.h"
 

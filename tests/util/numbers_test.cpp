@@ -62,13 +62,13 @@ TEST(Levels, APowerIsItsLevelAndBackAndNoPowerHasTheLowest) {
     const std::pair<double, double> cases[] = {
         {1, 30}, {0.001, 0}, {1e-6, -30}, {2, 33.0102999566398}, {1e-100, -970}};
     for (const auto& [powerW, levelDbm] : cases) {
-        EXPECT_NEAR(W2dBm(powerW), levelDbm, 1e-11) << powerW;
-        EXPECT_NEAR(dBmToW(levelDbm) / powerW, 1, 1e-12) << levelDbm;
+        EXPECT_NEAR(WToDbm(powerW), levelDbm, 1e-11) << powerW;
+        EXPECT_NEAR(DbmToW(levelDbm) / powerW, 1, 1e-12) << levelDbm;
     }
     for (const double powerW : std::array<double, 4>{0, -0.0, -1, -INFINITY})
-        EXPECT_NEAR(W2dBm(powerW), -970, 1e-11) << powerW;
-    EXPECT_TRUE(std::isnan(W2dBm(NAN)));
-    EXPECT_EQ(W2dBm(INFINITY), INFINITY);
+        EXPECT_NEAR(WToDbm(powerW), -970, 1e-11) << powerW;
+    EXPECT_TRUE(std::isnan(WToDbm(NAN)));
+    EXPECT_EQ(WToDbm(INFINITY), INFINITY);
     std::array values{-0.001, 0.0};
     ArrayW2dBm(values);  // by magnitude
     EXPECT_NEAR(values[0], 0, 1e-12);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/local_time.h"
+#include "posix/local_time.h"
 
 #include <algorithm>
 #include <ctime>

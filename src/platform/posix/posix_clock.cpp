@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_clock.h"
+#include "posix/posix_clock.h"
 
 #include <ctime>
 #include <thread>
 
-#include "platform/posix/local_time.h"
+#include "posix/local_time.h"
 
 namespace kelvra::platform {
 

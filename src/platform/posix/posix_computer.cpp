@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_computer.h"
+#include "posix/posix_computer.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "platform/posix/posix_library.h"
+#include "posix/posix_library.h"
 #include "platform/profile_file.h"
 
 namespace kelvra::platform {

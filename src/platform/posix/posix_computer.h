@@ -10,7 +10,7 @@
 #include "platform/computer.h"
 #include "platform/files.h"
 #include "platform/native.h"
-#include "platform/posix/posix_locale.h"
+#include "posix/posix_locale.h"
 
 namespace kelvra::platform {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_files.h"
+#include "posix/posix_files.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "platform/posix/local_time.h"
+#include "posix/local_time.h"
 
 namespace kelvra::platform {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_library.h"
+#include "posix/posix_library.h"
 
 #include <dlfcn.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/posix/posix_line_input.h"
+#include "posix/posix_line_input.h"
 
 #include <poll.h>
 #include <unistd.h>

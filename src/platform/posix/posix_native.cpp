@@ -7,10 +7,10 @@
 #include <csignal>
 
 #include "platform/native.h"
-#include "platform/posix/posix_clock.h"
-#include "platform/posix/posix_computer.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_line_input.h"
+#include "posix/posix_clock.h"
+#include "posix/posix_computer.h"
+#include "posix/posix_files.h"
+#include "posix/posix_line_input.h"
 
 namespace kelvra::platform {
 

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Sensors come and go while the program runs: twice a second this looks which are connected, keeps
+// each in its slot, loads and saves settings, and without any sensor offers two simulated ones. It
+// never calls the measurement driver, and rests while a measurement or a sensor command runs.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/settings_store.h"
+#include "driver/device_list.h"
+#include "driver/session.h"
+#include "forms/forms.h"
+#include "measure/result_table.h"
+#include "measure/sensor_selection.h"
+#include "measure/state.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::app {
+
+struct DiscoveryParts {
+    forms::Forms& forms;
+    sensors::SensorTable& table;
+    driver::DeviceCatalogue& catalogue;
+    driver::SessionState& session;
+    measure::MeasureState& state;
+    measure::ResultTable& results;
+    measure::SensorSelection& selection;
+    driver::SensorNotices& notices;
+    SettingsStore& store;
+};
+
+class Discovery {
+public:
+    explicit Discovery(const DiscoveryParts& parts) : p_(parts) {}
+
+    // The handler of the search timer. Entered again, or before there is a table, it does nothing.
+    void Search();
+
+private:
+    void Tick();
+    bool Rests() const;
+    void ShowConnection();
+    void SaveWhatHasGone();
+    void SizeTable();
+    void RealSensors();
+    void AssignDevices();
+    void FindPresent();
+    void Appear(int slot, const driver::DeviceListEntry& device);
+    void NameSensor(int slot, const driver::DeviceListEntry& device);
+    void Simulation();
+    void EnterSimulation();
+    void SwitchPresentOn();
+    void ReleasePresent();
+    void Repaint();
+    const driver::DeviceListEntry* DeviceOf(const sensors::SensorEntry& entry) const;
+    std::vector<bool> EnabledSlots() const;
+
+    DiscoveryParts p_;
+    bool running_ = false;
+    std::string currentBefore_;     // SensorId of the current sensor when all were released
+    bool changed_ = false;          // in this tick: the table is to be painted
+    bool presenceChanged_ = false;  // in this tick: the lists are to be filled
+    bool vanished_ = false;         // in this tick: a known sensor has gone
+};
+
+}  // namespace kelvra::app

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The two driver libraries in this process: loaded by name, their functions found by the names of
+// the operations. Neither a missing library nor a missing function is an error here; the log says
+// so, and calls fail.
+#pragma once
+
+#include <memory>
+
+#include "driver/debug_log.h"
+#include "driver/operations.h"
+#include "platform/computer.h"
+
+namespace kelvra::driver {
+
+class DriverLibrary {
+public:
+    void Load(platform::Computer& computer, DebugLog& log);
+
+    InstrumentOperations instrument;
+    DeviceListOperations deviceList;
+
+private:
+    std::unique_ptr<platform::Library> instrumentLibrary_;
+    std::unique_ptr<platform::Library> deviceListLibrary_;
+};
+
+// Why a call gave MissingFunction, in words.
+std::string MissingText(const OperationList& operations, const OperationBase& missing);
+
+}  // namespace kelvra::driver

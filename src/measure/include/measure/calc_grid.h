@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The calculation grid: two formulas of the user's over the latest readings, computed once a pass.
+// A click on a cell asks for its new text. The formula language itself is parser/.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "forms/main_window.h"
+#include "parser/math_parser.h"
+#include "platform/host.h"
+#include "sensors/sensor_table.h"
+
+namespace kelvra::measure {
+
+class CalcGrid {
+public:
+    CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host);
+
+    // Heading and the two default rows.
+    void LayOut();
+
+    // Writes the result of both rows: the value as "0.000" (0.000 for a formula that fails), or
+    // "---" when a variable names no sensor with a scalar reading. A row without a name is left
+    // alone. The result cell's tooltip says what is wrong.
+    void Compute();
+
+private:
+    static constexpr int FormulaRows = 2;
+
+    // A row's evaluator, made when the row is computed first, and the formula that is in it.
+    struct Evaluator {
+        std::unique_ptr<parser::MathParser> parser;
+        std::string formula;
+    };
+
+    void ComputeRow(int row);
+    parser::MathParser& EvaluatorOf(int row);
+    // Name of the first variable that has no reading, empty if all have one; binds the others.
+    std::string BindReadings(parser::MathParser& parser);
+    void EditCell(int row, int column);
+
+    controls::Grid& grid_;
+    sensors::SensorTable& table_;
+    platform::Host& host_;
+    Evaluator evaluators_[FormulaRows];
+};
+
+// What a variable's name means: "X2W" is the second slot in W, "X1dB" the first one in dBm.
+struct ReadingName {
+    int slot = -1;  // -1: the name has neither form
+    bool inDbm = false;
+};
+ReadingName ParseReadingName(std::string_view name);
+
+}  // namespace kelvra::measure

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measurement.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "scenario_reader.h"
+
+namespace kelvra::virtual_sensors {
+namespace {
+
+using Changes = std::vector<std::pair<Setting, double>>;
+
+SettingValues With(const Changes& changes) {
+    SettingValues settings;
+    for (const auto& [setting, value] : changes) EXPECT_TRUE(settings.Set(setting, value));
+    return settings;
+}
+
+// A sensor that sees 1 mW with the given noise.
+Scenario OneSensor(const std::string& noise) {
+    ScenarioResult result =
+        ReadScenario("source g 0 dBm\nsensor PS-101 1\nsees g 0 dB\nnoise " + noise, "test");
+    EXPECT_EQ(result.error, "");
+    return result.scenario;
+}
+
+TEST(Corrections, MultiplyThePower) {
+    const std::pair<Changes, double> cases[] = {
+        {{}, 1},
+        {{{Setting::corr_setOffset, 10}}, 1},  // not switched on
+        {{{Setting::corr_setOffset, 10}, {Setting::corr_setOffsetEnabled, 1}}, 10},
+        {{{Setting::corr_setDutyCycle, 25}, {Setting::corr_setDutyCycleEnabled, 1}}, 4},
+        {{{Setting::corr_setSParamDeviceEnabled, 1}}, 1.0232929922807541},
+        {{{Setting::chan_setSourceGammaCorrEnabled, 1}}, 0.9025},
+        {{{Setting::chan_setCorrectionFrequency, 5e9}}, 1.0092528860766844},
+    };
+    for (const auto& [changes, factor] : cases)
+        EXPECT_NEAR(CorrectionFactor(With(changes)), factor, 1e-12);
+}
+
+TEST(Measurement, CompletesAfterItsTriggerOnly) {
+    constexpr double Never = 1e9;
+    // When it completes after a start at 1 s and a software trigger at 2 s.
+    const std::pair<Changes, double> cases[] = {
+        {{}, 1.04},
+        {{{Setting::trigger_setDelay, 0.5}}, 1.54},
+        {{{Setting::trigger_setSource, 2}}, 2.04},
+        {{{Setting::trigger_setSource, 1}}, 1.24},  // external, each 0.3 s
+        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 0.9e-3}}, 1.04},
+        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 1.1e-3}}, Never},
+    };
+    Scenario scenario = OneSensor("0 dB");
+    scenario.externalPeriod = 0.3;
+    for (const auto& [changes, time] : cases) {
+        VirtualSensor sensor(scenario, 0);
+        Measurement measurement;
+        measurement.Start(With(changes), sensor, scenario, 1);
+        if (time > 2 && time != Never) measurement.Trigger(2);
+        EXPECT_FALSE(measurement.Complete(sensor, time - 0.001)) << time;
+        EXPECT_EQ(measurement.Complete(sensor, time + 0.001), time != Never) << time;
+    }
+}
+
+TEST(Noise, FallsWithTheSquareRootOfTheAveraging) {
+    VirtualSensor sensor(OneSensor("1 uW"), 0);
+    for (const double count : {1.0, 100.0}) {
+        double sum = 0;
+        double squares = 0;
+        for (int i = 0; i < 10000; ++i) {
+            const double deviation = (sensor.Measure(count) - 1e-3) * 1e6;
+            sum += deviation;
+            squares += deviation * deviation;
+        }
+        EXPECT_NEAR(sum / 10000, 0, 0.05);
+        EXPECT_NEAR(std::sqrt(squares / 10000) * std::sqrt(count), 1, 0.05);
+    }
+}
+
+}  // namespace
+}  // namespace kelvra::virtual_sensors

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The bench's own time in seconds from its first use. It follows the computer's, or it advances
+// by a fixed step at each poll and at each look at the device list, so that runs repeat exactly.
+#pragma once
+
+#include <chrono>
+
+#include "scenario.h"
+
+namespace kelvra::virtual_sensors {
+
+class BenchClock {
+public:
+    explicit BenchClock(const Scenario& scenario)
+        : computer_(scenario.computerTime),
+          pollStep_(scenario.pollStep),
+          lockStep_(scenario.lockStep) {}
+
+    double Now() const {
+        if (!computer_) return polls_ * pollStep_ + locks_ * lockStep_;
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+    }
+
+    // A function is being called; some of them move the counted time on.
+    void Meet(Operation operation) {
+        if (operation == Operation::psdrv_chan_isMeasurementComplete ||
+            operation == Operation::psdrv_chan_isZeroComplete) {
+            ++polls_;
+        } else if (operation == Operation::TeskLockDeviceList) {
+            ++locks_;
+        }
+    }
+
+private:
+    bool computer_;
+    double pollStep_;
+    double lockStep_;
+    double polls_ = 0;  // counted, for steps that are added up would drift
+    double locks_ = 0;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+}  // namespace kelvra::virtual_sensors

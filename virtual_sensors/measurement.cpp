@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measurement.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <numbers>
+
+namespace kelvra::virtual_sensors {
+namespace {
+
+constexpr double MaxCount = 65536;
+constexpr double BurstLength = 1e-3;       // s
+constexpr double FrequencySlope = 0.02;    // dB per decade above 50 MHz
+constexpr double OwnReflection = 0.05;     // of the sensor's input, at 0 degrees
+constexpr double DeviceAttenuation = 0.1;  // dB, of the device that S parameters describe
+
+double FromDb(double db) {
+    return std::pow(10, db / 10);
+}
+
+// Traces have averaging settings of their own.
+struct AveragingSettings {
+    Setting enabled, automatic, type, resolution, ratio, maxTime, count;
+};
+constexpr AveragingSettings OfReadings{Setting::avg_setEnabled,
+                                       Setting::avg_setAutoEnabled,
+                                       Setting::avg_setAutoType,
+                                       Setting::avg_setAutoResolution,
+                                       Setting::avg_setAutoNoiseSignalRatio,
+                                       Setting::avg_setAutoMaxMeasuringTime,
+                                       Setting::avg_setCount};
+constexpr AveragingSettings OfTraces{Setting::scope_setAverageEnabled,
+                                     Setting::scope_setAutoEnabled,
+                                     Setting::scope_setAutoType,
+                                     Setting::scope_setAutoResolution,
+                                     Setting::scope_setAutoNoiseSignalRatio,
+                                     Setting::scope_setAutoMaxMeasuringTime,
+                                     Setting::scope_setAverageCount};
+
+enum class TriggerSource : uint8_t { Single, External, Hold, Immediate, Internal };
+
+int32_t PointCount(const SettingValues& settings) {
+    switch (ModeOf(settings)) {
+        case Mode::Buffered:
+            return static_cast<int32_t>(settings[Setting::chan_setContAvBufferSize]);
+        case Mode::Slots:
+            return static_cast<int32_t>(settings[Setting::slotCount]);
+        case Mode::Trace:
+            return static_cast<int32_t>(settings[Setting::scope_setPoints]);
+        default:
+            return 1;
+    }
+}
+
+// When the trigger comes; nothing when it never does or when software gives it.
+std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSensor& sensor,
+                                  const Scenario& scenario, double now) {
+    switch (static_cast<TriggerSource>(settings[Setting::trigger_setSource])) {
+        case TriggerSource::Immediate:
+            return now;
+        case TriggerSource::External: {
+            if (!scenario.externalPeriod) return std::nullopt;
+            return (std::floor(now / *scenario.externalPeriod) + 1) * *scenario.externalPeriod;
+        }
+        case TriggerSource::Internal:
+            if (sensor.SeenW() > settings[Setting::trigger_setLevel]) return now;
+            return std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool AwaitsSoftware(const SettingValues& settings) {
+    const auto source = static_cast<TriggerSource>(settings[Setting::trigger_setSource]);
+    return source == TriggerSource::Single || source == TriggerSource::Hold;
+}
+
+}  // namespace
+
+SettingValues::SettingValues() {
+    for (std::size_t i = 0; i < SettingCount; ++i) {
+        values_[i] = LimitsOf(static_cast<Setting>(i)).afterReset;
+    }
+}
+
+bool SettingValues::Set(Setting setting, double value) {
+    const SettingLimits& limits = LimitsOf(setting);
+    if (!(value >= limits.smallest && value <= limits.largest)) return false;
+    values_[static_cast<std::size_t>(setting)] = value;
+    return true;
+}
+
+Mode ModeOf(const SettingValues& settings) {
+    return static_cast<Mode>(settings[Setting::chan_mode]);
+}
+
+bool GivesArray(Mode mode) {
+    return mode != Mode::Average && mode != Mode::Burst;
+}
+
+int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor) {
+    const AveragingSettings& of = ModeOf(settings) == Mode::Trace ? OfTraces : OfReadings;
+    if (!settings.IsOn(of.enabled)) return 1;
+    if (!settings.IsOn(of.automatic)) return static_cast<int32_t>(settings[of.count]);
+    const double wantedDb =
+        settings.IsOn(of.type) ? settings[of.ratio] : std::pow(10, 1 - settings[of.resolution]);
+    const double needed = std::pow(sensor.NoiseDb() / wantedDb, 2);
+    const double allowed = std::floor(settings[of.maxTime] / Duration(settings, 1));
+    const auto rounded =
+        std::bit_ceil(static_cast<uint32_t>(std::min(std::ceil(needed), MaxCount)));
+    return static_cast<int32_t>(std::clamp(allowed, 1.0, static_cast<double>(rounded)));
+}
+
+double Duration(const SettingValues& settings, int32_t count) {
+    const double aperture = 2 * settings[Setting::chan_setContAvAperture];
+    const double points = PointCount(settings);
+    switch (ModeOf(settings)) {
+        case Mode::Average:
+            return aperture * count;
+        case Mode::Buffered:
+            return aperture * count * points;
+        case Mode::Slots:
+            return settings[Setting::slotWidth] * count * points;
+        case Mode::Burst:
+            return (BurstLength + settings[Setting::chan_setBurstDropoutTolerance]) * count;
+        case Mode::Trace:
+            break;
+    }
+    const double offset = std::max(settings[Setting::scope_setOffsetTime], 0.0);
+    return (settings[Setting::scope_setTime] + offset) * count;
+}
+
+double CorrectionFactor(const SettingValues& settings) {
+    const double decades = std::log10(settings[Setting::chan_setCorrectionFrequency] / 5e7);
+    double factor = FromDb(FrequencySlope * std::max(decades, 0.0));
+    if (settings.IsOn(Setting::corr_setOffsetEnabled)) {
+        factor *= FromDb(settings[Setting::corr_setOffset]);
+    }
+    if (settings.IsOn(Setting::corr_setDutyCycleEnabled)) {
+        factor /= settings[Setting::corr_setDutyCycle] / 100;
+    }
+    if (settings.IsOn(Setting::corr_setSParamDeviceEnabled)) factor *= FromDb(DeviceAttenuation);
+    if (settings.IsOn(Setting::chan_setSourceGammaCorrEnabled)) {
+        // |1 - G1 G2|^2 of the two reflections
+        const double product = OwnReflection * settings[Setting::chan_setSourceGammaMagnitude];
+        const double phase = settings[Setting::chan_setSourceGammaPhase] * std::numbers::pi / 180;
+        factor *= 1 - 2 * product * std::cos(phase) + product * product;
+    }
+    return factor;
+}
+
+void Measurement::Start(const SettingValues& settings, const VirtualSensor& sensor,
+                        const Scenario& scenario, double now) {
+    mode_ = ModeOf(settings);
+    points_ = PointCount(settings);
+    count_ = AverageCount(settings, sensor);
+    factor_ = CorrectionFactor(settings);
+    const double planned = settings[Setting::trigger_setDelay] + Duration(settings, count_);
+    afterTrigger_ =
+        scenario.fixedDuration.value_or(std::max(planned, 0.0) * scenario.durationFactor);
+    awaitsSoftware_ = AwaitsSoftware(settings);
+    readyAt_ = TriggerTime(settings, sensor, scenario, now);
+    if (readyAt_) *readyAt_ += afterTrigger_;
+    resultW_.clear();
+}
+
+void Measurement::Trigger(double now) {
+    if (!awaitsSoftware_) return;
+    awaitsSoftware_ = false;
+    readyAt_ = now + afterTrigger_;
+}
+
+bool Measurement::Complete(VirtualSensor& sensor, double now) {
+    if (!readyAt_ || now < *readyAt_) return false;
+    if (resultW_.empty()) {
+        resultW_.resize(static_cast<std::size_t>(points_));
+        for (double& value : resultW_) value = sensor.Measure(count_) * factor_;
+    }
+    return true;
+}
+
+}  // namespace kelvra::virtual_sensors

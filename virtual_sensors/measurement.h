@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One channel's measurement: what its settings mean for duration, averaging and result, and how
+// it goes from its start through the trigger to the result. Sessions start it, callers poll it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "scenario.h"
+#include "virtual_sensor.h"
+
+namespace kelvra::virtual_sensors {
+
+// What a channel has been set to.
+class SettingValues {
+public:
+    SettingValues();  // as after a reset
+
+    double operator[](Setting setting) const { return values_[static_cast<std::size_t>(setting)]; }
+    bool IsOn(Setting setting) const { return (*this)[setting] != 0; }
+
+    // False, and nothing changes, for a value that its limits exclude or that is not a number.
+    bool Set(Setting setting, double value);
+
+private:
+    std::array<double, SettingCount> values_{};
+};
+
+enum class Mode : uint8_t { Average, Buffered, Slots, Burst, Trace };
+Mode ModeOf(const SettingValues& settings);
+bool GivesArray(Mode mode);
+
+// How often each value is averaged, 1 to 65536: as set, or so that the sensor's noise falls to
+// what is wanted, but not for longer than the settling-time limit allows.
+int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor);
+
+// Duration in s of one measurement averaged `count` times, from its trigger on.
+double Duration(const SettingValues& settings, int32_t count);
+
+// By how much the corrections multiply a power.
+double CorrectionFactor(const SettingValues& settings);
+
+class Measurement {
+public:
+    // Begins anew; the former result is gone. Times are the bench's, in s.
+    void Start(const SettingValues& settings, const VirtualSensor& sensor, const Scenario& scenario,
+               double now);
+
+    // A software trigger; means nothing to a measurement that does not wait for one.
+    void Trigger(double now);
+
+    // Whether it has ended. The result is drawn the first time that this is so.
+    bool Complete(VirtualSensor& sensor, double now);
+
+    // Nothing until it has been seen complete.
+    const std::vector<double>& ResultW() const { return resultW_; }
+    Mode ResultMode() const { return mode_; }
+
+private:
+    bool awaitsSoftware_ = false;
+    std::optional<double> readyAt_;  // nothing: not started, or the trigger has not come
+    double afterTrigger_ = 0;        // s from the trigger to the result
+    int32_t count_ = 1;
+    int32_t points_ = 1;
+    double factor_ = 1;
+    Mode mode_ = Mode::Average;
+    std::vector<double> resultW_;
+};
+
+}  // namespace kelvra::virtual_sensors

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a scenario says about the bench: its sensors, what they see, and what goes wrong when.
+// Plain data; how it is written down is the reader's business, what it does is the bench's.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "operations.h"
+
+namespace kelvra::virtual_sensors {
+
+struct Source {
+    std::string name;
+    double levelDbm = 0;
+};
+
+struct Sight {
+    std::size_t source = 0;  // index in Scenario::sources
+    double couplingDb = 0;
+};
+
+struct SensorPlan {
+    std::string type;
+    std::string serial;
+    std::string name;
+    std::size_t index = 0;  // in the device list
+    std::vector<Sight> sees;
+    double noiseDb = 0;  // standard deviation of a single measurement
+    double noiseW = 0;
+    bool plugged = true;
+};
+
+// Plugging or unplugging a sensor, at a time or when a function is called for the n-th time.
+struct Event {
+    std::optional<Operation> operation;
+    int64_t call = 0;
+    double time = 0;  // s, used without an operation
+    bool plug = false;
+    std::size_t sensor = 0;  // index in Scenario::sensors
+};
+
+// What some calls of a function do wrong. Only the calls of the channel count, when one is given.
+struct Fault {
+    enum class Effect : uint8_t { Status, Unended, Count, Value };
+
+    Operation operation = Operation::psdrv_init;
+    int64_t first = 1;
+    int64_t last = std::numeric_limits<int64_t>::max();
+    int32_t channel = 0;  // 0: every channel
+    Effect effect = Effect::Status;
+    int32_t number = 0;   // status or count
+    double value = 0;     // reading
+    std::string message;  // of the status, empty for the driver's own
+};
+
+struct Scenario {
+    uint64_t seed = 1;
+    bool computerTime = true;
+    double pollStep = 0.001;              // s, unless computerTime
+    double lockStep = 1;                  // s, likewise
+    std::optional<double> fixedDuration;  // s, of every measurement
+    double durationFactor = 1;
+    double zeroDuration = 3;               // s
+    std::optional<double> externalPeriod;  // s, nothing: no external trigger ever comes
+    std::vector<Source> sources;
+    std::vector<SensorPlan> sensors;
+    std::vector<Event> events;
+    std::vector<Fault> faults;
+};
+
+// Four sensors of different kinds, two of them at the two arms of a coupler.
+std::string_view BuiltInScenario();
+
+}  // namespace kelvra::virtual_sensors

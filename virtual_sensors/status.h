@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the virtual driver answers when it refuses a call: the codes and their plain texts.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace kelvra::virtual_sensors {
+
+enum class Status : int32_t {
+    Ok = 0,
+    BadHandle = -2001,
+    BadResource = -2002,
+    NotConnected = -2003,
+    ChannelNotOpen = -2004,
+    SensorInUse = -2005,
+    ValueOutOfRange = -2006,
+    ModeNotOffered = -2007,
+    NoResult = -2008,
+    NoScalarResult = -2009,
+    NoArrayResult = -2010,
+    BadIndex = -2011,
+    MissingPointer = -2012,
+    TooManySessions = -2013,
+    InternalFailure = -2014,
+};
+
+// Any code is answered; one that the driver does not know is "Unknown status" and its number.
+std::string MessageOf(int32_t status);
+
+}  // namespace kelvra::virtual_sensors

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One sensor of the bench: whether it is plugged in, what it sees, and its noise. What a channel
+// has set (averaging, corrections, trigger) is not the sensor's business.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <string>
+
+#include "models.h"
+#include "scenario.h"
+
+namespace kelvra::virtual_sensors {
+
+class VirtualSensor {
+public:
+    VirtualSensor(const Scenario& scenario, std::size_t number);
+
+    const SensorPlan& Plan() const { return plan_; }
+    const Model& Kind() const { return model_; }
+
+    bool Plugged() const { return plugged_; }
+    // Counts the times that the sensor was plugged in: a channel opened before is dead.
+    int64_t Plugging() const { return plugging_; }
+    void Plug(bool plugged);
+
+    // The power of all sources it sees, in W.
+    double SeenW() const { return seenW_; }
+
+    // Standard deviation of a single measurement in dB; infinite where there is noise alone.
+    double NoiseDb() const;
+
+    // One measurement in W, averaged `count` times. May be negative where noise prevails.
+    double Measure(double count);
+
+    // Item `index` as "name:value"; index must be below InfoCount.
+    std::string Info(std::size_t index) const;
+    static const std::size_t InfoCount;
+
+    std::string SelfTest() const;
+
+private:
+    double Normal();
+
+    SensorPlan plan_;
+    const Model& model_;
+    bool plugged_;
+    int64_t plugging_ = 1;
+    double seenW_ = 0;
+    std::mt19937_64 random_;
+};
+
+}  // namespace kelvra::virtual_sensors
