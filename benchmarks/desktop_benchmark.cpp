@@ -68,7 +68,7 @@ double KelvraPass() {
     DesktopRun run;
     benchmarks::PlugIn<2>(run.kelvra, true);
     PassTimer timer;
-    run.Measure([&] { return timer.Looks(run.kelvra.state.Passes); });
+    run.Measure([&] { return timer.Looks(run.kelvra.state.passes); });
     return timer.Microseconds();
 }
 
@@ -132,8 +132,8 @@ void WatchMemory() {
     benchmarks::PlugIn<2>(run.kelvra, true);
     long before = 0;
     run.Measure([&] {
-        if (before == 0 && run.kelvra.state.Passes >= first) before = Memory("VmRSS");
-        return run.kelvra.state.Passes >= last;
+        if (before == 0 && run.kelvra.state.passes >= first) before = Memory("VmRSS");
+        return run.kelvra.state.passes >= last;
     });
     std::printf("a million passes: %ld KiB resident before, %ld KiB more after\n", before,
                 Memory("VmRSS") - before);
@@ -181,9 +181,9 @@ public:
           button_(run.Find<QPushButton>("Show_Settings")),
           answer_(run.Find<QLabel>("SensorLabel")),
           count_(count) {
-        run.kelvra.forms.mdiMain.Show_Settings.Click.Connect([this, &run] {
+        run.kelvra.forms.mdiMain.Show_Settings.click.Connect([this, &run] {
             raised_.push_back(Since(sent_));
-            run.kelvra.forms.mdiMain.SensorLabel.Caption =
+            run.kelvra.forms.mdiMain.SensorLabel.caption =
                 QString::number(raised_.size()).toStdString();
         });
         application.onPaint = [this](QObject& widget) {
@@ -262,18 +262,18 @@ void TimeClicks(WatchedApplication& application, const char* what, const char* d
     folder.Put("bench.scenario", scenario);
     qputenv("KELVRA_BENCH", folder.Path("bench.scenario").c_str());
     DesktopRun run(QCoreApplication::applicationDirPath().toStdString() + "/../bench");
-    if (run.kelvra.table.SimulationMode) {
+    if (run.kelvra.table.simulationMode) {
         std::printf("click: there are no virtual sensors\n");
         return;
     }
     benchmarks::RunEvents(milliseconds(1000));
     std::optional<Clicks> clicks;  // from the first pass on
     run.Measure([&] {
-        if (!clicks && run.kelvra.state.Passes > 0) clicks.emplace(application, run, ClickCount);
+        if (!clicks && run.kelvra.state.passes > 0) clicks.emplace(application, run, ClickCount);
         return clicks && clicks->Done();
     });
     clicks->Print(what);
-    std::printf("    meanwhile %lld passes\n", static_cast<long long>(run.kelvra.state.Passes));
+    std::printf("    meanwhile %lld passes\n", static_cast<long long>(run.kelvra.state.passes));
 }
 
 }  // namespace

@@ -43,6 +43,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(std::isfinite(parser.Eval()));
     }
     Require(std::isfinite(parser.Eval1(TakeValue(values))));
-    parser.ET_Dump([](std::string_view line) { Require(!line.empty()); });
+    parser.Dump([](std::string_view line) { Require(!line.empty()); });
     return 0;
 }

@@ -10,7 +10,7 @@
 #include <string_view>
 
 // Values that one function sets: name, type of the argument, smallest, largest, after a reset.
-#define KELVRA_VIRTUAL_SETTINGS(X)                             \
+#define KELVRA_VIRTUAL_SETTINGS(X)                           \
     X(avg_setEnabled, uint16_t, 0, 1, 1)                     \
     X(avg_setAutoEnabled, uint16_t, 0, 1, 1)                 \
     X(avg_setAutoType, int32_t, 0, 1, 0)                     \
@@ -61,14 +61,14 @@
     X(chan_setBurstDropoutTolerance, double, 0, 1, 1e-4)
 
 // Values that are set two at a time, in the same form.
-#define KELVRA_VIRTUAL_PARTS(X)           \
+#define KELVRA_VIRTUAL_PARTS(X)         \
     X(slotCount, int32_t, 1, 1024, 8)   \
     X(slotWidth, double, 1e-6, 1, 1e-3) \
     X(excludeStart, double, 0, 1, 0)    \
     X(excludeStop, double, 0, 1, 0)
 
 // Everything else that is exported, by its full name.
-#define KELVRA_VIRTUAL_ACTIONS(X)           \
+#define KELVRA_VIRTUAL_ACTIONS(X)         \
     X(psdrv_init)                         \
     X(psdrv_AddSensor)                    \
     X(psdrv_close)                        \

@@ -10,9 +10,9 @@ void Kelvra::SaveSettings() {
 
 void Kelvra::Exit() {
     if (state.exiting) return;
-    if (state.Measuring) cycle.Stop();
+    if (state.measuring) cycle.Stop();
     state.exiting = true;
-    if (!table.SimulationMode) driverSession.Close();
+    if (!table.simulationMode) driverSession.Close();
     SaveSettings();
     const sensors::TableLock lock(table);
     for (sensors::SensorEntry* entry : table.Present()) sensors::ReleaseSlot(*entry);

@@ -10,21 +10,21 @@ FlagValue Whole(std::int64_t value) {
 }
 
 constexpr Flag AllFlags[] = {
-    {"Measuring", [](const Kelvra& k) -> FlagValue { return k.state.Measuring; }},
-    {"StopRequested", [](const Kelvra& k) -> FlagValue { return k.state.StopRequested; }},
-    {"SimulationMode", [](const Kelvra& k) -> FlagValue { return k.table.SimulationMode; }},
-    {"ScopeModeActive", [](const Kelvra& k) -> FlagValue { return k.state.ScopeModeActive; }},
-    {"TimeSlotModeActive", [](const Kelvra& k) -> FlagValue { return k.state.TimeSlotModeActive; }},
-    {"DeviceTableChanged", [](const Kelvra& k) -> FlagValue { return k.table.DeviceTableChanged; }},
-    {"ConfigRunning", [](const Kelvra& k) -> FlagValue { return k.session.ConfigRunning; }},
-    {"ReconnectPrompt", [](const Kelvra& k) -> FlagValue { return k.session.ReconnectPrompt; }},
-    {"ErrorShown", [](const Kelvra& k) -> FlagValue { return k.session.ErrorShown; }},
-    {"SessionClosed", [](const Kelvra& k) -> FlagValue { return k.session.SessionClosed; }},
-    {"SensorSlotCount", [](const Kelvra& k) { return Whole(k.table.SensorSlotCount); }},
-    {"CurrentSensor", [](const Kelvra& k) { return Whole(k.table.CurrentSensor); }},
+    {"Measuring", [](const Kelvra& k) -> FlagValue { return k.state.measuring; }},
+    {"StopRequested", [](const Kelvra& k) -> FlagValue { return k.state.stopRequested; }},
+    {"SimulationMode", [](const Kelvra& k) -> FlagValue { return k.table.simulationMode; }},
+    {"ScopeModeActive", [](const Kelvra& k) -> FlagValue { return k.state.traceModeActive; }},
+    {"TimeSlotModeActive", [](const Kelvra& k) -> FlagValue { return k.state.timeSlotModeActive; }},
+    {"DeviceTableChanged", [](const Kelvra& k) -> FlagValue { return k.table.deviceTableChanged; }},
+    {"ConfigRunning", [](const Kelvra& k) -> FlagValue { return k.session.configRunning; }},
+    {"ReconnectPrompt", [](const Kelvra& k) -> FlagValue { return k.session.reconnectPrompt; }},
+    {"ErrorShown", [](const Kelvra& k) -> FlagValue { return k.session.errorShown; }},
+    {"SessionClosed", [](const Kelvra& k) -> FlagValue { return k.session.sessionClosed; }},
+    {"SensorSlotCount", [](const Kelvra& k) { return Whole(k.table.sensorSlotCount); }},
+    {"CurrentSensor", [](const Kelvra& k) { return Whole(k.table.currentSensor); }},
     {"instrumentHandle", [](const Kelvra& k) { return Whole(k.session.instrumentHandle); }},
-    {"RecordInterval", [](const Kelvra& k) { return Whole(k.state.RecordInterval); }},
-    {"Passes", [](const Kelvra& k) { return Whole(k.state.Passes); }},
+    {"RecordInterval", [](const Kelvra& k) { return Whole(k.state.recordInterval); }},
+    {"Passes", [](const Kelvra& k) { return Whole(k.state.passes); }},
 };
 
 }  // namespace

@@ -23,8 +23,8 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       sensorName_(forms, table, host, results, selection),
       settingsCommands_(forms, table, host) {
     errorStrip.Connect({driverSession, transfer, cycle, state, host});
-    forms.mdiMain.MFileExit.Click.Connect([this] { Exit(); });
-    forms.mdiMain.CloseRequest.Connect([this] { Exit(); });
+    forms.mdiMain.MFileExit.click.Connect([this] { Exit(); });
+    forms.mdiMain.closeRequest.Connect([this] { Exit(); });
 }
 
 void Kelvra::TransferEvents::TransferBegins(int slot) {

@@ -15,17 +15,17 @@ constexpr int HeightMargins = 180;
 constexpr int StartHeightMargin = 700;
 
 void Place(controls::Window& window, const Geometry& place) {
-    if (place.width > 0 && place.height > 0) window.Place = place;
+    if (place.width > 0 && place.height > 0) window.place = place;
 }
 
 }  // namespace
 
 MainWindow::MainWindow(forms::Forms& forms, measure::MeasureState& state, platform::Host& host)
     : forms_(forms), state_(state), host_(host) {
-    forms_.mdiMain.Resize.Connect([this] { ArrangeWindows(); });
-    forms_.mdiMain.Show_Settings.Click.Connect([this] { ShowSettings(); });
-    forms_.mdiMain.SettingAlwaysOnTop.Click.Connect([this] { ToggleAlwaysOnTop(); });
-    forms_.mdiMain.Helpfunction.Click.Connect([this] {
+    forms_.mdiMain.resize.Connect([this] { ArrangeWindows(); });
+    forms_.mdiMain.Show_Settings.click.Connect([this] { ShowSettings(); });
+    forms_.mdiMain.SettingAlwaysOnTop.click.Connect([this] { ToggleAlwaysOnTop(); });
+    forms_.mdiMain.Helpfunction.click.Connect([this] {
         platform::Computer& computer = host_.computer;
         host_.dialogs.OpenHelp(computer.Join(computer.ProgramFolder(), "KelvraHelp.chm"), 0);
     });
@@ -36,58 +36,58 @@ void MainWindow::ApplyColourScheme() {
     for (controls::Control* control : std::initializer_list<controls::Control*>{
              &main.MainFuncFrame, &main.ConnectedFrame, &main.CalcFrame, &main.ConSensors,
              &main.MainTools})
-        control->Back = controls::DarkBlue;
+        control->back = controls::DarkBlue;
     for (controls::Grid* grid :
          {&main.CalcGrid, &forms_.statusForm.ResultGrid, &forms_.timeSlotTabForm.TimeSlots}) {
-        grid->Back = controls::Cyan;
-        grid->FixedBack = controls::DarkCyan;
-        grid->EmptyBack = controls::Blue;
+        grid->back = controls::Cyan;
+        grid->fixedBack = controls::DarkCyan;
+        grid->emptyBack = controls::Blue;
     }
     for (controls::Control* control : std::initializer_list<controls::Control*>{
              &forms_.statusForm.SensorFrame, &forms_.scopeDisp, &forms_.timeSlotDisp,
              &forms_.timeSlotTabForm})
-        control->Back = controls::Blue;
+        control->back = controls::Blue;
 }
 
 void MainWindow::PlaceWindows() {
     forms::SetupForm& dialog = forms_.setupForm;
-    dialog.Place = Geometry{Margin, Margin, dialog.Place->width, dialog.Place->height};
-    dialog.Tag = "";
+    dialog.place = Geometry{Margin, Margin, dialog.place->width, dialog.place->height};
+    dialog.tag = "";
     forms::StatusForm& status = forms_.statusForm;
-    status.Place = Geometry{Margin, Margin, status.Place->width, status.Place->height};
-    status.Visible = true;
+    status.place = Geometry{Margin, Margin, status.place->width, status.place->height};
+    status.visible = true;
 
-    const Geometry& main = forms_.mdiMain.Place.Get();
-    const Geometry& table = status.Place.Get();
+    const Geometry& main = forms_.mdiMain.place.Get();
+    const Geometry& table = status.place.Get();
     const int height = main.height / 2 - StartHeightMargin;
     const int left = table.width + Step;
     const int width = main.width - table.width - WidthMargins;
     Place(forms_.scopeDisp, {left, Margin, width, height});
     Place(forms_.timeSlotDisp, {left, height + Step, width, height});
     controls::Window& slots = forms_.timeSlotTabForm;
-    Place(slots, {Margin, table.height + Step, table.width, slots.Place->height});
+    Place(slots, {Margin, table.height + Step, table.width, slots.place->height});
     for (controls::Window* display :
          std::initializer_list<controls::Window*>{&forms_.scopeDisp, &forms_.timeSlotDisp, &slots})
-        display->Visible = false;
+        display->visible = false;
 }
 
 void MainWindow::ArrangeWindows() {
-    forms_.scopeDisp.Visible = state_.ScopeModeActive;
-    forms_.timeSlotDisp.Visible = state_.TimeSlotModeActive;
-    forms_.timeSlotTabForm.Visible = state_.TimeSlotModeActive;
+    forms_.scopeDisp.visible = state_.traceModeActive;
+    forms_.timeSlotDisp.visible = state_.timeSlotModeActive;
+    forms_.timeSlotTabForm.visible = state_.timeSlotModeActive;
     PlaceDisplays();
 }
 
 void MainWindow::PlaceDisplays() {
-    const Geometry& main = forms_.mdiMain.Place.Get();
-    const Geometry& table = forms_.statusForm.Place.Get();
+    const Geometry& main = forms_.mdiMain.place.Get();
+    const Geometry& table = forms_.statusForm.place.Get();
     const int left = table.width + Step;
     const int width = main.width - table.width - WidthMargins;
-    const int free = main.height - forms_.mdiMain.MainTools.Place->height - HeightMargins;
-    const bool both = state_.ScopeModeActive && state_.TimeSlotModeActive;
+    const int free = main.height - forms_.mdiMain.MainTools.place->height - HeightMargins;
+    const bool both = state_.traceModeActive && state_.timeSlotModeActive;
     const int height = both ? free / 2 : free;
-    if (state_.ScopeModeActive) Place(forms_.scopeDisp, {left, Margin, width, height});
-    if (state_.TimeSlotModeActive) {
+    if (state_.traceModeActive) Place(forms_.scopeDisp, {left, Margin, width, height});
+    if (state_.timeSlotModeActive) {
         Place(forms_.timeSlotDisp, {left, both ? height + Step : Margin, width, height});
         Place(forms_.timeSlotTabForm,
               {Margin, table.height + Step, table.width, free - table.height - Margin});
@@ -96,21 +96,21 @@ void MainWindow::PlaceDisplays() {
 
 void MainWindow::ShowSettings() {
     controls::Window& dialog = forms_.setupForm;
-    const Geometry& table = forms_.statusForm.Place.Get();
-    dialog.Place = Geometry{table.left + table.width + Margin, Margin, dialog.Place->width,
-                            dialog.Place->height};
-    dialog.Visible = true;
-    dialog.Tag = "shown";
+    const Geometry& table = forms_.statusForm.place.Get();
+    dialog.place = Geometry{table.left + table.width + Margin, Margin, dialog.place->width,
+                            dialog.place->height};
+    dialog.visible = true;
+    dialog.tag = "shown";
 }
 
 void MainWindow::ToggleAlwaysOnTop() {
     controls::MenuItem& item = forms_.mdiMain.SettingAlwaysOnTop;
-    item.Checked = !item.Checked.Get();
-    AlwaysOnTop(forms_.setupForm, item.Checked);
+    item.checked = !item.checked.Get();
+    AlwaysOnTop(forms_.setupForm, item.checked);
 }
 
 void AlwaysOnTop(controls::Window& window, bool onTop) {
-    window.TopMost = onTop;
+    window.topMost = onTop;
 }
 
 }  // namespace kelvra::app

@@ -13,8 +13,8 @@ constexpr const char* Stem = "Sensor";
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
                                    platform::Host& host)
     : table_(table), host_(host) {
-    forms.mdiMain.Load_Sensor_Settings.Click.Connect([this] { LoadSensorSettings(); });
-    forms.mdiMain.Save_Sensor_Settings.Click.Connect([this] { SaveSensorSettings(); });
+    forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
+    forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
 
 void SettingsCommands::LoadSensorSettings() {
@@ -28,7 +28,7 @@ void SettingsCommands::LoadSensorSettings() {
         Tell("read", *path, file.LoadError());
         return;
     }
-    sensors::TransferSettings(table_[table_.CurrentSensor].Settings, file.Text(), Stem,
+    sensors::TransferSettings(table_[table_.currentSensor].settings, file.Text(), Stem,
                               sensors::Transfer::Read);
 }
 
@@ -41,16 +41,16 @@ void SettingsCommands::SaveSensorSettings() {
     const auto path = AskFile(question);
     if (!path) return;
     const std::error_code error = sensors::TransferSettings(
-        table_[table_.CurrentSensor].Settings, host_.files, *path, Stem, sensors::Transfer::Write);
+        table_[table_.currentSensor].settings, host_.files, *path, Stem, sensors::Transfer::Write);
     if (error) Tell("saved", *path, error);
 }
 
 // Events run while the dialog is open: the sensor may be another one afterwards.
 std::optional<std::string> SettingsCommands::AskFile(const platform::FileQuestion& question) {
-    const std::string sensor = table_[table_.CurrentSensor].SensorId;
+    const std::string sensor = table_[table_.currentSensor].sensorId;
     auto path = host_.dialogs.AskFile(question);
     if (!path || path->empty()) return std::nullopt;
-    if (table_[table_.CurrentSensor].SensorId == sensor) return path;
+    if (table_[table_.currentSensor].sensorId == sensor) return path;
     host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
                           platform::MessageIcon::Exclamation);
     return std::nullopt;

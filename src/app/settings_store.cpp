@@ -24,38 +24,38 @@ std::string Stem(std::string sensorId) {
 }  // namespace
 
 void SettingsStore::ReadSlots(sensors::SensorTable& table) {
-    platform::ProfileFile file(files_, AppIniPath);
+    platform::ProfileFile file(files_, iniPath);
     if (file.LoadError()) Tell("read", file.LoadError());
     for (int slot = 0; slot < table.Slots(); ++slot)
-        sensors::TransferSettings(table[slot].Settings, file.Text(),
+        sensors::TransferSettings(table[slot].settings, file.Text(),
                                   "SENS" + util::TrimmedNumberText(std::int64_t{slot + 1}),
                                   Transfer::Read);
 }
 
 void SettingsStore::Read(const std::vector<sensors::SensorEntry*>& entries) {
     if (entries.empty()) return;
-    platform::ProfileFile file(files_, AppIniPath);
+    platform::ProfileFile file(files_, iniPath);
     if (file.LoadError()) Tell("read", file.LoadError());
     for (sensors::SensorEntry* entry : entries) {
-        if (const auto kept = unsaved_.find(entry->SensorId); kept != unsaved_.end()) {
-            entry->Settings = kept->second;
+        if (const auto kept = unsaved_.find(entry->sensorId); kept != unsaved_.end()) {
+            entry->settings = kept->second;
             continue;
         }
-        sensors::TransferSettings(entry->Settings, file.Text(), Stem(entry->SensorId),
+        sensors::TransferSettings(entry->settings, file.Text(), Stem(entry->sensorId),
                                   Transfer::Read);
         if (file.LoadError())
-            unread_.insert(entry->SensorId);
+            unread_.insert(entry->sensorId);
         else
-            unread_.erase(entry->SensorId);
+            unread_.erase(entry->sensorId);
     }
 }
 
 void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
     for (sensors::SensorEntry* entry : entries)
-        if (!entry->SensorId.empty() && !unread_.contains(entry->SensorId))
-            unsaved_.insert_or_assign(entry->SensorId, entry->Settings);
+        if (!entry->sensorId.empty() && !unread_.contains(entry->sensorId))
+            unsaved_.insert_or_assign(entry->sensorId, entry->settings);
     if (unsaved_.empty()) return;
-    platform::ProfileFile file(files_, AppIniPath);
+    platform::ProfileFile file(files_, iniPath);
     for (auto& [sensorId, settings] : unsaved_)
         sensors::TransferSettings(settings, file.Text(), Stem(sensorId), Transfer::Write);
     const std::error_code error = file.Save();
@@ -64,8 +64,8 @@ void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
 }
 
 std::string SettingsStore::Tell(const char* what, const std::error_code& error) {
-    const std::string text = std::string("The settings could not be ") + what + ": " + AppIniPath +
-                             ": " + error.message();
+    const std::string text =
+        std::string("The settings could not be ") + what + ": " + iniPath + ": " + error.message();
     measure::ShowNotice(window_, text);
     log_.Write(text);
     return text;

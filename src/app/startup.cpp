@@ -24,28 +24,28 @@ std::string Number(int value) {
 }  // namespace
 
 void Kelvra::Start() {
-    controls::Geometry place = forms.mdiMain.Place;
+    controls::Geometry place = forms.mdiMain.place;
     const platform::ScreenSize screen = host.computer.Screen();
     place.left = (screen.width - place.width) / 2;
     place.top = (screen.height - place.height) / 6;
-    forms.mdiMain.Place = place;
-    state.RecordInterval = 0;
+    forms.mdiMain.place = place;
+    state.recordInterval = 0;
     mainWindow.ApplyColourScheme();
     StartDebugLog();
     library.Load(host.computer, log);
-    forms.mdiMain.Caption = Title();
-    store.AppIniPath = host.computer.Join(host.computer.ProgramFolder(), "Kelvra.INI");
+    forms.mdiMain.caption = Title();
+    store.iniPath = host.computer.Join(host.computer.ProgramFolder(), "Kelvra.INI");
     host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
-    forms.mdiMain.FileSaveData.Enabled = false;
+    forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();
     LayOutGrids();
     mainWindow.PlaceWindows();
     for (int slot = 0; slot < table.Slots(); ++slot)
-        table[slot].TSlotStats.assign(
-            static_cast<std::size_t>(std::max<int>(table[slot].Settings.TSlotCount, 1)), {});
-    sensors::PrepareWorkArrays(table, table.CurrentSensor);
+        table[slot].slotStats.assign(
+            static_cast<std::size_t>(std::max<int>(table[slot].settings.TSlotCount, 1)), {});
+    sensors::PrepareWorkArrays(table, table.currentSensor);
     StartDiscovery();
-    forms.mdiMain.Visible = true;
+    forms.mdiMain.visible = true;
 }
 
 void Kelvra::StartDebugLog() {
@@ -74,14 +74,14 @@ std::string Kelvra::Title() {
 }
 
 void Kelvra::CreateTable() {
-    table.Resize(table.SensorSlotCount == 0 ? sensors::SensorTable::DefaultSlotCount
-                                            : table.SensorSlotCount);
-    state.StopRequested = false;
+    table.Resize(table.sensorSlotCount == 0 ? sensors::SensorTable::DefaultSlotCount
+                                            : table.sensorSlotCount);
+    state.stopRequested = false;
     store.ReadSlots(table);
     controls::List& sensorList = forms.setupForm.SensSelect;
     sensorList.Clear();
     for (int slot = 0; slot < table.Slots(); ++slot) sensorList.Add(Number(slot + 1), slot);
-    table.CurrentSensor = 0;
+    table.currentSensor = 0;
 }
 
 void Kelvra::LayOutGrids() {
@@ -94,10 +94,10 @@ void Kelvra::LayOutGrids() {
 
 void Kelvra::StartDiscovery() {
     discovery.Search();
-    forms.setupForm.SensLogicalName.SetText(table[0].LogicalName);
+    forms.setupForm.SensLogicalName.SetText(table[0].logicalName);
     selection.UpdateSensSelect();
-    table.DeviceTableChanged = true;
-    forms.mdiMain.SettingAlwaysOnTop.Checked = true;
+    table.deviceTableChanged = true;
+    forms.mdiMain.SettingAlwaysOnTop.checked = true;
     AlwaysOnTop(forms.setupForm, true);
 }
 

@@ -64,7 +64,7 @@ Target ReachTarget(CommandContext& c, std::string_view& rest) {
     if (target.error) return target;
     if (c.typedInto != nullptr && c.typedInto != target.control)
         std::exchange(c.typedInto, nullptr)->Leave();
-    if (target.control->kind() == Kind::Window) return target;
+    if (target.control->GetKind() == Kind::Window) return target;
     if (!target.control->EffectivelyVisible())
         target.error = target.control->Name() + " is hidden";
     else if (!target.control->EffectivelyEnabled())
@@ -76,7 +76,7 @@ template <class T>
 T* TargetAs(Target& target) {
     auto* control = dynamic_cast<T*>(target.control);
     if (control == nullptr && !target.error)
-        target.error = "not for a " + std::string(KindName(target.control->kind()));
+        target.error = "not for a " + std::string(KindName(target.control->GetKind()));
     return control;
 }
 
@@ -137,15 +137,15 @@ CommandError Press(CommandContext& c, std::string_view rest) {
     if (target.error) return target.error;
     if (key.empty()) return "the key is missing";
     if (auto* group = dynamic_cast<controls::OptionGroup*>(target.control))
-        group->KeyDown.Raise(std::max(target.member, 0), key);
+        group->keyDown.Raise(std::max(target.member, 0), key);
     else if (auto* box = dynamic_cast<controls::TextBox*>(target.control))
         box->Press(key);
     else if (auto* check = dynamic_cast<controls::CheckBox*>(target.control))
-        check->KeyDown.Raise(key);
+        check->keyDown.Raise(key);
     else if (auto* button = dynamic_cast<controls::Button*>(target.control))
-        button->KeyDown.Raise(key);
+        button->keyDown.Raise(key);
     else if (auto* list = TargetAs<controls::List>(target))
-        list->KeyDown.Raise(key);
+        list->keyDown.Raise(key);
     return target.error;
 }
 
@@ -159,8 +159,8 @@ CommandError ClickCell(CommandContext& c, std::string_view rest) {
     const std::string_view act = TakeWord(rest);
     if (!row || !column) return "the grid has no such cell";
     if (!act.empty() && act != "press") return "what is " + std::string(act) + "?";
-    grid->MouseDown.Raise(*row, *column);
-    if (act.empty()) grid->Click.Raise(*row, *column);
+    grid->mouseDown.Raise(*row, *column);
+    if (act.empty()) grid->click.Raise(*row, *column);
     return std::nullopt;
 }
 
@@ -169,7 +169,7 @@ CommandError Drag(CommandContext& c, std::string_view rest) {
     if (target.error) return target.error;
     auto* graph = TargetAs<controls::Graph>(target);
     if (graph == nullptr) return target.error;
-    const auto& cursors = graph->Cursors.Get();
+    const auto& cursors = graph->cursors.Get();
     const auto cursor = WholeNumber(TakeWord(rest), 0, static_cast<int>(cursors.size()) - 1);
     const auto x = RealNumber(TakeWord(rest));
     const std::string_view yText = TakeWord(rest);

@@ -20,13 +20,13 @@ void Numbers(JsonLine& json, const char* key, const Range& values) {
 
 void SlotStatistics(JsonLine& json, const sensors::SensorEntry& entry) {
     json.Key("TSlotStats").BeginList();
-    for (const sensors::TimeSlotStat& stat : entry.TSlotStats) {
-        json.BeginObject().Member("Restart", stat.Restart);
-        Numbers(json, "Values", stat.Values);
-        json.Member("Power", stat.Power).Member("Max", stat.Max).Member("Min", stat.Min);
-        json.Member("Mean", stat.Mean).Member("Sigma", stat.Sigma).EndObject();
+    for (const sensors::TimeSlotStat& stat : entry.slotStats) {
+        json.BeginObject().Member("Restart", stat.restart);
+        Numbers(json, "Values", stat.values);
+        json.Member("Power", stat.power).Member("Max", stat.max).Member("Min", stat.min);
+        json.Member("Mean", stat.mean).Member("Sigma", stat.sigma).EndObject();
     }
-    json.EndList().Member("TSlotStatsFull", entry.TSlotStatsFull);
+    json.EndList().Member("TSlotStatsFull", entry.slotStatsFull);
 }
 
 void Settings(JsonLine& json, const sensors::SensorSettings& settings) {
@@ -38,44 +38,44 @@ void Settings(JsonLine& json, const sensors::SensorSettings& settings) {
 
 void Sensor(JsonLine& json, const sensors::SensorEntry& entry) {
     json.BeginObject();
-    json.Member("ResourceName", entry.ResourceName).Member("Present", entry.Present);
-    json.Member("SessionOpen", entry.SessionOpen).Member("Enabled", entry.Enabled);
-    json.Member("NewTSlotData", entry.NewTSlotData).Member("NewScopeData", entry.NewScopeData);
-    json.Member("TSlotStatsActive", entry.TSlotStatsActive);
-    json.Member("LogicalName", entry.LogicalName).Member("SensorId", entry.SensorId);
-    json.Member("MeasPending", entry.MeasPending).Member("WaitTicks", entry.WaitTicks);
-    json.Member("LastReading", entry.LastReading);
-    Numbers(json, "Results", entry.Results);
-    Numbers(json, "History", entry.History.Values());
-    json.Member("HistoryIndex", entry.History.Index());
-    json.Member("HistoryWrapped", entry.History.Wrapped());
+    json.Member("ResourceName", entry.resourceName).Member("Present", entry.present);
+    json.Member("SessionOpen", entry.sessionOpen).Member("Enabled", entry.enabled);
+    json.Member("NewTSlotData", entry.newSlotData).Member("NewScopeData", entry.newTraceData);
+    json.Member("TSlotStatsActive", entry.slotStatsActive);
+    json.Member("LogicalName", entry.logicalName).Member("SensorId", entry.sensorId);
+    json.Member("MeasPending", entry.measPending).Member("WaitTicks", entry.waitTicks);
+    json.Member("LastReading", entry.lastReading);
+    Numbers(json, "Results", entry.results);
+    Numbers(json, "History", entry.history.Values());
+    json.Member("HistoryIndex", entry.history.Index());
+    json.Member("HistoryWrapped", entry.history.Wrapped());
     SlotStatistics(json, entry);
-    json.Member("AvgCountRead", entry.AvgCountRead);
-    json.Member("SettingsChanged", entry.SettingsChanged);
-    Settings(json, entry.Settings);
-    json.Member("LastErrorText", entry.LastErrorText);
-    json.Member("TriggerNowRequest", entry.TriggerNowRequest);
-    json.Member("TSlotTriggerCursor", entry.TSlotTriggerCursor);
-    json.Member("ScopeTriggerCursor", entry.ScopeTriggerCursor);
+    json.Member("AvgCountRead", entry.avgCountRead);
+    json.Member("SettingsChanged", entry.settingsChanged);
+    Settings(json, entry.settings);
+    json.Member("LastErrorText", entry.lastErrorText);
+    json.Member("TriggerNowRequest", entry.triggerNowRequest);
+    json.Member("TSlotTriggerCursor", entry.slotTriggerCursor);
+    json.Member("ScopeTriggerCursor", entry.traceTriggerCursor);
     json.EndObject();
 }
 
 std::string Sensors(const app::Kelvra& kelvra) {
     JsonLine json;
     json.BeginList();
-    for (const sensors::SensorEntry& entry : kelvra.table.Sensors) Sensor(json, entry);
+    for (const sensors::SensorEntry& entry : kelvra.table.entries) Sensor(json, entry);
     return json.EndList().Text();
 }
 
 std::string Scaling(const app::Kelvra& kelvra) {
     JsonLine json;
     json.BeginList();
-    for (const sensors::DisplayScaling& scaling : kelvra.table.Scaling) {
+    for (const sensors::DisplayScaling& scaling : kelvra.table.scaling) {
         json.BeginObject();
-        json.Member("AutoScaleScope", scaling.AutoScaleScope);
-        json.Member("AutoScaleTime", scaling.AutoScaleTime);
-        json.Member("MinScope", scaling.MinScope).Member("MaxScope", scaling.MaxScope);
-        json.Member("MinTime", scaling.MinTime).Member("MaxTime", scaling.MaxTime).EndObject();
+        json.Member("AutoScaleScope", scaling.autoScaleScope);
+        json.Member("AutoScaleTime", scaling.autoScaleTime);
+        json.Member("MinScope", scaling.minScope).Member("MaxScope", scaling.maxScope);
+        json.Member("MinTime", scaling.minTime).Member("MaxTime", scaling.maxTime).EndObject();
     }
     return json.EndList().Text();
 }
@@ -83,7 +83,7 @@ std::string Scaling(const app::Kelvra& kelvra) {
 std::string SlotReadings(const app::Kelvra& kelvra) {
     JsonLine json;
     json.BeginList();
-    for (const auto& reading : kelvra.table.SlotReadings)
+    for (const auto& reading : kelvra.table.slotReadings)
         json.BeginList().Value(reading[0]).Value(reading[1]).EndList();
     return json.EndList().Text();
 }

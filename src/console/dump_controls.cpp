@@ -61,46 +61,46 @@ void AxisMember(JsonLine& json, const char* key, const Graph::Axis& axis) {
 }
 
 void GraphMembers(JsonLine& json, const Graph& graph) {
-    const Graph::Plot& plot = graph.Curve.Get();
+    const Graph::Plot& plot = graph.curve.Get();
     json.Key("plot").BeginObject().Member("first", plot.first).Member("step", plot.step);
     json.Key("values").BeginList();
     for (const double value : plot.values) json.Value(value);
     json.EndList().EndObject();
-    AxisMember(json, "x", graph.X);
-    AxisMember(json, "y", graph.Y);
+    AxisMember(json, "x", graph.x);
+    AxisMember(json, "y", graph.y);
     json.Key("cursors").BeginList();
     int index = 0;
-    for (const Graph::Cursor& cursor : graph.Cursors.Get()) {
+    for (const Graph::Cursor& cursor : graph.cursors.Get()) {
         json.BeginObject().Member("index", index++);
         json.Member("kind", cursor.horizontal ? "horizontal" : "vertical");
         json.Member("x", cursor.x).Member("y", cursor.y).Member("visible", cursor.visible);
         json.EndObject();
     }
     json.EndList().Key("labels").BeginList();
-    for (const Graph::Text& label : graph.Labels.Get())
+    for (const Graph::Text& label : graph.labels.Get())
         json.BeginObject()
             .Member("x", label.x)
             .Member("y", label.y)
             .Member("text", label.text)
             .EndObject();
-    json.EndList().Member("trackMode", static_cast<int>(graph.Track.Get()));
+    json.EndList().Member("trackMode", static_cast<int>(graph.track.Get()));
 }
 
 // What comes before the colours, by kind.
 void OwnMembers(JsonLine& json, const Control& control, int member) {
-    switch (control.kind()) {
+    switch (control.GetKind()) {
         case Kind::Label:
-            json.Member("caption", As<Label>(control).Caption.Get());
+            json.Member("caption", As<Label>(control).caption.Get());
             break;
         case Kind::Button: {
             const auto& button = As<Button>(control);
-            json.Member("caption", button.Caption.Get()).Member("picture", button.Picture.Get());
-            json.Member("tag", button.Tag.Get());
+            json.Member("caption", button.caption.Get()).Member("picture", button.picture.Get());
+            json.Member("tag", button.tag.Get());
             break;
         }
         case Kind::MenuItem: {
             const auto& item = As<MenuItem>(control);
-            json.Member("caption", item.Caption.Get()).Member("checked", item.Checked.Get());
+            json.Member("caption", item.caption.Get()).Member("checked", item.checked.Get());
             break;
         }
         case Kind::TextBox:
@@ -108,7 +108,7 @@ void OwnMembers(JsonLine& json, const Control& control, int member) {
             break;
         case Kind::CheckBox: {
             const auto& box = As<CheckBox>(control);
-            json.Member("caption", box.Caption.Get()).Member("checked", box.Checked());
+            json.Member("caption", box.caption.Get()).Member("checked", box.Checked());
             break;
         }
         case Kind::OptionGroup: {
@@ -123,11 +123,11 @@ void OwnMembers(JsonLine& json, const Control& control, int member) {
         }
         case Kind::Picture: {
             const auto& picture = As<Picture>(control);
-            json.Member("picture", picture.Image.Get()).Member("tag", picture.Tag.Get());
+            json.Member("picture", picture.image.Get()).Member("tag", picture.tag.Get());
             break;
         }
         case Kind::Frame:
-            json.Member("caption", As<Frame>(control).Caption.Get());
+            json.Member("caption", As<Frame>(control).caption.Get());
             break;
         default:
             break;
@@ -136,12 +136,12 @@ void OwnMembers(JsonLine& json, const Control& control, int member) {
 
 // What comes at the end, by kind.
 void ContentMembers(JsonLine& json, const Control& control) {
-    switch (control.kind()) {
+    switch (control.GetKind()) {
         case Kind::Frame:
-            Place(json, As<Frame>(control).Place);
+            Place(json, As<Frame>(control).place);
             break;
         case Kind::RichText:
-            json.Member("rtf", As<RichText>(control).Rtf.Get());
+            json.Member("rtf", As<RichText>(control).rtf.Get());
             break;
         case Kind::List:
             ListMembers(json, As<List>(control));
@@ -159,29 +159,29 @@ void ContentMembers(JsonLine& json, const Control& control) {
 
 std::string DumpWindow(const Window& window) {
     JsonLine json;
-    json.BeginObject().Member("name", window.Name()).Member("caption", window.Caption.Get());
-    json.Member("visible", window.Visible.Get());
-    Place(json, window.Place);
-    json.Member("topmost", window.TopMost.Get()).Member("tag", window.Tag.Get()).EndObject();
+    json.BeginObject().Member("name", window.Name()).Member("caption", window.caption.Get());
+    json.Member("visible", window.visible.Get());
+    Place(json, window.place);
+    json.Member("topmost", window.topMost.Get()).Member("tag", window.tag.Get()).EndObject();
     return json.Text();
 }
 
 }  // namespace
 
 std::string DumpControl(const Control& control, int member) {
-    if (control.kind() == Kind::Window) return DumpWindow(As<Window>(control));
-    const bool isMember = control.kind() == Kind::OptionGroup && member >= 0;
+    if (control.GetKind() == Kind::Window) return DumpWindow(As<Window>(control));
+    const bool isMember = control.GetKind() == Kind::OptionGroup && member >= 0;
     JsonLine json;
     json.BeginObject();
     json.Member("name",
                 isMember ? As<OptionGroup>(control).Options()[static_cast<std::size_t>(member)].name
                          : control.Name());
-    json.Member("kind", isMember ? "option" : KindName(control.kind()));
-    json.Member("enabled", control.Enabled.Get()).Member("visible", control.Visible.Get());
+    json.Member("kind", isMember ? "option" : KindName(control.GetKind()));
+    json.Member("enabled", control.enabled.Get()).Member("visible", control.visible.Get());
     OwnMembers(json, control, member);
-    OptionalColour(json, "back", control.Back);
-    OptionalColour(json, "fore", control.Fore);
-    if (!control.Tooltip->empty()) json.Member("tooltip", control.Tooltip.Get());
+    OptionalColour(json, "back", control.back);
+    OptionalColour(json, "fore", control.fore);
+    if (!control.tooltip->empty()) json.Member("tooltip", control.tooltip.Get());
     ContentMembers(json, control);
     return json.EndObject().Text();
 }

@@ -8,18 +8,22 @@ namespace kelvra::console {
 
 namespace {
 
-void Argument(JsonLine& json, const parser::ExprArg& argument) {
-    json.BeginObject().Member("Idx", argument.Idx).Member("Name", argument.Name);
-    json.Member("Value", argument.Value).EndObject();
+void Argument(JsonLine& json, const parser::Argument& argument) {
+    json.BeginObject().Member("Idx", argument.variable).Member("Name", argument.name);
+    json.Member("Value", argument.value).EndObject();
 }
 
-void Entry(JsonLine& json, const parser::ETEntry& entry) {
-    json.BeginObject().Member("Fun", entry.Fun).Member("Id", entry.Id).Key("Arg").BeginList();
-    for (const parser::ExprArg& argument : entry.Arg) Argument(json, argument);
-    json.EndList().Member("ArgTop", entry.ArgTop).Member("ArgOf", entry.ArgOf);
-    json.Member("ArgIdx", entry.ArgIdx).Member("Value", entry.Value);
-    json.Member("PosInExpr", entry.PosInExpr).Member("PriLvl", entry.PriLvl);
-    json.Member("PriIdx", entry.PriIdx).EndObject();
+void Entry(JsonLine& json, const parser::ExpressionEntry& entry) {
+    json.BeginObject()
+        .Member("Fun", entry.function)
+        .Member("Id", entry.code)
+        .Key("Arg")
+        .BeginList();
+    for (const parser::Argument& argument : entry.arguments) Argument(json, argument);
+    json.EndList().Member("ArgTop", entry.argumentCount).Member("ArgOf", entry.receiver);
+    json.Member("ArgIdx", entry.receivingArgument).Member("Value", entry.value);
+    json.Member("PosInExpr", entry.position).Member("PriLvl", entry.priority);
+    json.Member("PriIdx", entry.order).EndObject();
 }
 
 }  // namespace
@@ -42,7 +46,7 @@ std::string EvaluateToJson(std::string_view formula,
     const double value = parser.Eval();
     json.Member("value", value).Member("error_eval", parser.ErrorDescription());
     json.Key("table").BeginList();
-    for (const parser::ETEntry& entry : parser.ET().subspan(1)) Entry(json, entry);
+    for (const parser::ExpressionEntry& entry : parser.Entries().subspan(1)) Entry(json, entry);
     return json.EndList().EndObject().Text();
 }
 

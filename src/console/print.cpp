@@ -53,31 +53,31 @@ std::string OptionCaption(const controls::OptionGroup& group, int member) {
 
 std::vector<std::string> PrintLines(const controls::Control& control, int member) {
     using namespace controls;
-    switch (control.kind()) {
+    switch (control.GetKind()) {
         case Kind::Grid:
             return GridLines(As<Grid>(control));
         case Kind::List:
             return ListLines(As<List>(control));
         case Kind::Label:
-            return {OneLine(As<Label>(control).Caption.Get())};
+            return {OneLine(As<Label>(control).caption.Get())};
         case Kind::Button:
-            return {OneLine(As<Button>(control).Caption.Get())};
+            return {OneLine(As<Button>(control).caption.Get())};
         case Kind::MenuItem:
-            return {OneLine(As<MenuItem>(control).Caption.Get())};
+            return {OneLine(As<MenuItem>(control).caption.Get())};
         case Kind::TextBox:
             return {OneLine(As<TextBox>(control).Text())};
         case Kind::CheckBox:
-            return {OneLine(As<CheckBox>(control).Caption.Get())};
+            return {OneLine(As<CheckBox>(control).caption.Get())};
         case Kind::OptionGroup:
             return {OptionCaption(As<OptionGroup>(control), member)};
         case Kind::RichText:
-            return {OneLine(As<RichText>(control).Rtf.Get())};
+            return {OneLine(As<RichText>(control).rtf.Get())};
         case Kind::Picture:
-            return {As<Picture>(control).Image.Get()};
+            return {As<Picture>(control).image.Get()};
         case Kind::Frame:
-            return {OneLine(As<Frame>(control).Caption.Get())};
+            return {OneLine(As<Frame>(control).caption.Get())};
         case Kind::Window:
-            return {OneLine(As<Window>(control).Caption.Get())};
+            return {OneLine(As<Window>(control).caption.Get())};
         case Kind::Graph:
             break;  // its content is for dump
     }

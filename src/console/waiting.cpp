@@ -6,7 +6,7 @@ namespace kelvra::console {
 std::optional<std::string> Waiting::ForPasses(std::int64_t passes) {
     if (!MeasurementRuns()) return "no measurement runs";
     kind_ = Kind::Passes;
-    passes_ = state_.Passes + passes;
+    passes_ = state_.passes + passes;
     return std::nullopt;
 }
 
@@ -21,7 +21,7 @@ Waiting::Look Waiting::At() {
         case Kind::Nothing:
             break;
         case Kind::Passes:
-            reached = state_.Passes >= passes_;
+            reached = state_.passes >= passes_;
             if (!reached && !MeasurementRuns()) {
                 kind_ = Kind::Nothing;
                 return Look::Failed;

@@ -22,12 +22,12 @@ Control::Control(Kind kind, Changes& changes, std::string name)
     : kind_(kind), name_(std::move(name)), changes_(changes) {}
 
 bool Control::EffectivelyEnabled() const {
-    return Enabled &&
+    return enabled &&
            (parent_ == nullptr || parent_->kind_ == Kind::Window || parent_->EffectivelyEnabled());
 }
 
 bool Control::EffectivelyVisible() const {
-    return Visible &&
+    return visible &&
            (parent_ == nullptr || parent_->kind_ == Kind::Window || parent_->EffectivelyVisible());
 }
 

@@ -3,13 +3,12 @@
 
 namespace kelvra::controls {
 
-void Graph::Drag(int cursor, double x, double y) {
-    std::vector<Cursor> cursors = Cursors;
-    Cursor& moved = cursors.at(static_cast<std::size_t>(cursor));
-    moved.x = x;
-    moved.y = y;
-    Cursors = std::move(cursors);
-    CursorChange.Raise(cursor, x, y);
+void Graph::Drag(int cursor, double toX, double toY) {
+    std::vector<Cursor> moved = cursors;
+    moved.at(static_cast<std::size_t>(cursor)).x = toX;
+    moved.at(static_cast<std::size_t>(cursor)).y = toY;
+    cursors = std::move(moved);
+    cursorChange.Raise(cursor, toX, toY);
 }
 
 }  // namespace kelvra::controls

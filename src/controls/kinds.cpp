@@ -6,17 +6,17 @@
 namespace kelvra::controls {
 
 void TextBox::SetText(std::string text) {
-    if (text_.Set(std::move(text))) Change.Raise();
+    if (text_.Set(std::move(text))) change.Raise();
 }
 
 void TextBox::Type(std::string text) {
     text_.Set(std::move(text));
     edited_ = true;
-    Change.Raise();
+    change.Raise();
 }
 
 void TextBox::Press(const Key& key) {
-    KeyDown.Raise(key);
+    keyDown.Raise(key);
     if (key == "Enter") RaiseCommit();
 }
 
@@ -26,16 +26,16 @@ void TextBox::Leave() {
 
 void TextBox::RaiseCommit() {
     edited_ = false;
-    Commit.Raise();
+    commit.Raise();
 }
 
 void CheckBox::SetChecked(bool checked) {
-    if (checked_.Set(checked)) Click.Raise();
+    if (checked_.Set(checked)) click.Raise();
 }
 
 void CheckBox::Toggle() {
     checked_.Set(!checked_.Get());
-    Click.Raise();
+    click.Raise();
 }
 
 namespace {
@@ -60,22 +60,22 @@ OptionGroup::OptionGroup(Control& parent, std::string name, std::vector<Option> 
 
 void OptionGroup::SetSelected(int option) {
     if (option < 0 || option >= static_cast<int>(options_.size())) return;
-    if (selected_.Set(option)) Click.Raise();
+    if (selected_.Set(option)) click.Raise();
 }
 
 void OptionGroup::Select(int option) {
     selected_.Set(option);
-    Click.Raise();
+    click.Raise();
 }
 
 void Window::PersonResizes(int width, int height) {
-    Place = Geometry{Place->left, Place->top, width, height};
-    Resize.Raise();
+    place = Geometry{place->left, place->top, width, height};
+    resize.Raise();
 }
 
 void Window::PersonCloses() {
-    CloseRequest.Raise();
-    if (!closesByRule) Visible = false;
+    closeRequest.Raise();
+    if (!closesByRule) visible = false;
 }
 
 }  // namespace kelvra::controls

@@ -52,12 +52,12 @@ void List::Preselect(int index) {
 }
 
 void List::SetIndex(int index) {
-    if (Select(index)) Click.Raise();
+    if (Select(index)) click.Raise();
 }
 
 void List::Choose(int index) {
     Select(index);
-    Click.Raise();
+    click.Raise();
 }
 
 bool List::Select(int index) {

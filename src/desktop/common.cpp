@@ -28,8 +28,8 @@ int Twips(int pixels) {
 namespace {
 
 void UpdateColours(QWidget& widget, const controls::Control& control) {
-    const auto& back = control.Back.Get();
-    const auto& fore = control.Fore.Get();
+    const auto& back = control.back.Get();
+    const auto& fore = control.fore.Get();
     if (!back && !fore) return;
     QPalette palette = widget.palette();
     if (back) {
@@ -45,12 +45,12 @@ void UpdateColours(QWidget& widget, const controls::Control& control) {
 }  // namespace
 
 void UpdateCommon(QWidget& widget, const controls::Control& control) {
-    widget.setEnabled(control.Enabled);
+    widget.setEnabled(control.enabled);
     // What isn't in its window yet comes into sight with it; shown alone it would be a window.
     const bool alone = widget.parentWidget() == nullptr;
-    if (!alone || !control.Visible) widget.setVisible(control.Visible);
-    const QString tooltip = control.Tooltip->empty() ? widget.property(OwnTooltip).toString()
-                                                     : TooltipText(control.Tooltip.Get());
+    if (!alone || !control.visible) widget.setVisible(control.visible);
+    const QString tooltip = control.tooltip->empty() ? widget.property(OwnTooltip).toString()
+                                                     : TooltipText(control.tooltip.Get());
     if (widget.toolTip() != tooltip) widget.setToolTip(tooltip);
     UpdateColours(widget, control);
 }

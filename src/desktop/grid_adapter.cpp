@@ -55,10 +55,10 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     connect(this, &QTableWidget::cellPressed, [this](int row, int column) {
-        if (!Selects()) grid_.MouseDown.Raise(row + 1, column);
+        if (!Selects()) grid_.mouseDown.Raise(row + 1, column);
     });
     connect(this, &QTableWidget::cellClicked, [this](int row, int column) {
-        if (!Selects()) grid_.Click.Raise(row + 1, column);
+        if (!Selects()) grid_.click.Raise(row + 1, column);
     });
     // The second of two quick clicks.
     connect(this, &QTableWidget::cellDoubleClicked, [this](int row, int column) {
@@ -84,8 +84,8 @@ bool GridWidget::Selects() {
 
 void GridWidget::Activate(int row, int column) {
     if (row < 0 || column < 0) return;
-    grid_.MouseDown.Raise(row + 1, column);
-    grid_.Click.Raise(row + 1, column);
+    grid_.mouseDown.Raise(row + 1, column);
+    grid_.click.Raise(row + 1, column);
 }
 
 int GridWidget::MostColumnWidth() const {
@@ -144,7 +144,7 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
 GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid), widget_(widget) {}
 
 void GridAdapter::Update() {
-    const std::array colours{grid_.Back.Get(), grid_.FixedBack.Get(), grid_.EmptyBack.Get()};
+    const std::array colours{grid_.back.Get(), grid_.fixedBack.Get(), grid_.emptyBack.Get()};
     const auto changed = grid_.TakeChangedCells();
     if (widget_.rowCount() != grid_.Rows() - 1 || grid_.Widths() != widths_ ||
         colours != colours_) {
@@ -167,8 +167,8 @@ void GridAdapter::Shape() {
     widget_.setRowCount(grid_.Rows() - 1);
     widget_.setColumnCount(grid_.Columns());
     QPalette palette = widget_.palette();
-    if (grid_.EmptyBack.Get())
-        palette.setColor(QPalette::Base, ToolkitColour(*grid_.EmptyBack.Get()));
+    if (grid_.emptyBack.Get())
+        palette.setColor(QPalette::Base, ToolkitColour(*grid_.emptyBack.Get()));
     widget_.setPalette(palette);
     FitColumns();
 }
@@ -203,7 +203,7 @@ void GridAdapter::ShowHeading(int column) {
     item->setText(text);
     item->setFont(font);
     item->setTextAlignment(ToolkitAlign(cell.look.align));
-    if (grid_.FixedBack.Get()) item->setBackground(ToolkitColour(*grid_.FixedBack.Get()));
+    if (grid_.fixedBack.Get()) item->setBackground(ToolkitColour(*grid_.fixedBack.Get()));
     Widen(column, text, font);
 }
 
@@ -220,7 +220,7 @@ void GridAdapter::ShowCell(int row, int column) {
         item->font() != font)
         item->setFont(font);
     item->setTextAlignment(ToolkitAlign(cell.look.align));
-    const auto& back = cell.look.back ? cell.look.back : grid_.Back.Get();
+    const auto& back = cell.look.back ? cell.look.back : grid_.back.Get();
     if (back && item->background().color() != ToolkitColour(*back))
         item->setBackground(ToolkitColour(*back));
     item->setForeground(Qt::black);

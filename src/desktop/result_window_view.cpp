@@ -44,7 +44,7 @@ void ResultWindowView::FitWindow() {
     fitting_ = true;
     QTimer::singleShot(0, window_, [this] {
         fitting_ = false;
-        const controls::Geometry& place = form_.Place.Get();
+        const controls::Geometry& place = form_.place.Get();
         const QSize wanted(Pixels(place.width), Pixels(place.height));
         if (window_->SizedByPerson()) return window_->ResizeInside(wanted);
         QSize needed = window_->size() - table_->size() + table_->sizeHint();

@@ -16,7 +16,7 @@ LabelAdapter::LabelAdapter(const controls::Label& label, QLabel& widget)
 }
 
 void LabelAdapter::Update() {
-    const QString caption = Shown(label_.Caption.Get()).replace("\r\n", "\n");
+    const QString caption = Shown(label_.caption.Get()).replace("\r\n", "\n");
     if (widget_.text() != caption) {
         widget_.setText(caption);
         widget_.setAccessibleName(caption);
@@ -30,13 +30,13 @@ ButtonAdapter::ButtonAdapter(controls::Button& button, QPushButton& widget)
 }
 
 void ButtonAdapter::Update() {
-    if (!button_.Caption->empty()) widget_.setText(Shown(button_.Caption.Get()));
-    if (!button_.Picture->empty()) widget_.setIcon(Icon(button_.Picture));
+    if (!button_.caption->empty()) widget_.setText(Shown(button_.caption.Get()));
+    if (!button_.picture->empty()) widget_.setIcon(Icon(button_.picture));
     UpdateCommon(widget_, button_);
 }
 
 MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
-    : item_(item), action_(action), shownCaption_(item.Caption.Get()) {
+    : item_(item), action_(action), shownCaption_(item.caption.Get()) {
     QObject::connect(&action_, &QAction::triggered, [this] {
         item_.Press();
         Update();  // the mark is the record's, whatever the action has ticked by itself
@@ -44,14 +44,14 @@ MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
 }
 
 void MenuItemAdapter::Update() {
-    if (item_.Caption.Get() != shownCaption_) {
-        shownCaption_ = item_.Caption.Get();
+    if (item_.caption.Get() != shownCaption_) {
+        shownCaption_ = item_.caption.Get();
         action_.setText(Shown(shownCaption_));
     }
     const QSignalBlocker quiet(action_);
-    action_.setEnabled(item_.Enabled);
-    action_.setVisible(item_.Visible);
-    if (action_.isCheckable()) action_.setChecked(item_.Checked);
+    action_.setEnabled(item_.enabled);
+    action_.setVisible(item_.visible);
+    if (action_.isCheckable()) action_.setChecked(item_.checked);
 }
 
 void ListWidget::wheelEvent(QWheelEvent* event) {
@@ -79,8 +79,8 @@ void ListAdapter::Fill() {
 }
 
 void PictureAdapter::Update() {
-    if (shown_ != picture_.Image.Get()) {
-        shown_ = picture_.Image.Get();
+    if (shown_ != picture_.image.Get()) {
+        shown_ = picture_.image.Get();
         widget_.setPixmap(PictureOf(shown_, size_, widget_.devicePixelRatioF()));
     }
     UpdateCommon(widget_, picture_);

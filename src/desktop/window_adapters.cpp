@@ -21,7 +21,7 @@ QSize SizeOf(const controls::Geometry& place) {
 
 // The record hears of sizes that a person has given, not of those that it gave itself.
 void ReportSize(controls::Window& window, const QResizeEvent& event) {
-    if (SizeOf(window.Place.Get()) != event.size() && event.oldSize().isValid())
+    if (SizeOf(window.place.Get()) != event.size() && event.oldSize().isValid())
         window.PersonResizes(Twips(event.size().width()), Twips(event.size().height()));
 }
 
@@ -42,16 +42,16 @@ void FrameWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void FrameWindowAdapter::Update() {
-    const QString title = Shown(window_.Caption.Get());
+    const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
-    const controls::Geometry& place = window_.Place.Get();
+    const controls::Geometry& place = window_.place.Get();
     // A size that a person has given comes back as the record's, with the corner that it knows.
     if (!SameCorner(shown_, place))
         widget_.setGeometry(OnScreen(place));
     else if (shown_ != place && widget_.size() != SizeOf(place))
         widget_.resize(OnScreen(place).size());
     shown_ = place;
-    widget_.setVisible(window_.Visible);
+    widget_.setVisible(window_.visible);
 }
 
 // The rules know a usual screen; on a smaller one the window is moved and cut to what is there,
@@ -115,14 +115,14 @@ void ChildWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void ChildWindowAdapter::Update() {
-    const QString title = Shown(window_.Caption.Get());
+    const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
-    const controls::Geometry& place = window_.Place.Get();
+    const controls::Geometry& place = window_.place.Get();
     if (!SameCorner(shown_, place)) widget_.move(Pixels(place.left), Pixels(place.top));
     if (shown_ != place && widget_.size() != SizeOf(place))
         widget_.ResizeInside(SizeOf(place).expandedTo(widget_.sizeHint()));
     shown_ = place;
-    widget_.setVisible(window_.Visible);
+    widget_.setVisible(window_.visible);
 }
 
 }  // namespace kelvra::desktop

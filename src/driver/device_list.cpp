@@ -17,7 +17,7 @@ constexpr std::int32_t EntriesOfEmptyList = 2;
 }  // namespace
 
 void DeviceCatalogue::BuildDeviceList(sensors::SensorTable& table) {
-    DeviceList.assign(1, {});
+    deviceList.assign(1, {});
     operations_.TeskLockDeviceList();
     std::int32_t length = 0;
     operations_.TeskGetDeviceListLength(&length);
@@ -27,7 +27,7 @@ void DeviceCatalogue::BuildDeviceList(sensors::SensorTable& table) {
     for (int index = 0; index < length; ++index) ReadEntry(index);
 
     const int connected = Connected();
-    if (connected > 0 && connected < lastConnected_) table.DeviceTableChanged = true;
+    if (connected > 0 && connected < lastConnected_) table.deviceTableChanged = true;
     lastConnected_ = connected;
 }
 
@@ -38,15 +38,15 @@ void DeviceCatalogue::ReadEntry(int index) {
     std::int32_t connected = 0;
     operations_.TeskGetDeviceInfo(index, name.Data(), type.Data(), serial.Data(), &connected);
     if (connected <= 0) return;
-    DeviceList.resize(static_cast<std::size_t>(index) + 1);
-    DeviceList.back() = {ResourceDescriptor(type.Text(), serial.Text()), type.Text(), serial.Text(),
+    deviceList.resize(static_cast<std::size_t>(index) + 1);
+    deviceList.back() = {ResourceDescriptor(type.Text(), serial.Text()), type.Text(), serial.Text(),
                          name.Text()};
 }
 
 int DeviceCatalogue::Connected() const {
     return static_cast<int>(
-        std::count_if(DeviceList.begin(), DeviceList.end(),
-                      [](const DeviceListEntry& entry) { return !entry.ResourceName.empty(); }));
+        std::count_if(deviceList.begin(), deviceList.end(),
+                      [](const DeviceListEntry& entry) { return !entry.resourceName.empty(); }));
 }
 
 }  // namespace kelvra::driver

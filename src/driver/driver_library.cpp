@@ -20,8 +20,7 @@ std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugLo
     for (OperationBase* operation : operations.all) {
         operation->address = loaded.library->Find(operation->name);
         if (operation->address == nullptr)
-            log.Write("Driver library " + loaded.fileName + " has no function " +
-                            operation->name);
+            log.Write("Driver library " + loaded.fileName + " has no function " + operation->name);
     }
     return std::move(loaded.library);
 }

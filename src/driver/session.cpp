@@ -27,28 +27,28 @@ std::string Trimmed(std::int64_t number) {
 
 void Session::OpenSensor(int slot) {
     sensors::SensorEntry& entry = table_[slot];
-    if (table_.SimulationMode) {
-        entry.SessionOpen = true;
-        entry.WaitTicks = 0;
+    if (table_.simulationMode) {
+        entry.sessionOpen = true;
+        entry.waitTicks = 0;
         return;
     }
-    entry.SessionOpen = false;
-    entry.LastErrorText.clear();
-    const std::string resource = entry.ResourceName;
+    entry.sessionOpen = false;
+    entry.lastErrorText.clear();
+    const std::string resource = entry.resourceName;
     if (util::TrimSpaces(resource).empty()) return;
     if (slot != 0 && state.instrumentHandle == 0) return;
     const Status status = slot == 0 ? OpenFirst(resource) : AddFurther(slot, resource);
-    if (state.instrumentHandle != 0) state.SessionClosed = false;
+    if (state.instrumentHandle != 0) state.sessionClosed = false;
     // Without a handle there is no session, whatever the status says.
     if (CheckStatus(status, true) || state.instrumentHandle == 0) return;
-    table_[slot].SessionOpen = true;
-    table_[slot].WaitTicks = 0;
+    table_[slot].sessionOpen = true;
+    table_[slot].waitTicks = 0;
 }
 
 Status Session::OpenFirst(const std::string& resource) {
     if (log.enabled)
         log.Write("psdrv_init(" + resource + ", 1, 1," +
-                        util::NumberText(std::int64_t{state.instrumentHandle}) + ") STARTING");
+                  util::NumberText(std::int64_t{state.instrumentHandle}) + ") STARTING");
     Handle opened = 0;
     const Status status =
         operations.psdrv_init(resource.c_str(), CheckIdentity, ResetDevice, &opened);
@@ -57,29 +57,29 @@ Status Session::OpenFirst(const std::string& resource) {
     ReportError(status, 0, "psdrv_init");
     if (log.enabled)
         log.Write("psdrv_init FINISHED -> instrumentHandle: " +
-                        util::NumberText(std::int64_t{state.instrumentHandle}));
+                  util::NumberText(std::int64_t{state.instrumentHandle}));
     return status;
 }
 
 Status Session::AddFurther(int slot, const std::string& resource) {
     if (log.enabled)
         log.Write("psdrv_AddSensor(" + Trimmed(state.instrumentHandle) + ", " +
-                        Trimmed(ChannelOf(slot)) + ", " + resource + ", 1, 1) STARTING");
+                  Trimmed(ChannelOf(slot)) + ", " + resource + ", 1, 1) STARTING");
     const Status status = operations.psdrv_AddSensor(state.instrumentHandle, ChannelOf(slot),
                                                      resource.c_str(), CheckIdentity, ResetDevice);
     host_.clock.Sleep(OpeningPause);
     ReportError(status, slot, "psdrv_AddSensor");
     log.Write("psdrv_AddSensor FINISHED");
-    if (status != 0) table_[slot].Enabled = false;
+    if (status != 0) table_[slot].enabled = false;
     return status;
 }
 
 void Session::Close() {
-    if (!state.SessionClosed && state.instrumentHandle != 0)
+    if (!state.sessionClosed && state.instrumentHandle != 0)
         FramedCall(log, LogForm::General, operations.psdrv_close, state.instrumentHandle);
-    state.SessionClosed = true;
+    state.sessionClosed = true;
     state.instrumentHandle = 0;
-    for (sensors::SensorEntry& entry : table_.Sensors) entry.SessionOpen = false;
+    for (sensors::SensorEntry& entry : table_.entries) entry.sessionOpen = false;
 }
 
 template <class Call>
@@ -123,22 +123,21 @@ bool Session::CheckStatus(Status status, bool closeOnError) {
                               platform::MessageIcon::Exclamation);
         if (closeOnError) Close();
     }
-    state.ReconnectPrompt = util::UpperCase(message).find("DESCRIPTOR") == std::string::npos;
+    state.reconnectPrompt = util::UpperCase(message).find("DESCRIPTOR") == std::string::npos;
     return status != 0;
 }
 
 void Session::ReportError(Status status, int slot, const char* context) {
     if (status == 0) return;
     if (log.enabled)
-        log.Write("   ERROR: Session " +
-                        util::NumberText(std::int64_t{state.instrumentHandle}) + ", Code " +
-                        util::NumberText(std::int64_t{status}) + "=0x" +
-                        util::HexText(static_cast<std::uint32_t>(status)));
+        log.Write("   ERROR: Session " + util::NumberText(std::int64_t{state.instrumentHandle}) +
+                  ", Code " + util::NumberText(std::int64_t{status}) + "=0x" +
+                  util::HexText(static_cast<std::uint32_t>(status)));
     const std::string message = Message(status, false);
     log.Write("   error_message: " + message);
     const std::string query = Query(status, false);
     log.Write("   error_query: '" + query + "'");
-    std::string& text = table_[slot].LastErrorText;
+    std::string& text = table_[slot].lastErrorText;
     text += std::string(context) + "\r\n  " + message + "\r\n  " + query + "\r\n";
     notices_.ShowSensorError(true, slot, text, false);
 }

@@ -204,10 +204,10 @@ std::string LogHeader(Handle handle, int slot) {
 
 void ResetChannel(Session& session, int slot) {
     if (session.log.enabled)
-        session.log.Write(
-            "psdrv_chan_reset(" +
-            util::TrimmedNumberText(std::int64_t{session.state.instrumentHandle}) + ", " +
-            util::TrimmedNumberText(std::int64_t{ChannelOf(slot)}) + ") STARTING");
+        session.log.Write("psdrv_chan_reset(" +
+                          util::TrimmedNumberText(std::int64_t{session.state.instrumentHandle}) +
+                          ", " + util::TrimmedNumberText(std::int64_t{ChannelOf(slot)}) +
+                          ") STARTING");
     session.operations.psdrv_chan_reset(session.state.instrumentHandle, ChannelOf(slot));
     session.log.Write("psdrv_chan_reset -> FINISHED");
 }
@@ -218,29 +218,29 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
     {
         const sensors::TableLock lock(table_);
         sensors::SensorEntry& entry = table_[slot];
-        session_.state.ConfigRunning = true;
+        session_.state.configRunning = true;
         marks_.TransferBegins(slot);
         ResetChannel(session_, slot);
-        entry.LastErrorText.clear();
+        entry.lastErrorText.clear();
         session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
 
         SettingsSender send(session_, slot);
         InstrumentOperations& op = session_.operations;
         const bool withoutRange =
-            util::UpperCase(entry.LogicalName).find("PS-102") != std::string::npos;
-        const bool averageOnly = entry.LogicalName.find("102") != std::string::npos;
-        SendAveraging(send, op, entry.Settings);
-        SendCorrections(send, op, entry.Settings);
-        if (!withoutRange) SendRange(send, op, entry.Settings);
+            util::UpperCase(entry.logicalName).find("PS-102") != std::string::npos;
+        const bool averageOnly = entry.logicalName.find("102") != std::string::npos;
+        SendAveraging(send, op, entry.settings);
+        SendCorrections(send, op, entry.settings);
+        if (!withoutRange) SendRange(send, op, entry.settings);
         if (!averageOnly) {
-            SendTrigger(send, op, entry.Settings);
-            SendMode(send, op, entry.Settings);
+            SendTrigger(send, op, entry.settings);
+            SendMode(send, op, entry.settings);
         }
 
         session_.log.header.clear();
-        notices_.ShowSensorError(!entry.LastErrorText.empty(), slot, entry.LastErrorText, false);
-        entry.SettingsChanged = false;
-        session_.state.ConfigRunning = false;
+        notices_.ShowSensorError(!entry.lastErrorText.empty(), slot, entry.lastErrorText, false);
+        entry.settingsChanged = false;
+        session_.state.configRunning = false;
     }
     marks_.TransferEnds(slot);
 }

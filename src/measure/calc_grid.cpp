@@ -23,9 +23,9 @@ std::optional<double> ReadingOf(const sensors::SensorTable& table, const Reading
     if (name.slot < 0 || name.slot >= table.Slots()) return std::nullopt;
     const sensors::SensorEntry& entry = table[name.slot];
     const bool scalar =
-        entry.Settings.Mode == sensors::ContinuousAverage || entry.Settings.Mode == sensors::Burst;
-    if (!entry.Present || !entry.Enabled || !scalar) return std::nullopt;
-    return name.inDbm ? util::WToDbm(std::abs(entry.LastReading)) : entry.LastReading;
+        entry.settings.Mode == sensors::ContinuousAverage || entry.settings.Mode == sensors::Burst;
+    if (!entry.present || !entry.enabled || !scalar) return std::nullopt;
+    return name.inDbm ? util::WToDbm(std::abs(entry.lastReading)) : entry.lastReading;
 }
 
 }  // namespace
@@ -39,7 +39,7 @@ ReadingName ParseReadingName(std::string_view name) {
 
 CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host)
     : grid_(window.CalcGrid), table_(table), host_(host) {
-    grid_.Click.Connect([this](int row, int column) { EditCell(row, column); });
+    grid_.click.Connect([this](int row, int column) { EditCell(row, column); });
 }
 
 void CalcGrid::LayOut() {

@@ -14,9 +14,9 @@ void OfferSensorCommands(forms::SetupForm& dialog, bool offered) {
         {dialog.SensSelfTest, "selfTestPic", "selfTestDisPic"},
         {dialog.SensInfo, "sensInfoPic", "sensInfoDisPic"},
     };
-    dialog.ActionFrame.Enabled = offered;
+    dialog.ActionFrame.enabled = offered;
     for (const auto& command : commands)
-        command.button.Picture = offered ? command.picture : command.disabledPicture;
+        command.button.picture = offered ? command.picture : command.disabledPicture;
 }
 
 }  // namespace kelvra::measure

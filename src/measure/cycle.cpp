@@ -21,7 +21,7 @@ constexpr std::int16_t LongestBar = 8;
 
 bool Cycle::Takes(int slot) const {
     const auto index = static_cast<std::size_t>(slot);
-    return index < measured_.size() && measured_[index] && p_.table[slot].Present;
+    return index < measured_.size() && measured_[index] && p_.table[slot].present;
 }
 
 void Cycle::Pass() {
@@ -31,11 +31,11 @@ void Cycle::Pass() {
         const bool prepared = PrepareSlot(slot);
         if (!prepared || p_.state.Ending()) return;
     }
-    for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].TriggerNowRequest = false;
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
     const platform::Duration began = p_.host.clock.Monotonic();
     speed_.Restart(began);
     Initiate();
-    p_.forms.mdiMain.FileSaveData.Enabled = true;
+    p_.forms.mdiMain.FileSaveData.enabled = true;
     Poll(began);
     if (p_.state.Ending()) return;
     speed_.UpdateSpeedAndBusy();
@@ -43,21 +43,21 @@ void Cycle::Pass() {
     p_.calcGrid.Compute();
     p_.host.events.DoEvents();
     if (p_.state.exiting) return;
-    if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);
+    if (!p_.session.state.errorShown) HideNotice(p_.forms.mdiMain);
     pacing_.WaitForDeadline();
     if (p_.state.exiting) return;
     // What was shown while waiting is over; an error stays to be read.
-    if (!p_.session.state.ErrorShown) p_.forms.mdiMain.lblMeasAwait.Caption = " ";
-    ++p_.state.Passes;
+    if (!p_.session.state.errorShown) p_.forms.mdiMain.lblMeasAwait.caption = " ";
+    ++p_.state.passes;
 }
 
 // A slot that was closed since the last pass is opened again; changed settings are sent. A failed
 // opening has closed the session of all: then the pass starts over.
 bool Cycle::PrepareSlot(int slot) {
-    if (!p_.table[slot].SessionOpen) {
+    if (!p_.table[slot].sessionOpen) {
         p_.session.OpenSensor(slot);
         if (p_.state.exiting) return false;
-        if (!p_.table[slot].SessionOpen) {
+        if (!p_.table[slot].sessionOpen) {
             ShowSwitch(slot);
             TakeOut(slot);
             return false;
@@ -66,14 +66,14 @@ bool Cycle::PrepareSlot(int slot) {
         Configure(slot);
         if (p_.state.exiting) return false;
     }
-    if (p_.table[slot].SettingsChanged) {
+    if (p_.table[slot].settingsChanged) {
         Configure(slot);
         if (p_.state.exiting) return false;
-        if (!p_.table.SimulationMode) sensors::PrepareWorkArrays(p_.table, slot);
+        if (!p_.table.simulationMode) sensors::PrepareWorkArrays(p_.table, slot);
     }
     sensors::SensorEntry& entry = p_.table[slot];
-    entry.MeasPending = 1;
-    ++entry.WaitTicks;
+    entry.measPending = 1;
+    ++entry.waitTicks;
     p_.results.ShowActivity(slot, true);
     return true;
 }
@@ -86,14 +86,14 @@ void Cycle::TakeOut(int slot) {
 }
 
 void Cycle::Configure(int slot) {
-    if (p_.table.SimulationMode)
-        p_.table[slot].SettingsChanged = false;
+    if (p_.table.simulationMode)
+        p_.table[slot].settingsChanged = false;
     else
         p_.transfer.ConfigureSensor(slot);
 }
 
 void Cycle::Initiate() {
-    if (p_.table.SimulationMode) return;
+    if (p_.table.simulationMode) return;
     driver::DebugLog& log = p_.session.log;
     const driver::Handle handle = p_.session.state.instrumentHandle;
     if (log.enabled)
@@ -111,7 +111,7 @@ void Cycle::Poll(platform::Duration began) {
         bool progress = false;
         for (int slot = 0; slot < p_.table.Slots(); ++slot) {
             const sensors::SensorEntry& entry = p_.table[slot];
-            if (!entry.SessionOpen || entry.MeasPending != 1 || entry.SettingsChanged) continue;
+            if (!entry.sessionOpen || entry.measPending != 1 || entry.settingsChanged) continue;
             const bool complete = PollSlot(slot, now);
             progress = progress || complete;
             allDone = allDone && complete;
@@ -122,11 +122,11 @@ void Cycle::Poll(platform::Duration began) {
 }
 
 bool Cycle::PollSlot(int slot, platform::Duration now) {
-    if (!p_.table.SimulationMode && !AskWhetherComplete(slot, now)) return false;
+    if (!p_.table.simulationMode && !AskWhetherComplete(slot, now)) return false;
     sensors::SensorEntry& entry = p_.table[slot];
-    entry.MeasPending = 0;
+    entry.measPending = 0;
     p_.results.ShowActivity(slot, false);
-    if (entry.WaitTicks >= LongestBar) entry.WaitTicks = 0;
+    if (entry.waitTicks >= LongestBar) entry.waitTicks = 0;
     return true;
 }
 
@@ -135,16 +135,15 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     driver::DebugLog& log = p_.session.log;
     const driver::Handle handle = p_.session.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
-    if (p_.table[slot].TriggerNowRequest) {
+    if (p_.table[slot].triggerNowRequest) {
         driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger,
                            handle, channel);
-        p_.table[slot].TriggerNowRequest = false;
+        p_.table[slot].triggerNowRequest = false;
     }
     const std::string name = log.enabled ? op.psdrv_chan_isMeasurementComplete.name : "";
     driver::Switch complete = 0;
     if (log.enabled)
-        log.Write(name + "( " + driver::ArgumentText(handle, channel, complete) +
-                        " ) STARTING");
+        log.Write(name + "( " + driver::ArgumentText(handle, channel, complete) + " ) STARTING");
     const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
     if (log.enabled)
         log.Write(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
@@ -153,7 +152,7 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
 }
 
 void Cycle::ShowWaiting(int slot, driver::Status status, platform::Duration now) {
-    if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.ErrorShown) return;
+    if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.errorShown) return;
     std::string text = "Waiting for a trigger signal at sensor " +
                        util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
     if (status != 0) text += ": " + p_.session.MessageFor(status);
@@ -163,12 +162,12 @@ void Cycle::ShowWaiting(int slot, driver::Status status, platform::Duration now)
 
 void Cycle::Fetch() {
     for (int slot = 0; slot < p_.table.Slots(); ++slot)
-        if (Takes(slot) && p_.table[slot].SessionOpen && !p_.table[slot].SettingsChanged)
+        if (Takes(slot) && p_.table[slot].sessionOpen && !p_.table[slot].settingsChanged)
             FetchSlot(slot);
 }
 
 void Cycle::FetchSlot(int slot) {
-    switch (p_.table[slot].Settings.Mode) {
+    switch (p_.table[slot].settings.Mode) {
         case sensors::ContinuousAverage:
         case sensors::Burst:
             p_.results.SetTableMark(slot, true);
@@ -177,12 +176,12 @@ void Cycle::FetchSlot(int slot) {
         case sensors::TimeSlot:
             p_.results.SetTableMark(slot, false);
             p_.readings.GetMultiReading(slot);
-            p_.table[slot].NewTSlotData = true;
+            p_.table[slot].newSlotData = true;
             break;
         case sensors::Trace:
             p_.results.SetTableMark(slot, false);
             p_.readings.GetMultiReading(slot);
-            p_.table[slot].NewScopeData = true;
+            p_.table[slot].newTraceData = true;
             break;
         default:  // a buffered result is not fetched in the pass
             break;
@@ -191,7 +190,7 @@ void Cycle::FetchSlot(int slot) {
 
 // Every measurement opens and closes its own session; a simulated one has none.
 void Cycle::Close() {
-    if (!p_.state.exiting && !p_.table.SimulationMode) p_.session.Close();
+    if (!p_.state.exiting && !p_.table.simulationMode) p_.session.Close();
 }
 
 }  // namespace kelvra::measure

@@ -24,8 +24,8 @@ Cycle::Cycle(const CycleParts& parts)
     : p_(parts),
       speed_(parts.forms.mdiMain, parts.host),
       pacing_(parts.state, parts.host, parts.notices) {
-    p_.forms.mdiMain.StartIt.Click.Connect([this] { Start(); });
-    p_.forms.mdiMain.StopIt.Click.Connect([this] { Stop(); });
+    p_.forms.mdiMain.StartIt.click.Connect([this] { Start(); });
+    p_.forms.mdiMain.StopIt.click.Connect([this] { Stop(); });
 }
 
 void Cycle::Start() {
@@ -64,28 +64,28 @@ void Cycle::Start() {
 }
 
 void Cycle::Stop() {
-    p_.state.Measuring = false;
-    p_.state.StopRequested = true;
-    p_.state.RecordInterval = 0;
-    p_.forms.mdiMain.FileSaveData.Caption = "Record Data...";
-    if (!p_.session.state.ErrorShown) HideNotice(p_.forms.mdiMain);
+    p_.state.measuring = false;
+    p_.state.stopRequested = true;
+    p_.state.recordInterval = 0;
+    p_.forms.mdiMain.FileSaveData.caption = "Record Data...";
+    if (!p_.session.state.errorShown) HideNotice(p_.forms.mdiMain);
     ShowIdle();
 }
 
 // A Stop that is pressed from here on counts, however early: nothing below takes it back.
 void Cycle::BeginMeasuring() {
-    p_.state.Measuring = true;
-    p_.state.StopRequested = false;
+    p_.state.measuring = true;
+    p_.state.stopRequested = false;
     ++p_.state.starts;
     // In this order: the focus goes from the one to the other.
-    p_.forms.mdiMain.StopIt.Enabled = true;
-    p_.forms.mdiMain.StartIt.Enabled = false;
+    p_.forms.mdiMain.StopIt.enabled = true;
+    p_.forms.mdiMain.StartIt.enabled = false;
 }
 
 // Also at the end of a measurement: Stop may have been pressed by someone, or by a recovery.
 void Cycle::ShowIdle() {
-    p_.forms.mdiMain.StartIt.Enabled = true;
-    p_.forms.mdiMain.StopIt.Enabled = false;
+    p_.forms.mdiMain.StartIt.enabled = true;
+    p_.forms.mdiMain.StopIt.enabled = false;
     OfferSensorCommands(p_.forms.setupForm, true);
 }
 
@@ -93,21 +93,21 @@ void Cycle::ShowIdle() {
 void Cycle::BringEnabledToFront() {
     sensors::SensorTable& table = p_.table;
     for (int slot = 0; slot < table.Slots(); ++slot) {
-        if (!table[slot].Present || table[slot].Enabled) continue;
+        if (!table[slot].present || table[slot].enabled) continue;
         for (int other = slot + 1; other < table.Slots(); ++other) {
-            if (!table[other].Present || !table[other].Enabled) continue;
+            if (!table[other].present || !table[other].enabled) continue;
             table.SwapSlots(slot, other);
             break;
         }
     }
     measured_.assign(static_cast<std::size_t>(table.Slots()), false);
     for (int slot = 0; slot < table.Slots(); ++slot)
-        measured_[static_cast<std::size_t>(slot)] = table[slot].Present && table[slot].Enabled;
+        measured_[static_cast<std::size_t>(slot)] = table[slot].present && table[slot].enabled;
 }
 
 void Cycle::FindModes() {
-    p_.state.TimeSlotModeActive = false;
-    p_.state.ScopeModeActive = false;
+    p_.state.timeSlotModeActive = false;
+    p_.state.traceModeActive = false;
     controls::List& slotList = p_.forms.timeSlotDisp.Timeslot_Sensorselect;
     controls::List& traceList = p_.forms.scopeDisp.Scope_Sensorselect;
     slotList.Clear();
@@ -115,12 +115,12 @@ void Cycle::FindModes() {
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) continue;
         const sensors::SensorEntry& entry = p_.table[slot];
-        if (entry.Settings.Mode == sensors::TimeSlot) {
-            p_.state.TimeSlotModeActive = true;
-            AddToDisplay(slotList, entry.LogicalName, slot);
-        } else if (entry.Settings.Mode == sensors::Trace) {
-            p_.state.ScopeModeActive = true;
-            AddToDisplay(traceList, entry.LogicalName, slot);
+        if (entry.settings.Mode == sensors::TimeSlot) {
+            p_.state.timeSlotModeActive = true;
+            AddToDisplay(slotList, entry.logicalName, slot);
+        } else if (entry.settings.Mode == sensors::Trace) {
+            p_.state.traceModeActive = true;
+            AddToDisplay(traceList, entry.logicalName, slot);
         }
     }
 }
@@ -130,7 +130,7 @@ Cycle::Prepared Cycle::OpenSensors() {
     platform::Duration lastRound = p_.host.clock.Monotonic();
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) {
-            p_.table[slot].SessionOpen = false;
+            p_.table[slot].sessionOpen = false;
             continue;
         }
         const bool opened = OpenAndConfigure(slot);
@@ -144,9 +144,9 @@ Cycle::Prepared Cycle::OpenSensors() {
 }
 
 bool Cycle::OpenAndConfigure(int slot) {
-    if (!p_.table[slot].SessionOpen) {
+    if (!p_.table[slot].sessionOpen) {
         p_.session.OpenSensor(slot);
-        if (!p_.table[slot].SessionOpen) {
+        if (!p_.table[slot].sessionOpen) {
             ShowSwitch(slot);
             return false;
         }
@@ -158,7 +158,7 @@ bool Cycle::OpenAndConfigure(int slot) {
 
 // A sensor that can't be added to the session has been switched off.
 void Cycle::ShowSwitch(int slot) {
-    if (p_.state.exiting || p_.table[slot].Enabled) return;
+    if (p_.state.exiting || p_.table[slot].enabled) return;
     p_.results.PaintName(slot);
     p_.selection.UpdateSensSelect();
 }
@@ -170,7 +170,7 @@ void Cycle::LetEventsRunIfLate(platform::Duration& lastRound) {
 }
 
 void Cycle::ShowStartFailure() {
-    if (!p_.session.state.ReconnectPrompt) return;
+    if (!p_.session.state.reconnectPrompt) return;
     p_.host.dialogs.Message("Initialization Error",
                             "There was an error while initializing the sensors.\r\n"
                             "Please reconnect the sensors and press ok.",

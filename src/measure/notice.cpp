@@ -6,14 +6,14 @@
 namespace kelvra::measure {
 
 void ShowNotice(forms::MDIMain& window, std::string text) {
-    window.lblMeasAwait.Caption = std::move(text);
-    window.lblMeasAwait.Visible = true;
-    window.ConnectedFrame.Visible = true;
+    window.lblMeasAwait.caption = std::move(text);
+    window.lblMeasAwait.visible = true;
+    window.ConnectedFrame.visible = true;
 }
 
 void HideNotice(forms::MDIMain& window) {
-    window.lblMeasAwait.Visible = false;
-    window.ConnectedFrame.Visible = false;
+    window.lblMeasAwait.visible = false;
+    window.ConnectedFrame.visible = false;
 }
 
 }  // namespace kelvra::measure

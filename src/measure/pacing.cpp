@@ -21,7 +21,7 @@ constexpr int NoSlot = 0;  // general messages name no sensor
 }  // namespace
 
 platform::Duration Pacing::Deadline() const {
-    const platform::Duration interval = seconds(state_.RecordInterval);
+    const platform::Duration interval = seconds(state_.recordInterval);
     const platform::Duration own = passBegan_ + interval;
     if (!lastDeadline_) return own;
     const platform::Duration even = *lastDeadline_ + interval;
@@ -31,13 +31,13 @@ platform::Duration Pacing::Deadline() const {
 }
 
 void Pacing::WaitForDeadline() {
-    if (state_.RecordInterval <= 0) {
+    if (state_.recordInterval <= 0) {
         lastDeadline_.reset();
         return;
     }
     const platform::Duration deadline = Deadline();
     const bool keepsUp = deadline > host_.clock.Monotonic();
-    while (state_.RecordInterval > 0 && !state_.Ending()) {
+    while (state_.recordInterval > 0 && !state_.Ending()) {
         const platform::Duration left = deadline - host_.clock.Monotonic();
         if (left <= platform::Duration::zero()) break;
         host_.events.DoEvents();

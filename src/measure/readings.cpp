@@ -32,7 +32,7 @@ void FramedFetch(driver::DebugLog& log, const char* name, driver::Handle handle,
                  driver::Channel channel, const Value& value, auto call) {
     if (log.enabled)
         log.Write(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
-                        Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
+                  Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
     call();
     if (log.enabled) log.Write(std::string(name) + " -> " + Number(value) + " ) FINISHED");
 }
@@ -42,22 +42,22 @@ void FramedFetch(driver::DebugLog& log, const char* name, driver::Handle handle,
 void Readings::GetSingleReading(int slot) {
     const sensors::TableLock lock(table_);
     sensors::SensorEntry& entry = table_[slot];
-    if (table_.SimulationMode)
-        entry.LastReading = SimulatedReading(slot, host_.random);
+    if (table_.simulationMode)
+        entry.lastReading = SimulatedReading(slot, host_.random);
     else
         FetchScalar(slot);
 
     const util::NumberForm& form = host_.computer.Numbers();
-    entry.History.Add(entry.LastReading);
-    const double levelDbm = entry.History.LastLevel();
-    results_.SetValue(slot, WattColumn, util::ScientificFigure(entry.LastReading, form),
+    entry.history.Add(entry.lastReading);
+    const double levelDbm = entry.history.LastLevel();
+    results_.SetValue(slot, WattColumn, util::ScientificFigure(entry.lastReading, form),
                       Align::Left);
     results_.SetValue(slot, DbmColumn, util::FixedFigure(levelDbm, form), Align::Left);
-    if (!table_.SimulationMode)
-        table_.SlotReadings[static_cast<std::size_t>(slot)] = {entry.LastReading, levelDbm};
-    results_.SetValue(slot, CountColumn, util::CountFigure(entry.AvgCountRead, form),
+    if (!table_.simulationMode)
+        table_.slotReadings[static_cast<std::size_t>(slot)] = {entry.lastReading, levelDbm};
+    results_.SetValue(slot, CountColumn, util::CountFigure(entry.avgCountRead, form),
                       Align::Centre);
-    if (const auto sigma = entry.History.Sigma())
+    if (const auto sigma = entry.history.Sigma())
         results_.SetValue(slot, SigmaColumn, util::FixedFigure(*sigma, form), Align::Centre);
 }
 
@@ -66,21 +66,21 @@ void Readings::FetchScalar(int slot) {
     const driver::Channel channel = driver::ChannelOf(slot);
     sensors::SensorEntry& entry = table_[slot];
     FramedFetch(
-        session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.LastReading, [&] {
-            session_.operations.psdrv_meass_fetchMeasurement(handle, channel, &entry.LastReading);
+        session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.lastReading, [&] {
+            session_.operations.psdrv_meass_fetchMeasurement(handle, channel, &entry.lastReading);
         });
-    std::int32_t& count = entry.AvgCountRead;
+    std::int32_t& count = entry.avgCountRead;
     FramedFetch(session_.log, "psdrv_avg_getCount", handle, channel, count,
                 [&] { session_.operations.psdrv_avg_getCount(handle, channel, &count); });
 }
 
 void Readings::GetMultiReading(int slot) {
     const sensors::TableLock lock(table_);
-    std::vector<double>& results = table_[slot].Results;
+    std::vector<double>& results = table_[slot].results;
     results.assign(ArraySize, 0.0);
     int count = 0;
-    if (table_.SimulationMode) {
-        const auto values = SimulatedArray(table_[slot].Settings, ArraySize, host_.random);
+    if (table_.simulationMode) {
+        const auto values = SimulatedArray(table_[slot].settings, ArraySize, host_.random);
         std::copy(values.begin(), values.end(), results.begin());
         count = static_cast<int>(values.size());
     } else {
@@ -95,10 +95,10 @@ int Readings::FetchArray(int slot) {
     const std::string name = session_.operations.psdrv_meass_fetchBufferMeasurement.name;
     std::int32_t count = 0;
     if (session_.log.enabled)
-        session_.log.Write(
-            name + "( " + driver::ArgumentText(handle, channel, ArraySize, count) + " ) STARTING");
+        session_.log.Write(name + "( " + driver::ArgumentText(handle, channel, ArraySize, count) +
+                           " ) STARTING");
     session_.operations.psdrv_meass_fetchBufferMeasurement(handle, channel, ArraySize,
-                                                           table_[slot].Results.data(), &count);
+                                                           table_[slot].results.data(), &count);
     if (session_.log.enabled) session_.log.Write(name + " -> " + Number(count) + " FINISHED");
     return count;
 }

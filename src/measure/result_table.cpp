@@ -24,8 +24,8 @@ int RowOf(int slot) {
 ResultTable::ResultTable(forms::Forms& forms, sensors::SensorTable& table,
                          SensorSelection& selection)
     : grid_(forms.statusForm.ResultGrid), table_(table), selection_(selection) {
-    grid_.MouseDown.Connect([this](int row, int column) { PressCell(row, column); });
-    grid_.Click.Connect([this](int row, int column) { ClickCell(row, column); });
+    grid_.mouseDown.Connect([this](int row, int column) { PressCell(row, column); });
+    grid_.click.Connect([this](int row, int column) { ClickCell(row, column); });
 }
 
 void ResultTable::LayOut() {
@@ -54,14 +54,14 @@ void ResultTable::LayOut() {
 
 void ResultTable::PaintName(int slot) {
     const sensors::SensorEntry& entry = table_[slot];
-    const bool on = entry.Present && entry.Enabled;
-    SetGridCell(grid_, RowOf(slot), NameColumn, entry.LogicalName, Align::Centre, true, false,
+    const bool on = entry.present && entry.enabled;
+    SetGridCell(grid_, RowOf(slot), NameColumn, entry.logicalName, Align::Centre, true, false,
                 on ? controls::Green : controls::Grey);
 }
 
 void ResultTable::PaintPresence(int slot) {
     PaintName(slot);
-    if (table_[slot].Present) return;
+    if (table_[slot].present) return;
     for (const Column column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false, controls::Cyan);
 }
@@ -85,7 +85,7 @@ void ResultTable::ShowActivity(int slot, bool waiting) {
     constexpr std::string_view bars = "||||||||.";
     constexpr int longest = bars.size() - 1;
     const auto length =
-        static_cast<std::size_t>(std::clamp<int>(table_[slot].WaitTicks, 0, longest));
+        static_cast<std::size_t>(std::clamp<int>(table_[slot].waitTicks, 0, longest));
     const std::string_view text = bars.substr(longest - length, length + (waiting ? 1 : 0));
     SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Left, true, false);
 }
@@ -96,8 +96,8 @@ void ResultTable::ShowState(int slot, std::string_view text, controls::Colour ba
 
 void ResultTable::ToggleEnabled(int slot) {
     sensors::SensorEntry& entry = table_[slot];
-    if (!entry.Present) return;
-    entry.Enabled = !entry.Enabled;
+    if (!entry.present) return;
+    entry.enabled = !entry.enabled;
     table_.RememberSwitch(entry);
     PaintName(slot);
 }

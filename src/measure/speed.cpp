@@ -24,18 +24,18 @@ void Speed::UpdateSpeedAndBusy() {
     ++cycleCount_;
     if (cycleTimeSum_ <= UpdateIntervalMs) return;
     const double passesPerSecond = 1 / ((cycleTimeSum_ / cycleCount_) / 1000);
-    window_.MeasSpeedInfo.Caption =
+    window_.MeasSpeedInfo.caption =
         util::FixedText(passesPerSecond, 0, host_.computer.Numbers()) + " /s";
     Reset();
     AdvanceBusyPicture();
 }
 
 void Speed::AdvanceBusyPicture() {
-    const auto shown = util::ReadWholeNumber(window_.BusySign.Tag.Get()).value_or(0);
+    const auto shown = util::ReadWholeNumber(window_.BusySign.tag.Get()).value_or(0);
     const auto next = shown >= BusyPictures || shown < 0 ? 1 : shown + 1;
     const std::string number = util::TrimmedNumberText(next);
-    window_.BusySign.Tag = number;
-    window_.BusySign.Image = "busy" + number;
+    window_.BusySign.tag = number;
+    window_.BusySign.image = "busy" + number;
 }
 
 }  // namespace kelvra::measure

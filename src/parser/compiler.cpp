@@ -32,9 +32,9 @@ std::size_t CountAbsBars(std::string_view text) {
 }
 
 Compiler::Compiler(std::string_view text, ExpressionTable& table) : text_(text), table_(table) {
-    table_.ET.resize(1);
-    table_.Vars.resize(1);
-    table_.VarTop = 0;
+    table_.entries.resize(1);
+    table_.variables.resize(1);
+    table_.variableCount = 0;
     table_.names.clear();
 }
 
@@ -48,8 +48,8 @@ bool Compiler::Compile() {
     }
     if (depth_ >= 1) return Fail("Not enough closing brackets");
     if (!Finish()) return false;
-    SetEvaluationOrder(table_.ET);
-    LinkResults(table_.ET);
+    SetEvaluationOrder(table_.entries);
+    LinkResults(table_.entries);
     return true;
 }
 
@@ -167,12 +167,12 @@ bool Compiler::TakeComparison(char c) {
         if (!AppendEntry({}, UnknownComparison)) return false;
     }
     comparison_ += c;
-    ETEntry& entry = table_.ET.back();
-    entry.Fun = comparison_;
-    entry.Id = FunctionId(comparison_);
-    entry.ArgTop = 2;
-    entry.PriLvl = LevelsOfDepth * depth_ + UnknownComparison.level;
-    entry.PosInExpr = position_;
+    ExpressionEntry& entry = table_.entries.back();
+    entry.function = comparison_;
+    entry.code = FunctionId(comparison_);
+    entry.argumentCount = 2;
+    entry.priority = LevelsOfDepth * depth_ + UnknownComparison.level;
+    entry.position = position_;
     return true;
 }
 
@@ -188,43 +188,44 @@ bool Compiler::TakeProductName(char c) {
 // A lone operand becomes 0 + operand; then each entry gets its last argument: the first argument of
 // the entry to its right, or for the last entry the token that is left.
 bool Compiler::Finish() {
-    auto& entries = table_.ET;
-    if (table_.ETTop() == 0) {
+    auto& entries = table_.entries;
+    if (table_.LastEntry() == 0) {
         AppendEntry("+", *FindFunction("+"));
-        entries.back().PriLvl = 1;
-        entries.back().PosInExpr = 1;
+        entries.back().priority = 1;
+        entries.back().position = 1;
     }
     for (std::size_t k = 1; k < entries.size(); ++k) {
-        const ExprArg next = k + 1 < entries.size() ? entries[k + 1].Arg[0] : ExprArg{};
-        entries[k].Arg[entries[k].ArgTop - 1] = next;
+        const Argument next = k + 1 < entries.size() ? entries[k + 1].arguments[0] : Argument{};
+        entries[k].arguments[entries[k].argumentCount - 1] = next;
     }
-    return Token().empty() || SetOperand(entries.back().Arg[entries.back().ArgTop - 1]);
+    return Token().empty() ||
+           SetOperand(entries.back().arguments[entries.back().argumentCount - 1]);
 }
 
 bool Compiler::AppendEntry(std::string_view fun, const Function& function) {
-    if (table_.ETTop() == MaxEntries) return Fail("too many operations");
-    ETEntry& entry = table_.ET.emplace_back();
-    entry.Fun = fun;
-    entry.Id = function.id;
-    entry.ArgTop = function.argTop;
-    entry.PriLvl = LevelsOfDepth * depth_ + function.level;
-    entry.PosInExpr = position_;
+    if (table_.LastEntry() == MaxEntries) return Fail("too many operations");
+    ExpressionEntry& entry = table_.entries.emplace_back();
+    entry.function = fun;
+    entry.code = function.id;
+    entry.argumentCount = function.argTop;
+    entry.priority = LevelsOfDepth * depth_ + function.level;
+    entry.position = position_;
     return true;
 }
 
 // The operand of "!" stays: what follows takes it too, and gets the factorial when it is linked.
 bool Compiler::CloseOperand() {
-    ETEntry& entry = table_.ET.back();
-    if (!SetOperand(entry.Arg[0])) return false;
-    if (entry.Fun != "!") DropToken();
+    ExpressionEntry& entry = table_.entries.back();
+    if (!SetOperand(entry.arguments[0])) return false;
+    if (entry.function != "!") DropToken();
     return true;
 }
 
-bool Compiler::SetOperand(ExprArg& argument) {
+bool Compiler::SetOperand(Argument& argument) {
     const std::string_view token = Token();
     if (token.empty()) return Fail("missing argument");
     if (const auto value = ParseConstant(token)) {
-        argument.Value = *value;
+        argument.value = *value;
         return true;
     }
     if (!IsLetter(token.front()))
@@ -232,17 +233,18 @@ bool Compiler::SetOperand(ExprArg& argument) {
     return AddVariable(token, argument);
 }
 
-bool Compiler::AddVariable(std::string_view name, ExprArg& argument) {
-    auto& variables = table_.Vars;
-    const auto known = std::find_if(variables.begin() + 1, variables.end(),
-                                    [&](const ExprArg& variable) { return variable.Name == name; });
+bool Compiler::AddVariable(std::string_view name, Argument& argument) {
+    auto& variables = table_.variables;
+    const auto known =
+        std::find_if(variables.begin() + 1, variables.end(),
+                     [&](const Argument& variable) { return variable.name == name; });
     const auto number = static_cast<std::int32_t>(known - variables.begin());
     if (known == variables.end()) {
-        if (++table_.VarTop > MaxVariables) return Fail("too many Vars");
+        if (++table_.variableCount > MaxVariables) return Fail("too many Vars");
         variables.push_back({0, name, 0});
     }
-    argument.Idx = number;
-    argument.Name = name;
+    argument.variable = number;
+    argument.name = name;
     return true;
 }
 

@@ -50,23 +50,26 @@ inline double EvaluationPlan::Apply(const Step& step, double a, double b, util::
     return Failed;
 }
 
-void EvaluationPlan::Build(std::span<const ETEntry> table) {
+void EvaluationPlan::Build(std::span<const ExpressionEntry> table) {
     std::array<std::size_t, MaxEntries + 1> stepOf{};
-    for (std::size_t k = 1; k < table.size(); ++k) stepOf[table[k].PriIdx] = k - 1;
+    for (std::size_t k = 1; k < table.size(); ++k) stepOf[table[k].order] = k - 1;
     steps_.resize(table.size() - 1);
     feeds_.clear();
     for (std::size_t k = 1; k < table.size(); ++k) {
-        const ETEntry& entry = table[k];
+        const ExpressionEntry& entry = table[k];
         Step& step = steps_[stepOf[k]];
-        Bind(step, FindFunction(entry.Id));
+        Bind(step, FindFunction(entry.code));
         step.takesLast = {};
-        step.value = entry.Value;
+        step.value = entry.value;
         step.entry = static_cast<std::int32_t>(k);
         step.receiver =
-            entry.ArgOf == 0 ? &result_ : &steps_[stepOf[entry.ArgOf]].arguments[entry.ArgIdx - 1];
-        for (std::size_t i = 0; i < entry.Arg.size(); ++i) {
-            step.arguments[i] = entry.Arg[i].Value;
-            if (entry.Arg[i].Idx != 0) feeds_.push_back({entry.Arg[i].Idx, &step.arguments[i]});
+            entry.receiver == 0
+                ? &result_
+                : &steps_[stepOf[entry.receiver]].arguments[entry.receivingArgument - 1];
+        for (std::size_t i = 0; i < entry.arguments.size(); ++i) {
+            step.arguments[i] = entry.arguments[i].value;
+            if (entry.arguments[i].variable != 0)
+                feeds_.push_back({entry.arguments[i].variable, &step.arguments[i]});
         }
     }
     for (std::size_t k = 1; k < steps_.size(); ++k)
@@ -74,8 +77,8 @@ void EvaluationPlan::Build(std::span<const ETEntry> table) {
             steps_[k].takesLast[i] = steps_[k - 1].receiver == &steps_[k].arguments[i];
 }
 
-void EvaluationPlan::Load(std::span<const ExprArg> variables) {
-    for (const Feed& feed : feeds_) *feed.argument = variables[feed.variable].Value;
+void EvaluationPlan::Load(std::span<const Argument> variables) {
+    for (const Feed& feed : feeds_) *feed.argument = variables[feed.variable].value;
 }
 
 void EvaluationPlan::Load(double value) {
@@ -103,11 +106,12 @@ EvaluationPlan::Failure EvaluationPlan::LastFailure() const {
     return {step.entry, step.arguments[0], step.arguments[1]};
 }
 
-void EvaluationPlan::CopyValues(std::span<ETEntry> table) const {
+void EvaluationPlan::CopyValues(std::span<ExpressionEntry> table) const {
     for (const Step& step : steps_) {
-        ETEntry& entry = table[step.entry];
-        entry.Value = step.value;
-        for (std::size_t i = 0; i < entry.Arg.size(); ++i) entry.Arg[i].Value = step.arguments[i];
+        ExpressionEntry& entry = table[step.entry];
+        entry.value = step.value;
+        for (std::size_t i = 0; i < entry.arguments.size(); ++i)
+            entry.arguments[i].value = step.arguments[i];
     }
 }
 

@@ -11,8 +11,8 @@ namespace kelvra::parser {
 
 MathParser::MathParser(util::Random& random, util::NumberForm form)
     : random_(random), form_(std::move(form)) {
-    table_.ET.resize(1);
-    table_.Vars.resize(1);
+    table_.entries.resize(1);
+    table_.variables.resize(1);
 }
 
 bool MathParser::StoreExpression(std::string_view text) {
@@ -28,18 +28,18 @@ bool MathParser::Compile() {
         errorDescription_ = compiler.Error();
         return false;
     }
-    plan_.Build(table_.ET);
+    plan_.Build(table_.entries);
     return true;
 }
 
 std::string_view MathParser::VarName(int i) const {
-    return IsVariable(i) ? table_.Vars[i].Name : std::string_view();
+    return IsVariable(i) ? table_.variables[i].name : std::string_view();
 }
 
 double MathParser::Eval() {
     failed_ = true;
     if (!stored_) return 0;
-    plan_.Load(table_.Vars);
+    plan_.Load(table_.variables);
     return Run();
 }
 
@@ -54,13 +54,13 @@ double MathParser::Eval1(double x) {
     return Run();
 }
 
-double MathParser::Zeta_(double s) {
-    return Zeta(s);
+double MathParser::Zeta(double s) {
+    return parser::Zeta(s);
 }
 
-std::span<const ETEntry> MathParser::ET() {
-    if (stored_) plan_.CopyValues(table_.ET);
-    return table_.ET;
+std::span<const ExpressionEntry> MathParser::Entries() {
+    if (stored_) plan_.CopyValues(table_.entries);
+    return table_.entries;
 }
 
 double MathParser::Run() {
@@ -71,18 +71,18 @@ double MathParser::Run() {
 }
 
 std::string MathParser::FailureText(const EvaluationPlan::Failure& failure) const {
-    const ETEntry& entry = table_.ET[failure.entry];
+    const ExpressionEntry& entry = table_.entries[failure.entry];
     const std::string a = util::GeneralText(failure.a, form_);
     const std::string b = util::GeneralText(failure.b, form_);
     std::string operation;
-    if (entry.ArgTop == 1)
-        operation = entry.Fun + "(" + a + ")";
-    else if (IsInList(entry.Fun, NameList::TwoArguments))
-        operation = entry.Fun + "(" + a + " , " + b + ")";
+    if (entry.argumentCount == 1)
+        operation = entry.function + "(" + a + ")";
+    else if (IsInList(entry.function, NameList::TwoArguments))
+        operation = entry.function + "(" + a + " , " + b + ")";
     else
-        operation = a + " " + entry.Fun + " " + b;
+        operation = a + " " + entry.function + " " + b;
     return "Evaluation error <" + operation +
-           "> at pos:" + util::NumberText(std::int64_t{entry.PosInExpr});
+           "> at pos:" + util::NumberText(std::int64_t{entry.position});
 }
 
 }  // namespace kelvra::parser

@@ -22,23 +22,23 @@ std::string Text(std::string_view value) {
 // clang-format off
 constexpr struct {
     std::string_view heading;
-    std::string (*text)(const ETEntry& entry);
+    std::string (*text)(const ExpressionEntry& entry);
 } Columns[] = {
-    {"Id",         [](const ETEntry& entry) { return Text(entry.Id); }},
-    {"Fun",        [](const ETEntry& entry) { return Text(entry.Fun); }},
-    {"ArgTop",     [](const ETEntry& entry) { return Text(entry.ArgTop); }},
-    {"A0 Idx",     [](const ETEntry& entry) { return Text(entry.Arg[0].Idx); }},
-    {"Arg0 Name",  [](const ETEntry& entry) { return Text(entry.Arg[0].Name); }},
-    {"Arg0 Value", [](const ETEntry& entry) { return Text(entry.Arg[0].Value); }},
-    {"A1 Idx",     [](const ETEntry& entry) { return Text(entry.Arg[1].Idx); }},
-    {"Arg1 Name",  [](const ETEntry& entry) { return Text(entry.Arg[1].Name); }},
-    {"Arg1 Value", [](const ETEntry& entry) { return Text(entry.Arg[1].Value); }},
-    {"ArgOf",      [](const ETEntry& entry) { return Text(entry.ArgOf); }},
-    {"ArgIdx",     [](const ETEntry& entry) { return Text(entry.ArgIdx); }},
-    {"Value",      [](const ETEntry& entry) { return Text(entry.Value); }},
-    {"PriLvl",     [](const ETEntry& entry) { return Text(entry.PriLvl); }},
-    {"PosInExpr",  [](const ETEntry& entry) { return Text(entry.PosInExpr); }},
-    {"PriIdx",     [](const ETEntry& entry) { return Text(entry.PriIdx); }},
+    {"Id",         [](const ExpressionEntry& entry) { return Text(entry.code); }},
+    {"Fun",        [](const ExpressionEntry& entry) { return Text(entry.function); }},
+    {"ArgTop",     [](const ExpressionEntry& entry) { return Text(entry.argumentCount); }},
+    {"A0 Idx",     [](const ExpressionEntry& entry) { return Text(entry.arguments[0].variable); }},
+    {"Arg0 Name",  [](const ExpressionEntry& entry) { return Text(entry.arguments[0].name); }},
+    {"Arg0 Value", [](const ExpressionEntry& entry) { return Text(entry.arguments[0].value); }},
+    {"A1 Idx",     [](const ExpressionEntry& entry) { return Text(entry.arguments[1].variable); }},
+    {"Arg1 Name",  [](const ExpressionEntry& entry) { return Text(entry.arguments[1].name); }},
+    {"Arg1 Value", [](const ExpressionEntry& entry) { return Text(entry.arguments[1].value); }},
+    {"ArgOf",      [](const ExpressionEntry& entry) { return Text(entry.receiver); }},
+    {"ArgIdx",     [](const ExpressionEntry& entry) { return Text(entry.receivingArgument); }},
+    {"Value",      [](const ExpressionEntry& entry) { return Text(entry.value); }},
+    {"PriLvl",     [](const ExpressionEntry& entry) { return Text(entry.priority); }},
+    {"PosInExpr",  [](const ExpressionEntry& entry) { return Text(entry.position); }},
+    {"PriIdx",     [](const ExpressionEntry& entry) { return Text(entry.order); }},
 };
 // clang-format on
 
@@ -54,11 +54,11 @@ std::string Line(Cell cell) {
 
 }  // namespace
 
-void DumpTable(std::span<const ETEntry> table, const LineSink& sink) {
+void DumpTable(std::span<const ExpressionEntry> table, const LineSink& sink) {
     sink("Dump Level ");
     sink("--------------------------------");
     sink(Line([](const auto& column) { return column.heading; }));
-    for (const ETEntry& entry : table.subspan(1))
+    for (const ExpressionEntry& entry : table.subspan(1))
         sink(Line([&](const auto& column) { return column.text(entry); }));
 }
 

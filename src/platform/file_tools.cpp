@@ -45,10 +45,10 @@ std::error_code CloseAfter(std::error_code error, Files& files, Files::Handle ha
 // and is taken from the time, so that files left by a crash don't use up the names.
 std::error_code CreateBeside(Files& files, const std::string& target, std::string& path,
                              Files::Handle& handle) {
-    constexpr int Attempts = 16;
+    constexpr int attempts = 16;
     const auto ticks = std::chrono::system_clock::now().time_since_epoch().count();
     std::error_code error;
-    for (int attempt = 0; attempt < Attempts; ++attempt) {
+    for (int attempt = 0; attempt < attempts; ++attempt) {
         const auto number = static_cast<std::uint32_t>(ticks + attempt);
         const std::string name = "kelvra-" + util::HexText(number) + ".tmp";
         path = std::filesystem::path(target).replace_filename(name).string();

@@ -11,41 +11,41 @@ void SensorTable::Resize(int slots) {
     assert(locks == 0);
     if (locks != 0 || slots < 1 || slots > INT16_MAX) return;
     const auto elements = static_cast<std::size_t>(slots) + 1;
-    Sensors.resize(elements);
-    Sensors.back() = SensorEntry();
-    SlotReadings.resize(elements);
-    SensorSlotCount = static_cast<std::int16_t>(slots);
-    if (CurrentSensor >= SensorSlotCount) CurrentSensor = 0;
+    entries.resize(elements);
+    entries.back() = SensorEntry();
+    slotReadings.resize(elements);
+    sensorSlotCount = static_cast<std::int16_t>(slots);
+    if (currentSensor >= sensorSlotCount) currentSensor = 0;
 }
 
 void SensorTable::ResizeScaling(int elements) {
-    Scaling.resize(static_cast<std::size_t>(std::max(elements, 0)));
+    scaling.resize(static_cast<std::size_t>(std::max(elements, 0)));
 }
 
 void SensorTable::SwapSlots(int a, int b) {
     const auto first = static_cast<std::size_t>(a);
     const auto second = static_cast<std::size_t>(b);
-    std::swap(Sensors[first], Sensors[second]);
-    if (Scaling.size() <= std::max(first, second)) Scaling.resize(std::max(first, second) + 1);
-    std::swap(Scaling[first], Scaling[second]);
-    std::swap(SlotReadings[first], SlotReadings[second]);
-    if (CurrentSensor == a)
-        CurrentSensor = static_cast<std::int16_t>(b);
-    else if (CurrentSensor == b)
-        CurrentSensor = static_cast<std::int16_t>(a);
+    std::swap(entries[first], entries[second]);
+    if (scaling.size() <= std::max(first, second)) scaling.resize(std::max(first, second) + 1);
+    std::swap(scaling[first], scaling[second]);
+    std::swap(slotReadings[first], slotReadings[second]);
+    if (currentSensor == a)
+        currentSensor = static_cast<std::int16_t>(b);
+    else if (currentSensor == b)
+        currentSensor = static_cast<std::int16_t>(a);
 }
 
 std::vector<SensorEntry*> SensorTable::Present() {
     std::vector<SensorEntry*> present;
     for (int slot = 0; slot < Slots(); ++slot)
-        if ((*this)[slot].Present) present.push_back(&(*this)[slot]);
+        if ((*this)[slot].present) present.push_back(&(*this)[slot]);
     return present;
 }
 
 int SensorTable::FindMeasured(std::string_view logicalName) const {
     for (int slot = 0; slot < Slots(); ++slot) {
         const SensorEntry& entry = (*this)[slot];
-        if (entry.Present && entry.Enabled && entry.LogicalName == logicalName) return slot;
+        if (entry.present && entry.enabled && entry.logicalName == logicalName) return slot;
     }
     return -1;
 }
@@ -53,7 +53,7 @@ int SensorTable::FindMeasured(std::string_view logicalName) const {
 namespace {
 
 const std::string& SwitchKey(const SensorEntry& entry) {
-    return entry.SensorId.empty() ? entry.ResourceName : entry.SensorId;
+    return entry.sensorId.empty() ? entry.resourceName : entry.sensorId;
 }
 
 }  // namespace
@@ -63,7 +63,7 @@ bool SensorTable::SwitchedOff(const SensorEntry& entry) const {
 }
 
 void SensorTable::RememberSwitch(const SensorEntry& entry) {
-    if (entry.Enabled)
+    if (entry.enabled)
         switchedOff_.erase(SwitchKey(entry));
     else
         switchedOff_.insert(SwitchKey(entry));
@@ -71,15 +71,15 @@ void SensorTable::RememberSwitch(const SensorEntry& entry) {
 
 void PrepareWorkArrays(SensorTable& table, int slot) {
     SensorEntry& entry = table[slot];
-    switch (entry.Settings.Mode) {
+    switch (entry.settings.Mode) {
         case TimeSlot:
-            entry.TSlotStats.assign(
-                static_cast<std::size_t>(std::max<int>(entry.Settings.TSlotCount, 1)), {});
-            entry.TSlotStatsFull = false;
+            entry.slotStats.assign(
+                static_cast<std::size_t>(std::max<int>(entry.settings.TSlotCount, 1)), {});
+            entry.slotStatsFull = false;
             break;
         case ContinuousAverage:
         case Burst:
-            entry.History.Reset();
+            entry.history.Reset();
             break;
         default:
             break;
@@ -87,22 +87,22 @@ void PrepareWorkArrays(SensorTable& table, int slot) {
 }
 
 void ReleaseSlot(SensorEntry& entry) {
-    entry.Enabled = false;
-    entry.SessionOpen = false;
-    entry.Present = false;
-    entry.LogicalName.clear();
-    entry.ResourceName.clear();
-    entry.SensorId.clear();
+    entry.enabled = false;
+    entry.sessionOpen = false;
+    entry.present = false;
+    entry.logicalName.clear();
+    entry.resourceName.clear();
+    entry.sensorId.clear();
     // What was measured and reported is that sensor's; whoever takes the slot next starts clean.
-    entry.MeasPending = 0;
-    entry.WaitTicks = 0;
-    entry.LastReading = 0;
-    entry.Results.clear();
-    entry.History.Reset();
-    entry.AvgCountRead = 0;
-    entry.SettingsChanged = false;
-    entry.LastErrorText.clear();
-    entry.TriggerNowRequest = false;
+    entry.measPending = 0;
+    entry.waitTicks = 0;
+    entry.lastReading = 0;
+    entry.results.clear();
+    entry.history.Reset();
+    entry.avgCountRead = 0;
+    entry.settingsChanged = false;
+    entry.lastErrorText.clear();
+    entry.triggerNowRequest = false;
 }
 
 }  // namespace kelvra::sensors

@@ -24,15 +24,15 @@ std::string ShownPart(const std::string& text, bool isGeneral) {
 }
 
 void SetHeaderHeight(controls::Frame& header, int height) {
-    controls::Geometry place = header.Place;
+    controls::Geometry place = header.place;
     place.height = height;
-    header.Place = place;
+    header.place = place;
 }
 
 }  // namespace
 
 void ErrorStrip::ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) {
-    if (table_.SimulationMode) return;
+    if (table_.simulationMode) return;
     if (isError)
         Show(slot, ShownPart(text, isGeneral), isGeneral);
     else
@@ -41,18 +41,18 @@ void ErrorStrip::ShowSensorError(bool isError, int slot, const std::string& text
 }
 
 void ErrorStrip::Show(int slot, const std::string& text, bool isGeneral) {
-    if (isGeneral && session_.ErrorShown) return;  // an error stays to be read
-    const std::string named = table_[slot].LogicalName + ": " + text;
-    if (!isGeneral) session_.ErrorShown = true;
+    if (isGeneral && session_.errorShown) return;  // an error stays to be read
+    const std::string named = table_[slot].logicalName + ": " + text;
+    if (!isGeneral) session_.errorShown = true;
     measure::ShowNotice(forms_.mdiMain, isGeneral ? text : named);
-    forms_.setupForm.lblInputError.Caption = named;
+    forms_.setupForm.lblInputError.caption = named;
     SetHeaderHeight(forms_.setupForm.Frame1, OpenHeight);
 }
 
 void ErrorStrip::Clear() {
-    session_.ErrorShown = false;
+    session_.errorShown = false;
     measure::HideNotice(forms_.mdiMain);
-    forms_.setupForm.lblInputError.Caption = "";
+    forms_.setupForm.lblInputError.caption = "";
     SetHeaderHeight(forms_.setupForm.Frame1, ClosedHeight);
 }
 
@@ -60,10 +60,10 @@ void ErrorStrip::Clear() {
 bool ErrorStrip::Reopen(int slot) {
     recovery_->session.Close();
     for (const int opened : {0, slot}) {
-        if (recovery_->state.exiting || table_[opened].SessionOpen) continue;
+        if (recovery_->state.exiting || table_[opened].sessionOpen) continue;
         recovery_->session.OpenSensor(opened);
     }
-    if (recovery_->state.exiting || !table_[slot].SessionOpen) return false;
+    if (recovery_->state.exiting || !table_[slot].sessionOpen) return false;
     recovery_->transfer.ConfigureSensor(slot);
     return true;
 }

@@ -9,19 +9,19 @@
 namespace kelvra::ui {
 
 void ApplySensorCapabilities(forms::SetupForm& dialog, const sensors::SensorEntry& entry) {
-    const driver::Capabilities group = driver::CapabilitiesOf(entry.SensorId);
+    const driver::Capabilities group = driver::CapabilitiesOf(entry.sensorId);
     if (group == driver::Capabilities::TimeResolving) {
-        dialog.TriggerFrame.Enabled = true;
-        dialog.AdvancedFrame.Enabled = true;
+        dialog.TriggerFrame.enabled = true;
+        dialog.AdvancedFrame.enabled = true;
     }
-    if (group == driver::Capabilities::AverageOnly) dialog.SensAvgSlot.Enabled = false;
+    if (group == driver::Capabilities::AverageOnly) dialog.SensAvgSlot.enabled = false;
     if (group != driver::Capabilities::Unknown) {
         std::vector<controls::List::Item> items;
         for (const driver::ModeEntry& mode : driver::ModesOf(group))
             items.push_back({mode.text, mode.mode});
         dialog.SensMode.Fill(std::move(items));
     }
-    const int index = dialog.SensMode.IndexOfData(entry.Settings.Mode);
+    const int index = dialog.SensMode.IndexOfData(entry.settings.Mode);
     if (index >= 0) dialog.SensMode.SetIndex(index);
 }
 

@@ -16,21 +16,21 @@ constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
 SensorName::SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
                        measure::ResultTable& results, measure::SensorSelection& selection)
     : forms_(forms), table_(table), host_(host), results_(results), selection_(selection) {
-    forms_.setupForm.SensLogicalName.Commit.Connect(
-        [this] { StoreLogicalName(table_.CurrentSensor); });
+    forms_.setupForm.SensLogicalName.commit.Connect(
+        [this] { StoreLogicalName(table_.currentSensor); });
 }
 
 void SensorName::StoreLogicalName(int slot) {
-    if (!table_[slot].Present) return;
+    if (!table_[slot].present) return;
     controls::TextBox& box = forms_.setupForm.SensLogicalName;
     if (box.Text().empty())
         box.SetText(util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)}));
     sensors::SensorEntry& entry = table_[slot];
-    entry.LogicalName = box.Text();
-    if (!entry.SensorId.empty())
-        host_.computer.WriteRegistry(NamesKey, entry.SensorId,
-                                     std::string(util::TrimSpaces(entry.LogicalName)));
-    if (entry.Enabled) results_.PaintName(slot);
+    entry.logicalName = box.Text();
+    if (!entry.sensorId.empty())
+        host_.computer.WriteRegistry(NamesKey, entry.sensorId,
+                                     std::string(util::TrimSpaces(entry.logicalName)));
+    if (entry.enabled) results_.PaintName(slot);
     selection_.UpdateSensSelect();
 }
 

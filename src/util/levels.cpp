@@ -8,12 +8,12 @@ namespace kelvra::util {
 
 namespace {
 constexpr double SmallestPowerW = 1e-100;
-constexpr double dBmPerW = 30;
+constexpr double DbmPerW = 30;
 }  // namespace
 
 double WToDbm(double powerW) {
     const double counted = powerW <= 0 ? SmallestPowerW : powerW;
-    return 10 * (std::log(counted) / std::numbers::ln10) + dBmPerW;
+    return 10 * (std::log(counted) / std::numbers::ln10) + DbmPerW;
 }
 
 void ArrayW2dBm(std::span<double> values) {

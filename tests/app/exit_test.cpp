@@ -19,8 +19,8 @@ TEST_F(ExitTest, SavesTheSettingsOfThePresentSensorsAndNothingElse) {
     driver.calls.clear();
     driver.count.clear();
     StartWith(1);
-    program->table[0].Settings.TrigLevel = -3;
-    program->table[1].Settings.TrigLevel = -4;  // nobody is there
+    program->table[0].settings.TrigLevel = -3;
+    program->table[1].settings.TrigLevel = -4;  // nobody is there
     PressExit();
     PressExit();
     const std::string saved = folder.Get("Kelvra.INI");
@@ -29,9 +29,9 @@ TEST_F(ExitTest, SavesTheSettingsOfThePresentSensorsAndNothingElse) {
     EXPECT_EQ(saved.find("level=-4"), std::string::npos);
     EXPECT_EQ(driver.Count("TeskCloseDriver"), 1);
     EXPECT_TRUE(fake.events.quit);
-    EXPECT_FALSE(program->table[0].Present);
+    EXPECT_FALSE(program->table[0].present);
     StartWith(0);
-    EXPECT_EQ(program->table[0].Settings.TrigLevel, -3);
+    EXPECT_EQ(program->table[0].settings.TrigLevel, -3);
 }
 
 TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
@@ -41,7 +41,7 @@ TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
     for (int n = 1;; ++n) {
         folder.Put("Kelvra.INI", before);
         Start();
-        program->table[0].Settings.TrigLevel = 5;
+        program->table[0].settings.TrigLevel = 5;
         files.Plan(n, FaultyFiles::Fault::Fail);
         PressExit();
         const bool faultMet = files.Operations() >= n;
@@ -68,7 +68,7 @@ public:
     MeasuringKelvra() {
         StartWith(2);
         fake.events.roundTime = std::chrono::milliseconds(60);
-        program->state.RecordInterval = 1;
+        program->state.recordInterval = 1;
         driver.onCall = [this](std::string_view name) {
             if (name == "psdrv_init") fake.clock.Advance(std::chrono::milliseconds(500));
             if (name == "psdrv_chans_initiate") asked_ = 0;
@@ -80,11 +80,11 @@ public:
     bool With(int round, const std::function<void()>& act) {
         bool done = false;
         fake.events.onRound = [&, round](int now) {
-            if (now == 12) program->table[1].SettingsChanged = true;
+            if (now == 12) program->table[1].settingsChanged = true;
             if (now == round) {
                 done = true;
                 act();
-            } else if (program->state.Passes == 2) {
+            } else if (program->state.passes == 2) {
                 PressStop();
             }
         };
@@ -106,14 +106,14 @@ TEST(AnyMoment, StopAndExitEndAMeasurementWithItsSessionClosedOnceAndExitCallsNo
             std::size_t callsThen = 0;
             int roundsThen = 0;
             const bool done = run.With(round, [&] {
-                run.program->table[0].Settings.TrigLevel = -3;
+                run.program->table[0].settings.TrigLevel = -3;
                 exits ? run.PressExit() : run.PressStop();
                 callsThen = calls.size();
                 roundsThen = run.fake.events.rounds;
             });
             if (!done) break;
             EXPECT_EQ(run.driver.Count("psdrv_close"), run.Opened()) << round;
-            EXPECT_FALSE(run.program->state.Measuring || run.program->state.commandRuns) << round;
+            EXPECT_FALSE(run.program->state.measuring || run.program->state.commandRuns) << round;
             EXPECT_EQ(run.program->session.instrumentHandle, 0U) << round;
             EXPECT_EQ(run.fake.events.quit, exits) << round;
             if (exits) {
@@ -123,9 +123,9 @@ TEST(AnyMoment, StopAndExitEndAMeasurementWithItsSessionClosedOnceAndExitCallsNo
                 EXPECT_NE(run.folder.Get("Kelvra.INI").find("level=-3\r\n"), std::string::npos);
             } else {
                 EXPECT_TRUE(run.Opened() == 0 || calls.back() == "psdrv_close(12)") << round;
-                EXPECT_TRUE(run.program->forms.mdiMain.StartIt.Enabled) << round;
-                EXPECT_FALSE(run.program->forms.mdiMain.StopIt.Enabled) << round;
-                EXPECT_TRUE(run.program->forms.setupForm.ActionFrame.Enabled) << round;
+                EXPECT_TRUE(run.program->forms.mdiMain.StartIt.enabled) << round;
+                EXPECT_FALSE(run.program->forms.mdiMain.StopIt.enabled) << round;
+                EXPECT_TRUE(run.program->forms.setupForm.ActionFrame.enabled) << round;
             }
         }
         EXPECT_GT(round, 25);
@@ -144,7 +144,7 @@ TEST(AnyMoment, StopAndExitWhileAMessageBoxStandsEndTheStart) {
             EXPECT_EQ(run.driver.Count("psdrv_close"), sessions) << failing << exits;
             EXPECT_EQ(run.driver.Count("psdrv_chan_reset"), sessions);
             EXPECT_EQ(run.driver.calls.back() == "TeskCloseDriver()", exits);
-            EXPECT_TRUE(run.program->forms.mdiMain.StartIt.Enabled);
+            EXPECT_TRUE(run.program->forms.mdiMain.StartIt.enabled);
         }
     }
 }

@@ -14,7 +14,7 @@ protected:
         std::string names;
         for (int slot = 0; slot < program->table.Slots(); ++slot) {
             const auto& entry = program->table[slot];
-            names += !entry.Present ? "." : entry.LogicalName + (entry.Enabled ? "" : "-");
+            names += !entry.present ? "." : entry.logicalName + (entry.enabled ? "" : "-");
         }
         return names;
     }
@@ -23,8 +23,8 @@ protected:
         for (const char name : places)
             driver.devices.push_back({{name}, "PS-101", {name}, name == '.' ? 0 : 1});
     }
-    void Switch(int slot) { program->forms.statusForm.ResultGrid.Click.Raise(slot + 1, 0); }
-    std::string Connection() const { return program->forms.mdiMain.ConSensors.Caption; }
+    void Switch(int slot) { program->forms.statusForm.ResultGrid.click.Raise(slot + 1, 0); }
+    std::string Connection() const { return program->forms.mdiMain.ConSensors.caption; }
 };
 
 TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
@@ -39,7 +39,7 @@ TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
         fake.computer.programDate = date;
         fake.computer.commandLine = commandLine;
         folder.Put("DebugKelvra.txt", "old");
-        EXPECT_EQ(Start().forms.mdiMain.Caption.Get(), "Halvex Kelvra, Version " + rest);
+        EXPECT_EQ(Start().forms.mdiMain.caption.Get(), "Halvex Kelvra, Version " + rest);
         EXPECT_EQ(folder.Get("DebugKelvra.txt").find("old"), std::string::npos);
     }
 }
@@ -47,10 +47,10 @@ TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
 TEST_F(StartupTest, SimulatedSensorsHaveTheSettingsOfTheirSlots) {
     folder.Put("Kelvra.INI", "[SENS2_TRIG]\r\nlevel=-7\r\n");
     Start();
-    EXPECT_EQ(program->table[1].Settings.TrigLevel, -7);
-    EXPECT_EQ(program->table[0].Settings.TrigLevel, -30);
+    EXPECT_EQ(program->table[1].settings.TrigLevel, -7);
+    EXPECT_EQ(program->table[0].settings.TrigLevel, -30);
     EXPECT_EQ(program->forms.mdiMain.SensSyncMode.Text(), "Async");
-    EXPECT_FALSE(program->forms.mdiMain.FileSaveData.Enabled);
+    EXPECT_FALSE(program->forms.mdiMain.FileSaveData.enabled);
 }
 
 TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
@@ -65,8 +65,8 @@ TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
         Start();
         EXPECT_EQ(Slots(), slots) << places;
         EXPECT_EQ(Connection(), text);
-        EXPECT_EQ(program->forms.mdiMain.ConSensors.Fore.Get(), controls::Green);
-        EXPECT_EQ(program->table.Sensors.size(), slots.size() + 1);
+        EXPECT_EQ(program->forms.mdiMain.ConSensors.fore.Get(), controls::Green);
+        EXPECT_EQ(program->table.entries.size(), slots.size() + 1);
         EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), program->catalogue.Connected());
     }
 }
@@ -90,27 +90,27 @@ TEST_F(StartupTest, EveryStepLeavesTheSensorsWhereTheyBelong) {
         EXPECT_EQ(Slots(), slots) << plugged;
         Tick();
         EXPECT_EQ(Slots(), nextTick) << plugged;
-        EXPECT_EQ(program->table.SimulationMode, plugged.empty());
+        EXPECT_EQ(program->table.simulationMode, plugged.empty());
     }
 }
 
 TEST_F(StartupTest, AVanishingSensorSavesAllAndEachGetsItsSettingsBack) {
     Plug("AB");
     Start();
-    program->table[0].Settings.TrigLevel = -1;
-    program->table[1].Settings.TrigLevel = -2;
+    program->table[0].settings.TrigLevel = -1;
+    program->table[1].settings.TrigLevel = -2;
     Plug(".B");
     Tick();
     EXPECT_NE(folder.Get("Kelvra.INI").find("[PS-101;A_TRIG]"), std::string::npos);
-    program->table[0].Settings.TrigLevel = program->table[1].Settings.TrigLevel = 9;
+    program->table[0].settings.TrigLevel = program->table[1].settings.TrigLevel = 9;
     Tick();
-    EXPECT_EQ(program->table[0].LogicalName, "B");
-    EXPECT_EQ(program->table[0].Settings.TrigLevel, -2);
+    EXPECT_EQ(program->table[0].logicalName, "B");
+    EXPECT_EQ(program->table[0].settings.TrigLevel, -2);
     Plug("");
     Tick();  // into simulation
     Plug("A");
     Tick();
-    EXPECT_EQ(program->table[0].Settings.TrigLevel, -1);
+    EXPECT_EQ(program->table[0].settings.TrigLevel, -1);
 }
 
 TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {

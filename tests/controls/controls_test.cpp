@@ -25,21 +25,21 @@ struct Sample : Window {
 class Controls : public testing::Test {
 protected:
     Controls() {
-        window.text.Change.Connect([this] { ++raised; });
-        window.check.Click.Connect([this] { ++raised; });
-        window.options.Click.Connect([this] { ++raised; });
-        window.list.Click.Connect([this] { ++raised; });
-        window.graph.CursorChange.Connect([this](int, double, double) { ++raised; });
-        window.Resize.Connect([this] { ++raised; });
+        window_.text.change.Connect([this] { ++raised_; });
+        window_.check.click.Connect([this] { ++raised_; });
+        window_.options.click.Connect([this] { ++raised_; });
+        window_.list.click.Connect([this] { ++raised_; });
+        window_.graph.cursorChange.Connect([this](int, double, double) { ++raised_; });
+        window_.resize.Connect([this] { ++raised_; });
     }
 
-    Changes changes;
-    Sample window{changes};
-    int raised = 0;
+    Changes changes_;
+    Sample window_{changes_};
+    int raised_ = 0;
 };
 
 TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
-    Sample& w = window;
+    Sample& w = window_;
     // clang-format off
     const std::tuple<const char*, std::function<void()>, int> steps[] = {
         {"same text", [&] { w.text.SetText("1"); }, 0},
@@ -60,24 +60,24 @@ TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
         {"chosen again", [&] { w.list.Choose(1); }, 1},
         {"filled", [&] { w.list.Fill({{"p", 1}}); EXPECT_EQ(w.list.Index(), -1); }, 0},
         {"preselected, cleared", [&] { w.list.Preselect(1); w.list.Clear(); }, 0},
-        {"cursors set", [&] { w.graph.Cursors = {{.x = 1}}; }, 0},
+        {"cursors set", [&] { w.graph.cursors = {{.x = 1}}; }, 0},
         {"cursor dragged", [&] { w.graph.Drag(0, 2, 3); }, 1},
-        {"placed", [&] { w.Place = Geometry{1, 2, 3, 4}; }, 0},
+        {"placed", [&] { w.place = Geometry{1, 2, 3, 4}; }, 0},
         {"resized by a person", [&] { w.PersonResizes(5, 6); }, 1},
     };
     // clang-format on
     for (const auto& [what, act, expected] : steps) {
-        raised = 0;
+        raised_ = 0;
         act();
-        EXPECT_EQ(raised, expected) << what;
+        EXPECT_EQ(raised_, expected) << what;
     }
-    EXPECT_EQ(w.Place.Get(), (Geometry{1, 2, 5, 6}));
+    EXPECT_EQ(w.place.Get(), (Geometry{1, 2, 5, 6}));
 }
 
 TEST_F(Controls, TextIsCommittedByEnterOrByLeavingAfterAnEdit) {
     int commits = 0;
-    TextBox& text = window.text;
-    text.Commit.Connect([&] { ++commits; });
+    TextBox& text = window_.text;
+    text.commit.Connect([&] { ++commits; });
     const std::tuple<const char*, std::function<void()>, int> steps[] = {
         {"left unedited", [&] { text.Leave(); }, 0},
         {"written by the program", [&] { text.SetText("9"), text.Leave(); }, 0},
@@ -94,28 +94,28 @@ TEST_F(Controls, TextIsCommittedByEnterOrByLeavingAfterAnEdit) {
 }
 
 TEST_F(Controls, GridGrowsToTheCellAndKeepsWhatItHas) {
-    SetGridCell(window.grid, 1, 1, "kept", Align::Centre, true, false, Cyan);
-    SetGridCell(window.grid, 4, 2, "new", Align::Left, false, false);
-    EXPECT_EQ(window.grid.Rows(), 5);
-    EXPECT_EQ(window.grid.Columns(), 3);
-    EXPECT_EQ(window.grid.At(4, 2).Text(), "new");
-    SetGridCell(window.grid, 1, 1, "kept too", Align::Left, false, false);
-    EXPECT_EQ(window.grid.At(1, 1).Text(), "kept too");
-    EXPECT_EQ(window.grid.At(1, 1).look.back, Cyan);
-    SetGridCell(window.grid, -1, 0, "nowhere", Align::Left, false, false);
-    EXPECT_EQ(window.grid.Rows(), 5);
-    window.grid.SetRows(2);
-    EXPECT_EQ(window.grid.TakeChangedCells(), (std::vector<std::pair<int, int>>{{1, 1}}));
-    EXPECT_TRUE(window.grid.TakeChangedCells().empty());
+    SetGridCell(window_.grid, 1, 1, "kept", Align::Centre, true, false, Cyan);
+    SetGridCell(window_.grid, 4, 2, "new", Align::Left, false, false);
+    EXPECT_EQ(window_.grid.Rows(), 5);
+    EXPECT_EQ(window_.grid.Columns(), 3);
+    EXPECT_EQ(window_.grid.At(4, 2).Text(), "new");
+    SetGridCell(window_.grid, 1, 1, "kept too", Align::Left, false, false);
+    EXPECT_EQ(window_.grid.At(1, 1).Text(), "kept too");
+    EXPECT_EQ(window_.grid.At(1, 1).look.back, Cyan);
+    SetGridCell(window_.grid, -1, 0, "nowhere", Align::Left, false, false);
+    EXPECT_EQ(window_.grid.Rows(), 5);
+    window_.grid.SetRows(2);
+    EXPECT_EQ(window_.grid.TakeChangedCells(), (std::vector<std::pair<int, int>>{{1, 1}}));
+    EXPECT_TRUE(window_.grid.TakeChangedCells().empty());
 }
 
 TEST_F(Controls, CellShowsWhatWasWrittenLastBeItTextOrFigure) {
     const util::NumberForm form{",", ""};
     const auto write = [&](const auto& content) {
-        SetGridCell(window.grid, 1, 1, content, Align::Left, false, false);
-        return !window.grid.TakeChangedCells().empty();
+        SetGridCell(window_.grid, 1, 1, content, Align::Left, false, false);
+        return !window_.grid.TakeChangedCells().empty();
     };
-    const auto shown = [&] { return window.grid.At(1, 1).Text(); };
+    const auto shown = [&] { return window_.grid.At(1, 1).Text(); };
     EXPECT_TRUE(write(util::FixedFigure(-1.5, form)));
     EXPECT_FALSE(write(util::FixedFigure(-1.5, form)));
     EXPECT_EQ(shown(), "-1,500");
@@ -129,35 +129,35 @@ TEST_F(Controls, CellShowsWhatWasWrittenLastBeItTextOrFigure) {
 }
 
 TEST_F(Controls, ChangedControlIsListedOnceUntilTaken) {
-    changes.Take();
+    changes_.Take();
     int firsts = 0;
-    changes.onFirst = [&] { ++firsts; };
-    window.text.SetText("1");
-    EXPECT_TRUE(changes.Take().empty());
-    window.text.SetText("2");
-    window.check.Enabled = false;
-    window.text.Visible = false;
-    EXPECT_EQ(changes.Take(), (std::vector<Control*>{&window.text, &window.check}));
-    window.text.SetText("3");
-    EXPECT_EQ(changes.Take(), (std::vector<Control*>{&window.text}));
+    changes_.onFirst = [&] { ++firsts; };
+    window_.text.SetText("1");
+    EXPECT_TRUE(changes_.Take().empty());
+    window_.text.SetText("2");
+    window_.check.enabled = false;
+    window_.text.visible = false;
+    EXPECT_EQ(changes_.Take(), (std::vector<Control*>{&window_.text, &window_.check}));
+    window_.text.SetText("3");
+    EXPECT_EQ(changes_.Take(), (std::vector<Control*>{&window_.text}));
     EXPECT_EQ(firsts, 2);
 }
 
 TEST_F(Controls, FramesAroundDisableAndHideButWindowsDoNot) {
-    EXPECT_FALSE(window.Visible);
-    EXPECT_TRUE(window.text.EffectivelyVisible() && window.text.EffectivelyEnabled());
-    window.outer.Enabled = false;
-    window.outer.Visible = false;
-    EXPECT_FALSE(window.text.EffectivelyEnabled() || window.text.EffectivelyVisible());
-    EXPECT_TRUE(window.text.Enabled);
-    window.Enabled = false;
-    window.outer.Enabled = true;
-    EXPECT_TRUE(window.text.EffectivelyEnabled());
+    EXPECT_FALSE(window_.visible);
+    EXPECT_TRUE(window_.text.EffectivelyVisible() && window_.text.EffectivelyEnabled());
+    window_.outer.enabled = false;
+    window_.outer.visible = false;
+    EXPECT_FALSE(window_.text.EffectivelyEnabled() || window_.text.EffectivelyVisible());
+    EXPECT_TRUE(window_.text.enabled);
+    window_.enabled = false;
+    window_.outer.enabled = true;
+    EXPECT_TRUE(window_.text.EffectivelyEnabled());
     for (const bool byRule : {false, true}) {  // closing hides it unless a rule answers
-        window.Visible = true;
-        window.closesByRule = byRule;
-        window.PersonCloses();
-        EXPECT_EQ(window.Visible, byRule);
+        window_.visible = true;
+        window_.closesByRule = byRule;
+        window_.PersonCloses();
+        EXPECT_EQ(window_.visible, byRule);
     }
 }
 

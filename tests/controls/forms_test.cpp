@@ -21,7 +21,7 @@ TEST(Forms, WindowsStartHiddenWithUniqueNamesAndTwoCloseByRule) {
     Forms forms;
     EXPECT_EQ(forms.Windows().size(), 9U);
     for (controls::Window* window : forms.Windows()) {
-        EXPECT_FALSE(window->Visible) << window->Name();
+        EXPECT_FALSE(window->visible) << window->Name();
         const bool byRule = window == &forms.mdiMain || window == &forms.statusForm;
         EXPECT_EQ(window->closesByRule, byRule) << window->Name();
         EXPECT_EQ(forms.FindFormByName(window->Name()), window);

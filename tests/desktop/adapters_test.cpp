@@ -39,14 +39,14 @@ private slots:
         room.changes.onFirst = [&] { ++wakes, wake(); };
         for (const int frame : {1, 2}) {
             for (int i = 0; i < 1000; ++i) {
-                label.Caption = std::to_string(i);
-                other.Caption = std::to_string(i);
+                label.caption = std::to_string(i);
+                other.caption = std::to_string(i);
             }
             QCOMPARE(updates, frame);
             QTRY_COMPARE(updates, frame + 1);
             QCOMPARE(wakes, frame);
         }
-        label.Caption = "999";
+        label.caption = "999";
         room.mirror.Flush();
         QCOMPARE(updates, 3);
         QCOMPARE(wakes, 2);
@@ -57,7 +57,7 @@ private slots:
         controls::Button button(room.window, "B");
         QPushButton widget;
         room.mirror.Add(button, std::make_unique<ButtonAdapter>(button, widget));
-        button.Click.Connect([&] { button.Caption = "pressed"; });
+        button.click.Connect([&] { button.caption = "pressed"; });
         QTest::mouseClick(&widget, Qt::LeftButton);
         QCoreApplication::processEvents();
         QCOMPARE(widget.text(), "pressed");
@@ -74,7 +74,7 @@ private slots:
         action.setCheckable(true);
         QComboBox box(&parent);
         int events = 0;
-        for (controls::Event<>* event : {&button.Click, &item.Click, &list.Click})
+        for (controls::Event<>* event : {&button.click, &item.click, &list.click})
             event->Connect([&] { ++events; });
         room.mirror.Add(button, std::make_unique<ButtonAdapter>(button, buttonWidget));
         room.mirror.Add(item, std::make_unique<MenuItemAdapter>(item, action));
@@ -90,10 +90,10 @@ private slots:
             std::function<bool()> shown;
         } cases[] = {
             {"button", [&] { QTest::mouseClick(&buttonWidget, Qt::LeftButton); },
-             [&] { button.Caption = "New", button.Enabled = false; },
+             [&] { button.caption = "New", button.enabled = false; },
              [&] { return buttonWidget.text() == "New" && !buttonWidget.isEnabled(); }},
             {"menu entry", [&] { action.trigger(); },
-             [&] { item.Caption = "New", item.Checked = true, item.Enabled = false; },
+             [&] { item.caption = "New", item.checked = true, item.enabled = false; },
              [&] { return action.text() == "New" && action.isChecked() && !action.isEnabled(); }},
             {"list, chosen", chooseTwo, [&] { list.Preselect(0); },
              [&] { return box.currentIndex() == 0; }},
@@ -128,11 +128,11 @@ private slots:
         room.mirror.Add(picture, std::make_unique<PictureAdapter>(picture, pictureWidget, 20));
         room.mirror.Add(frame, std::make_unique<FrameAdapter>(frame, frameWidget));
         const QImage first = pictureWidget.pixmap().toImage();
-        label.Caption = "<b>two</b>\r\nlines \xFF";
-        label.Tooltip = "why";
-        label.Back = controls::DarkBlue;
-        picture.Image = "busy2";
-        frame.Visible = false;
+        label.caption = "<b>two</b>\r\nlines \xFF";
+        label.tooltip = "why";
+        label.back = controls::DarkBlue;
+        picture.image = "busy2";
+        frame.visible = false;
         room.mirror.Flush();
         QCOMPARE(labelWidget.text(), QString("<b>two</b>\nlines \uFFFD"));
         QCOMPARE(labelWidget.textFormat(), Qt::PlainText);
@@ -142,9 +142,9 @@ private slots:
         QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(Qt::white));
         QVERIFY(pictureWidget.pixmap().toImage() != first);
         QVERIFY(!frameWidget.isVisibleTo(&parent));
-        label.Fore = controls::Red;
-        label.Tooltip = "";
-        frame.Visible = true;
+        label.fore = controls::Red;
+        label.tooltip = "";
+        frame.visible = true;
         room.mirror.Flush();
         QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(255, 0, 0));
         QCOMPARE(labelWidget.toolTip(), "");

@@ -26,9 +26,9 @@ class GridTest : public QObject {
 
 private slots:
     void initTestCase() {
-        grid_.MouseDown.Connect(
+        grid_.mouseDown.Connect(
             [this](int row, int column) { events_ << QString("down %1 %2").arg(row).arg(column); });
-        grid_.Click.Connect([this](int row, int column) {
+        grid_.click.Connect([this](int row, int column) {
             events_ << QString("click %1 %2").arg(row).arg(column);
         });
     }
@@ -94,7 +94,7 @@ private slots:
 
     void SelectedCellsAndHeadingsKeepTheirColours() {
         controls::SetGridCell(grid_, 1, 0, "", controls::Align::Left, true, false, controls::Green);
-        grid_.FixedBack = controls::DarkCyan;
+        grid_.fixedBack = controls::DarkCyan;
         mirror_->Flush();
         table_->setCurrentCell(0, 0);
         const QImage cells = table_->viewport()->grab().toImage();

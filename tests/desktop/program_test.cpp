@@ -76,12 +76,12 @@ private slots:
         RunningDesktop running(data);
         const auto& entry = running.kelvra.table[1];
         ClickCell(running.Results(), 1, 0);
-        QVERIFY(!entry.Enabled);
-        QCOMPARE(running.kelvra.table.CurrentSensor, 1);
+        QVERIFY(!entry.enabled);
+        QCOMPARE(running.kelvra.table.currentSensor, 1);
         running.desktop.Painter().Flush();
         QCOMPARE(running.Results().item(1, 0)->background().color(), ToolkitColour(controls::Grey));
         QTest::keyClick(&running.Results(), Qt::Key_Return);
-        QVERIFY(entry.Enabled);
+        QVERIFY(entry.enabled);
     }
 
     void TheSensorListChoosesTheCurrentSensor() {
@@ -90,7 +90,7 @@ private slots:
         auto& box = running.Find<QComboBox>("TimeSensor_select_new");
         QCOMPARE(box.count(), 2);
         QTest::keyClick(&box, Qt::Key_Down);
-        QCOMPARE(running.kelvra.table.CurrentSensor, 1);
+        QCOMPARE(running.kelvra.table.currentSensor, 1);
         QCOMPARE(running.Find<QComboBox>("SensSyncMode").currentText(), "Async");
     }
 
@@ -129,7 +129,7 @@ private slots:
             menu.popup({0, 0});
             QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&onTop).center());
             running.desktop.Painter().Flush();
-            QCOMPARE(running.kelvra.forms.mdiMain.SettingAlwaysOnTop.Checked.Get(), expected);
+            QCOMPARE(running.kelvra.forms.mdiMain.SettingAlwaysOnTop.checked.Get(), expected);
             QCOMPARE(onTop.isChecked(), expected);
         }
     }
@@ -176,8 +176,8 @@ private slots:
         });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(exitCameFirst);
-        QVERIFY(running.kelvra.state.StopRequested);
-        QVERIFY(!running.kelvra.state.Measuring);
+        QVERIFY(running.kelvra.state.stopRequested);
+        QVERIFY(!running.kelvra.state.measuring);
         QVERIFY(!running.kelvra.state.commandRuns);
     }
 };

@@ -29,15 +29,15 @@ private slots:
         record.closesByRule = true;
         int resizes = 0;
         int closes = 0;
-        record.Resize.Connect([&] { ++resizes; });
-        record.CloseRequest.Connect([&] { ++closes; });
+        record.resize.Connect([&] { ++resizes; });
+        record.closeRequest.Connect([&] { ++closes; });
         Mirror mirror(changes);
         FrameWindow frame(record);
         mirror.Add(record, std::make_unique<FrameWindowAdapter>(record, frame));
-        record.Visible = true;
+        record.visible = true;
         mirror.Flush();
-        record.Caption = "New";
-        record.Place = controls::Geometry{300, 300, 4500, 3750};
+        record.caption = "New";
+        record.place = controls::Geometry{300, 300, 4500, 3750};
         mirror.Flush();
         QCoreApplication::processEvents();
         QCOMPARE(frame.windowTitle(), "New");
@@ -49,8 +49,8 @@ private slots:
         mirror.Flush();
         QCOMPARE(frame.geometry(), QRect(50, 60, 320, 260));
         QCOMPARE(resizes, 1);
-        QCOMPARE(record.Place->width, 4800);
-        QCOMPARE(record.Place->height, 3900);
+        QCOMPARE(record.place->width, 4800);
+        QCOMPARE(record.place->height, 3900);
 
         frame.close();
         QCOMPARE(closes, 1);
@@ -69,7 +69,7 @@ private slots:
         RunningDesktop running(data);
         auto& inside = running.Find<QMdiSubWindow>("");
         QTest::qWait(1);  // its first size comes later
-        const auto& place = running.kelvra.forms.statusForm.Place;
+        const auto& place = running.kelvra.forms.statusForm.place;
         const int before = place->width;
         const QPoint edge(inside.width() - 1, inside.height() / 2);
         QTest::mouseMove(&inside, edge);
@@ -109,7 +109,7 @@ private slots:
     void TabVisitsTheControlsInReadingOrder() {
         const QTemporaryDir data;
         RunningDesktop running(data);
-        running.kelvra.forms.mdiMain.StopIt.Enabled = true;
+        running.kelvra.forms.mdiMain.StopIt.enabled = true;
         running.desktop.Painter().Flush();
         running.Start().setFocus();
         QStringList visited;

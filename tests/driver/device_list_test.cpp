@@ -24,8 +24,8 @@ protected:
     // The serial numbers of the list, a point for an empty element.
     std::string Listed() const {
         std::string serials;
-        for (const auto& entry : catalogue_.DeviceList)
-            serials += entry.ResourceName.empty() ? "." : entry.Serial;
+        for (const auto& entry : catalogue_.deviceList)
+            serials += entry.resourceName.empty() ? "." : entry.serial;
         return serials;
     }
 
@@ -54,7 +54,7 @@ TEST_F(DeviceListTest, ReachesToItsLastConnectedDevice) {
         EXPECT_EQ(Listed(), listed);
         EXPECT_EQ(catalogue_.Connected(), connected) << places;
         EXPECT_EQ(driver_.Count("TeskGetDeviceInfo"), asked) << places;
-        EXPECT_EQ(table_.Scaling.size(), static_cast<std::size_t>(asked) + 1) << places;
+        EXPECT_EQ(table_.scaling.size(), static_cast<std::size_t>(asked) + 1) << places;
     }
 }
 
@@ -76,10 +76,10 @@ TEST_F(DeviceListTest, TextsEndInsideTheirBuffers) {
     for (const bool terminated : {true, false}) {
         driver_.terminated = terminated;
         catalogue_.BuildDeviceList(table_);
-        EXPECT_EQ(catalogue_.DeviceList[0].Name, full);
-        EXPECT_EQ(catalogue_.DeviceList[0].ResourceName, "USB::0x1c5b::0x003::5");
-        EXPECT_EQ(catalogue_.DeviceList[1].Name, "short");
-        EXPECT_EQ(catalogue_.DeviceList[1].Serial, std::string(128, '7'));
+        EXPECT_EQ(catalogue_.deviceList[0].name, full);
+        EXPECT_EQ(catalogue_.deviceList[0].resourceName, "USB::0x1c5b::0x003::5");
+        EXPECT_EQ(catalogue_.deviceList[1].name, "short");
+        EXPECT_EQ(catalogue_.deviceList[1].serial, std::string(128, '7'));
     }
 }
 

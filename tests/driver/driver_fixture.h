@@ -24,9 +24,9 @@ protected:
         log_.enabled = true;
         table_.Resize(8);
         for (int slot = 0; slot < 3; ++slot) {
-            table_[slot].ResourceName = "USB::" + std::to_string(slot + 1);
-            table_[slot].LogicalName = "A";
-            table_[slot].Present = table_[slot].Enabled = true;
+            table_[slot].resourceName = "USB::" + std::to_string(slot + 1);
+            table_[slot].logicalName = "A";
+            table_[slot].present = table_[slot].enabled = true;
         }
     }
 

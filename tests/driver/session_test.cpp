@@ -7,7 +7,7 @@
 namespace kelvra::driver {
 
 TEST_F(DriverTest, TheFirstSlotOpensTheSessionAndOthersAreAddedToIt) {
-    table_[0].WaitTicks = table_[1].WaitTicks = 5;
+    table_[0].waitTicks = table_[1].waitTicks = 5;
     session_.OpenSensor(0);
     session_.OpenSensor(1);
     EXPECT_EQ(driver_.calls,
@@ -16,20 +16,20 @@ TEST_F(DriverTest, TheFirstSlotOpensTheSessionAndOthersAreAddedToIt) {
               (Lines{"psdrv_init(USB::1, 1, 1, 0) STARTING",
                      "psdrv_init FINISHED -> instrumentHandle:  12",
                      "psdrv_AddSensor(12, 2, USB::2, 1, 1) STARTING", "psdrv_AddSensor FINISHED"}));
-    EXPECT_TRUE(table_[0].SessionOpen && table_[1].SessionOpen);
-    EXPECT_EQ(table_[0].WaitTicks + table_[1].WaitTicks, 0);
+    EXPECT_TRUE(table_[0].sessionOpen && table_[1].sessionOpen);
+    EXPECT_EQ(table_[0].waitTicks + table_[1].waitTicks, 0);
     EXPECT_EQ(fake_.clock.Monotonic(), std::chrono::milliseconds(200));
-    EXPECT_FALSE(state_.SessionClosed);
+    EXPECT_FALSE(state_.sessionClosed);
 }
 
 TEST_F(DriverTest, NothingIsCalledForASlotThatCannotBeOpened) {
-    table_[0].ResourceName = "  ";
+    table_[0].resourceName = "  ";
     session_.OpenSensor(0);
     session_.OpenSensor(1);  // there is no session
-    EXPECT_FALSE(table_[0].SessionOpen || table_[1].SessionOpen);
-    table_.SimulationMode = true;
+    EXPECT_FALSE(table_[0].sessionOpen || table_[1].sessionOpen);
+    table_.simulationMode = true;
     session_.OpenSensor(1);
-    EXPECT_TRUE(table_[1].SessionOpen);
+    EXPECT_TRUE(table_[1].sessionOpen);
     EXPECT_EQ(driver_.calls, Lines());
 }
 
@@ -37,7 +37,7 @@ TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
     Fail("psdrv_init", -5);
     session_.OpenSensor(0);
     EXPECT_EQ(state_.instrumentHandle, 0U);
-    EXPECT_FALSE(table_[0].SessionOpen);
+    EXPECT_FALSE(table_[0].sessionOpen);
     EXPECT_EQ(driver_.Count("psdrv_close"), 0);
     EXPECT_EQ(fake_.dialogs.messages,
               (std::vector<test::FakeDialogs::Shown>{{"", "bad value\r\n(queue empty)"}}));
@@ -54,14 +54,14 @@ TEST_F(DriverTest, AFailedFurtherSensorClosesTheSessionOnceForAllSlots) {
     Fail("psdrv_AddSensor", 7);
     session_.OpenSensor(0);
     session_.OpenSensor(2);
-    EXPECT_FALSE(table_[2].Enabled);
-    EXPECT_TRUE(table_[0].Enabled);
+    EXPECT_FALSE(table_[2].enabled);
+    EXPECT_TRUE(table_[0].enabled);
     session_.Close();
     EXPECT_EQ(driver_.Count("psdrv_close"), 1);
     EXPECT_EQ(driver_.calls.back(), "psdrv_close(12)");
     EXPECT_EQ(state_.instrumentHandle, 0U);
-    EXPECT_TRUE(state_.SessionClosed);
-    for (const auto& entry : table_.Sensors) EXPECT_FALSE(entry.SessionOpen);
+    EXPECT_TRUE(state_.sessionClosed);
+    for (const auto& entry : table_.entries) EXPECT_FALSE(entry.sessionOpen);
 }
 
 TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
@@ -84,7 +84,7 @@ TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
         Fail("psdrv_init", status);
         session_.OpenSensor(0);
         EXPECT_EQ(fake_.dialogs.messages.back().text, text);
-        EXPECT_FALSE(table_[0].SessionOpen);
+        EXPECT_FALSE(table_[0].sessionOpen);
     }
 }
 

@@ -15,8 +15,8 @@ protected:
 
     // The calls as "name value value; name value; ", without "psdrv_", session and channel.
     std::string Sent(const SensorSettings& settings, const char* name = "A") {
-        table_[0].Settings = settings;
-        table_[0].LogicalName = name;
+        table_[0].settings = settings;
+        table_[0].logicalName = name;
         driver_.calls.clear();
         transfer_.ConfigureSensor(0);
         std::string sent;
@@ -39,7 +39,7 @@ protected:
         Sent(settings);
         driver_.status = nullptr;
         std::string labels;
-        const std::string& text = table_[0].LastErrorText;
+        const std::string& text = table_[0].lastErrorText;
         for (std::size_t at = 0, end; (end = text.find("\r\n", at)) != std::string::npos;
              at = end + 2)
             if (text[at] != ' ') labels += text.substr(at, end - at) + "; ";
@@ -198,15 +198,15 @@ TEST_F(TransferTest, GoesOnAfterErrorsAndCollectsThemUnderTheirLabels) {
 }
 
 TEST_F(TransferTest, ShowsItsErrorsAtOnceAndAgainAtItsEndElseClearsTheStrip) {
-    table_[0].SettingsChanged = true;
-    table_[0].LastErrorText = "of an earlier transfer";
+    table_[0].settingsChanged = true;
+    table_[0].lastErrorText = "of an earlier transfer";
     Fail("psdrv_trigger_setCount", 7);
-    driver_.onCall = [this](std::string_view) { EXPECT_TRUE(state_.ConfigRunning); };
+    driver_.onCall = [this](std::string_view) { EXPECT_TRUE(state_.configRunning); };
     transfer_.ConfigureSensor(0);
     const std::string error = "show 0 Trigger Count\r\n  bad value\r\n  queue empty\r\n";
     EXPECT_EQ(shown_, (Lines{error, error}));
-    EXPECT_FALSE(table_[0].SettingsChanged);
-    EXPECT_FALSE(state_.ConfigRunning);
+    EXPECT_FALSE(table_[0].settingsChanged);
+    EXPECT_FALSE(state_.configRunning);
     EXPECT_EQ(log_.header, "");
     EXPECT_EQ(marks_, (Lines{"begins 0", "ends 0"}));
     shown_.clear();

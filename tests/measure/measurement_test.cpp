@@ -16,7 +16,7 @@ using std::chrono::seconds;
 class MeasurementTest : public testing::Test, public test::WholeKelvra {
 protected:
     void Click(int row, int column) {
-        program->forms.statusForm.ResultGrid.Click.Raise(row, column);
+        program->forms.statusForm.ResultGrid.click.Raise(row, column);
     }
     bool WasCalled(const std::string& call) const {
         return std::count(driver.calls.begin(), driver.calls.end(), call) > 0;
@@ -27,7 +27,7 @@ protected:
         driver.onCall = [&](std::string_view name) {
             if (name == "psdrv_chans_initiate") starts.push_back(fake.clock.Monotonic());
         };
-        program->state.RecordInterval = 5;
+        program->state.recordInterval = 5;
         Measure(passes);
         return starts;
     }
@@ -37,17 +37,17 @@ TEST_F(MeasurementTest, ATriggerIsSentForARequestOfThePassThatWaits) {
     StartWith(1);
     const auto triggers = [this] { return driver.Count("psdrv_meass_sendSoftwareTrigger"); };
     driver.complete = [&](int) { return triggers() > 0; };
-    program->table[0].TriggerNowRequest = true;  // of no pass: dropped
+    program->table[0].triggerNowRequest = true;  // of no pass: dropped
     fake.events.onRound = [&](int round) {
         if (round == 5) {
             EXPECT_EQ(triggers(), 0);
-            program->table[0].TriggerNowRequest = true;
+            program->table[0].triggerNowRequest = true;
         }
-        if (program->state.Passes == 2 || round > 100) PressStop();
+        if (program->state.passes == 2 || round > 100) PressStop();
     };
     PressStart();
     EXPECT_EQ(triggers(), 1);
-    EXPECT_EQ(program->state.Passes, 2);
+    EXPECT_EQ(program->state.passes, 2);
 }
 
 TEST_F(MeasurementTest, AClickOnAPresentSensorsNameSwitchesItAndNothingElseDoes) {
@@ -59,9 +59,9 @@ TEST_F(MeasurementTest, AClickOnAPresentSensorsNameSwitchesItAndNothingElseDoes)
     };
     for (const auto& [row, column, enabled] : clicks) {
         Click(row, column);
-        EXPECT_EQ(program->table[0].Enabled, enabled) << row << column;
+        EXPECT_EQ(program->table[0].enabled, enabled) << row << column;
         EXPECT_EQ(Cell(0, NameColumn).look.back, enabled ? Green : Grey);
-        EXPECT_FALSE(program->table[1].Enabled);
+        EXPECT_FALSE(program->table[1].enabled);
     }
 }
 
@@ -69,16 +69,16 @@ TEST_F(MeasurementTest, APressSelectsWithoutSwitchingAndAnUnlistedSensorLeavesNo
     StartWith(2);
     auto& grid = program->forms.statusForm.ResultGrid;
     auto& list = program->forms.setupForm.SensSelect;
-    grid.MouseDown.Raise(2, NameColumn);
-    EXPECT_EQ(program->table.CurrentSensor, 1);
+    grid.mouseDown.Raise(2, NameColumn);
+    EXPECT_EQ(program->table.currentSensor, 1);
     EXPECT_EQ(list.Text(), "B");
     EXPECT_EQ(program->forms.setupForm.SensLogicalName.Text(), "B");
-    EXPECT_TRUE(program->table[1].Enabled);
+    EXPECT_TRUE(program->table[1].enabled);
     Click(1, NameColumn);
     program->selection.UpdateSensSelect();
     EXPECT_EQ(list.Items(), (std::vector<controls::List::Item>{{"B", 1}}));
-    grid.MouseDown.Raise(1, NameColumn);
-    EXPECT_EQ(program->table.CurrentSensor, 0);
+    grid.mouseDown.Raise(1, NameColumn);
+    EXPECT_EQ(program->table.currentSensor, 0);
     EXPECT_EQ(list.Index(), -1);
 }
 
@@ -86,16 +86,16 @@ TEST_F(MeasurementTest, ChangedSettingsAreSentBeforeTheNextMeasurement) {
     StartWith(1);
     fake.events.onRound = [&](int) {
         auto& entry = program->table[0];
-        if (program->state.Passes == 2 && entry.Settings.TrigCount != 9) {
-            entry.Settings.TrigCount = 9;
-            entry.SettingsChanged = true;
+        if (program->state.passes == 2 && entry.settings.TrigCount != 9) {
+            entry.settings.TrigCount = 9;
+            entry.settingsChanged = true;
         }
-        if (program->state.Passes == 4) PressStop();
+        if (program->state.passes == 4) PressStop();
     };
     PressStart();
     EXPECT_EQ(driver.Count("psdrv_chan_reset"), 2);
     EXPECT_TRUE(WasCalled("psdrv_trigger_setCount(12, 1, 9)"));
-    EXPECT_FALSE(program->table[0].SettingsChanged);
+    EXPECT_FALSE(program->table[0].settingsChanged);
 }
 
 TEST_F(MeasurementTest, AReadingIsShownWhateverItIs) {
@@ -119,8 +119,8 @@ TEST_F(MeasurementTest, AReadingIsShownWhateverItIs) {
     }
     driver.reading = 0.001;
     Measure(1);
-    EXPECT_EQ(program->table.SlotReadings[0][0], 0.001);
-    EXPECT_NEAR(program->table.SlotReadings[0][1], 0, 1e-12);
+    EXPECT_EQ(program->table.slotReadings[0][0], 0.001);
+    EXPECT_NEAR(program->table.slotReadings[0][1], 0, 1e-12);
 }
 
 TEST_F(MeasurementTest, AnArrayHasAsManyValuesAsCame) {
@@ -129,13 +129,13 @@ TEST_F(MeasurementTest, AnArrayHasAsManyValuesAsCame) {
         {5, INT32_MIN, 1024}, {5, 2000, 1024},  {5, INT32_MAX, 1024}, {5, 3, 3}};
     StartWith(1);
     for (const std::int32_t mode : {2, 4}) {
-        program->table[0].Settings.Mode = mode;
+        program->table[0].settings.Mode = mode;
         for (const auto& [values, count, kept] : cases) {
             driver.array.assign(values, 0.5);
             if (values > 1) driver.array[1] = NAN;
             driver.arrayCount = count;
             Measure(1);
-            const auto& results = program->table[0].Results;
+            const auto& results = program->table[0].results;
             ASSERT_EQ(results.size(), kept) << values;
             EXPECT_EQ(results[0], values > 0 ? 0.5 : 0);
         }
@@ -147,17 +147,17 @@ TEST_F(MeasurementTest, OnlyTheModesThatHaveAResultFetchOne) {
     StartWith(1);
     for (const std::int32_t mode : {0, 1, 2, 3, 4, 7}) {
         auto& entry = program->table[0];
-        entry.Settings.Mode = mode;
-        entry.NewTSlotData = entry.NewScopeData = false;
+        entry.settings.Mode = mode;
+        entry.newSlotData = entry.newTraceData = false;
         driver.count.clear();
         Measure(1);
         const bool isSlots = mode == 2, isTrace = mode == 4;
         EXPECT_EQ(driver.Count("psdrv_meass_fetchMeasurement"), mode == 0 || mode == 3) << mode;
         EXPECT_EQ(driver.Count("psdrv_meass_fetchBufferMeasurement"), isSlots || isTrace) << mode;
-        EXPECT_EQ(entry.NewTSlotData, isSlots) << mode;
-        EXPECT_EQ(entry.NewScopeData, isTrace) << mode;
-        EXPECT_EQ(program->state.TimeSlotModeActive, isSlots);
-        EXPECT_EQ(program->forms.scopeDisp.Visible, isTrace);
+        EXPECT_EQ(entry.newSlotData, isSlots) << mode;
+        EXPECT_EQ(entry.newTraceData, isTrace) << mode;
+        EXPECT_EQ(program->state.timeSlotModeActive, isSlots);
+        EXPECT_EQ(program->forms.scopeDisp.visible, isTrace);
     }
 }
 
@@ -194,13 +194,13 @@ TEST_F(MeasurementTest, TheNoticeCountsTheSecondsThatAreLeftAndIsNoError) {
     fake.events.onRound = [&](int) {
         const auto& window = program->forms.mdiMain;
         if (Notice().starts_with("Delaying") && (seen.empty() || seen.back() != Notice())) {
-            EXPECT_TRUE(window.ConnectedFrame.Visible);
+            EXPECT_TRUE(window.ConnectedFrame.visible);
             seen.push_back(Notice());
         }
-        EXPECT_FALSE(program->session.ErrorShown);
-        if (program->state.Passes == 1) PressStop();
+        EXPECT_FALSE(program->session.errorShown);
+        if (program->state.passes == 1) PressStop();
     };
-    program->state.RecordInterval = 3;
+    program->state.recordInterval = 3;
     PressStart();
     EXPECT_EQ(seen,
               (std::vector<std::string>{"Delaying ... 3", "Delaying ... 2", "Delaying ... 1"}));
@@ -216,14 +216,14 @@ TEST_F(MeasurementTest, StopAndTheEndOfARecordingEndTheDelayAtOnce) {
             if (!isOver && !Notice().starts_with("Delaying")) return;
             if (!isOver) ended = fake.clock.Monotonic();
             if (!isOver && !stop)
-                program->state.RecordInterval = 0;
+                program->state.recordInterval = 0;
             else
                 PressStop();
         };
-        program->state.RecordInterval = 3600;
+        program->state.recordInterval = 3600;
         PressStart();
         EXPECT_LE(fake.clock.Monotonic() - ended, milliseconds(5)) << stop;
-        EXPECT_EQ(program->state.RecordInterval, 0);
+        EXPECT_EQ(program->state.recordInterval, 0);
     }
 }
 

@@ -87,7 +87,7 @@ std::vector<std::string> Dump(MathParser& parser) {
     std::vector<std::string> lines;
     for (int i = 0; i < 2; ++i) {
         lines.clear();
-        parser.ET_Dump([&](std::string_view line) { lines.emplace_back(line); });
+        parser.Dump([&](std::string_view line) { lines.emplace_back(line); });
     }
     EXPECT_EQ(lines.at(0), "Dump Level ");
     EXPECT_EQ(lines.at(1), std::string(32, '-'));
@@ -127,7 +127,7 @@ TEST(Compile, StoringAgainStartsAfresh) {
     EXPECT_TRUE(formula.parser.StoreExpression("7"));
     EXPECT_EQ(formula.Error(), "");
     EXPECT_EQ(formula.parser.VarTop(), 0);
-    EXPECT_EQ(formula.parser.ET().size(), 2U);
+    EXPECT_EQ(formula.parser.Entries().size(), 2U);
     EXPECT_EQ(formula.parser.Eval(), 7);
 }
 
@@ -156,7 +156,7 @@ TEST(Compile, AMegabyteOfAnythingCompilesOrFails) {
     }
     Formula tooLong(std::string(MaxLength + 1, '('));
     EXPECT_EQ(tooLong.Error(), "formula too long");
-    EXPECT_EQ(tooLong.parser.ET().size(), 1U);
+    EXPECT_EQ(tooLong.parser.Entries().size(), 1U);
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-#include "posix/posix_files.h"
 #include "platform/profile_file.h"
+#include "posix/posix_files.h"
 #include "support/faulty_files.h"
 #include "support/temp_folder.h"
 

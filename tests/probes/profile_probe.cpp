@@ -11,8 +11,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "posix/posix_files.h"
 #include "platform/profile_file.h"
+#include "posix/posix_files.h"
 #include "support/temp_folder.h"
 
 namespace {

@@ -14,48 +14,48 @@ namespace kelvra::sensors {
 TEST(SensorTable, KeepsWhatItHoldsAndAnEmptySpareElement) {
     SensorTable table;
     table.Resize(8);
-    EXPECT_EQ(table.Sensors.size(), 9U);
-    EXPECT_EQ(table.SlotReadings.size(), 9U);
-    table[1].LogicalName = "B";
-    table[2].LogicalName = "C";
-    table.SlotReadings[1] = {1, 30};
-    table.CurrentSensor = 2;
+    EXPECT_EQ(table.entries.size(), 9U);
+    EXPECT_EQ(table.slotReadings.size(), 9U);
+    table[1].logicalName = "B";
+    table[2].logicalName = "C";
+    table.slotReadings[1] = {1, 30};
+    table.currentSensor = 2;
     table.Resize(2);
-    EXPECT_EQ(table[1].LogicalName, "B");
-    EXPECT_EQ(table.SlotReadings[1][1], 30);
-    EXPECT_EQ(table.Sensors.size(), 3U);
-    EXPECT_EQ(table[2].LogicalName, "");
-    EXPECT_EQ(table.CurrentSensor, 0);
+    EXPECT_EQ(table[1].logicalName, "B");
+    EXPECT_EQ(table.slotReadings[1][1], 30);
+    EXPECT_EQ(table.entries.size(), 3U);
+    EXPECT_EQ(table[2].logicalName, "");
+    EXPECT_EQ(table.currentSensor, 0);
     for (const int refused : {0, -1, 40'000}) table.Resize(refused);
-    EXPECT_EQ(table.SensorSlotCount, 2);
+    EXPECT_EQ(table.sensorSlotCount, 2);
     const TableLock outer(table);
     const TableLock inner(table);
     EXPECT_DEBUG_DEATH(table.Resize(8), "locks");
-    EXPECT_EQ(table.Sensors.size(), 3U);
+    EXPECT_EQ(table.entries.size(), 3U);
 }
 
 TEST(SensorTable, SwapsAllThatBelongsToASlot) {
     SensorTable table;
     table.Resize(4);
     table.ResizeScaling(1);  // the device list was shorter than the table
-    table[0].LogicalName = "A";
-    table[3].LogicalName = "D";
-    table[3].Settings.Mode = Trace;
-    table.Scaling[0].MinScope = -20;
-    table.SlotReadings[0] = {1, 30};
-    table.SlotReadings[3] = {2, 33};
+    table[0].logicalName = "A";
+    table[3].logicalName = "D";
+    table[3].settings.Mode = Trace;
+    table.scaling[0].minScope = -20;
+    table.slotReadings[0] = {1, 30};
+    table.slotReadings[3] = {2, 33};
     for (const auto& [before, after] : {std::pair{0, 3}, {3, 0}, {1, 1}}) {
         SensorTable swapped = table;
-        swapped.CurrentSensor = static_cast<std::int16_t>(before);
+        swapped.currentSensor = static_cast<std::int16_t>(before);
         swapped.SwapSlots(0, 3);
-        EXPECT_EQ(swapped[0].LogicalName, "D");
-        EXPECT_EQ(swapped[0].Settings.Mode, Trace);
-        EXPECT_EQ(swapped[3].LogicalName, "A");
-        EXPECT_EQ(swapped.Scaling[3].MinScope, -20);
-        EXPECT_EQ(swapped.Scaling[0].MinScope, -65);
-        EXPECT_EQ(swapped.SlotReadings[0][1], 33);
-        EXPECT_EQ(swapped.SlotReadings[3][1], 30);
-        EXPECT_EQ(swapped.CurrentSensor, after);
+        EXPECT_EQ(swapped[0].logicalName, "D");
+        EXPECT_EQ(swapped[0].settings.Mode, Trace);
+        EXPECT_EQ(swapped[3].logicalName, "A");
+        EXPECT_EQ(swapped.scaling[3].minScope, -20);
+        EXPECT_EQ(swapped.scaling[0].minScope, -65);
+        EXPECT_EQ(swapped.slotReadings[0][1], 33);
+        EXPECT_EQ(swapped.slotReadings[3][1], 30);
+        EXPECT_EQ(swapped.currentSensor, after);
     }
 }
 
@@ -72,18 +72,18 @@ TEST(WorkArrays, AreThoseOfTheMode) {
         SensorTable table;
         table.Resize(2);
         SensorEntry& entry = table[1];
-        entry.Settings.Mode = mode;
-        entry.Settings.TSlotCount = slots;
-        entry.History.Add(1);
-        entry.TSlotStats.assign(1, {});
-        entry.TSlotStats[0].Restart = 4;
-        entry.TSlotStatsFull = true;
+        entry.settings.Mode = mode;
+        entry.settings.TSlotCount = slots;
+        entry.history.Add(1);
+        entry.slotStats.assign(1, {});
+        entry.slotStats[0].restart = 4;
+        entry.slotStatsFull = true;
         PrepareWorkArrays(table, 1);
-        EXPECT_EQ(entry.History.Index(), ringReset ? -1 : 0) << mode;
-        ASSERT_EQ(entry.TSlotStats.size(), stats) << mode;
-        EXPECT_EQ(entry.TSlotStats[0].Restart, mode == TimeSlot ? -1 : 4) << mode;
-        EXPECT_EQ(entry.TSlotStats.back().Values.size(), 30U) << mode;
-        EXPECT_EQ(entry.TSlotStatsFull, mode != TimeSlot) << mode;
+        EXPECT_EQ(entry.history.Index(), ringReset ? -1 : 0) << mode;
+        ASSERT_EQ(entry.slotStats.size(), stats) << mode;
+        EXPECT_EQ(entry.slotStats[0].restart, mode == TimeSlot ? -1 : 4) << mode;
+        EXPECT_EQ(entry.slotStats.back().values.size(), 30U) << mode;
+        EXPECT_EQ(entry.slotStatsFull, mode != TimeSlot) << mode;
     }
 }
 
@@ -91,9 +91,9 @@ TEST(SensorTable, FindsAMeasuredSensorByNameOnlyWhilePresentAndEnabled) {
     SensorTable table;
     table.Resize(3);
     for (int slot = 0; slot < 3; ++slot) {
-        table[slot].LogicalName = "A";
-        table[slot].Present = slot != 1;
-        table[slot].Enabled = slot != 0;
+        table[slot].logicalName = "A";
+        table[slot].present = slot != 1;
+        table[slot].enabled = slot != 0;
     }
     EXPECT_EQ(table.FindMeasured("A"), 2);
     EXPECT_EQ(table.FindMeasured("B"), -1);

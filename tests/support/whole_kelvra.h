@@ -56,9 +56,9 @@ struct WholeKelvra {
     void PressExit() { program->forms.mdiMain.MFileExit.Press(); }
     // Measures until that many passes are complete.
     void Measure(int passes) {
-        const auto enough = program->state.Passes + passes;
+        const auto enough = program->state.passes + passes;
         fake.events.onRound = [this, enough](int) {
-            if (program->state.Passes >= enough) PressStop();
+            if (program->state.passes >= enough) PressStop();
         };
         PressStart();
         fake.events.onRound = nullptr;
@@ -66,7 +66,7 @@ struct WholeKelvra {
     const controls::Grid::Cell& Cell(int slot, int column) const {
         return program->forms.statusForm.ResultGrid.At(slot + 1, column);
     }
-    std::string Notice() const { return program->forms.mdiMain.lblMeasAwait.Caption; }
+    std::string Notice() const { return program->forms.mdiMain.lblMeasAwait.caption; }
 };
 
 }  // namespace kelvra::test

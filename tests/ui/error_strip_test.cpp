@@ -7,9 +7,9 @@ namespace kelvra::ui {
 
 class ErrorStripTest : public testing::Test, public test::WholeKelvra {
 protected:
-    std::string Strip() const { return program->forms.setupForm.lblInputError.Caption; }
-    int Height() const { return program->forms.setupForm.Frame1.Place->height; }
-    bool NoticeVisible() const { return program->forms.mdiMain.ConnectedFrame.Visible; }
+    std::string Strip() const { return program->forms.setupForm.lblInputError.caption; }
+    int Height() const { return program->forms.setupForm.Frame1.place->height; }
+    bool NoticeVisible() const { return program->forms.mdiMain.ConnectedFrame.visible; }
 };
 
 TEST_F(ErrorStripTest, ShowsAnErrorWithItsSensorUntilItIsCleared) {
@@ -24,19 +24,19 @@ TEST_F(ErrorStripTest, ShowsAnErrorWithItsSensorUntilItIsCleared) {
         program->errorStrip.ShowSensorError(true, 1, text, general);
         EXPECT_EQ(Strip(), strip);
         EXPECT_EQ(Notice(), notice);
-        EXPECT_EQ(program->session.ErrorShown, error);
+        EXPECT_EQ(program->session.errorShown, error);
         EXPECT_EQ(Height(), 2835);
         EXPECT_TRUE(NoticeVisible());
         program->errorStrip.ShowSensorError(false, 1, "", false);
         EXPECT_EQ(Strip(), "");
-        EXPECT_FALSE(program->session.ErrorShown);
+        EXPECT_FALSE(program->session.errorShown);
         EXPECT_EQ(Height(), 1935);
         EXPECT_FALSE(NoticeVisible());
     }
-    program->table.SimulationMode = true;  // shows nothing
+    program->table.simulationMode = true;  // shows nothing
     program->errorStrip.ShowSensorError(true, 1, "error", false);
     EXPECT_EQ(Strip(), "");
-    EXPECT_FALSE(program->session.ErrorShown);
+    EXPECT_FALSE(program->session.errorShown);
 }
 
 TEST_F(ErrorStripTest, ARefusedHandleIsRecoveredFromOnceInAStart) {
@@ -58,7 +58,7 @@ TEST_F(ErrorStripTest, ARefusedHandleIsRecoveredFromOnceInAStart) {
                 EXPECT_EQ(driver.Count(name), transfers) << message << start << name;
             EXPECT_EQ(driver.Count("psdrv_chans_initiate") > 0, transfers == 1) << message;
             EXPECT_EQ(Notice().starts_with("The driver session was lost"), transfers == 2);
-            EXPECT_TRUE(program->forms.mdiMain.StartIt.Enabled);
+            EXPECT_TRUE(program->forms.mdiMain.StartIt.enabled);
         }
     }
 }

@@ -43,7 +43,7 @@ TEST(Corrections, MultiplyThePower) {
 }
 
 TEST(Measurement, CompletesAfterItsTriggerOnly) {
-    constexpr double Never = 1e9;
+    constexpr double never = 1e9;
     // When it completes after a start at 1 s and a software trigger at 2 s.
     const std::pair<Changes, double> cases[] = {
         {{}, 1.04},
@@ -51,7 +51,7 @@ TEST(Measurement, CompletesAfterItsTriggerOnly) {
         {{{Setting::trigger_setSource, 2}}, 2.04},
         {{{Setting::trigger_setSource, 1}}, 1.24},  // external, each 0.3 s
         {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 0.9e-3}}, 1.04},
-        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 1.1e-3}}, Never},
+        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 1.1e-3}}, never},
     };
     Scenario scenario = OneSensor("0 dB");
     scenario.externalPeriod = 0.3;
@@ -59,9 +59,9 @@ TEST(Measurement, CompletesAfterItsTriggerOnly) {
         VirtualSensor sensor(scenario, 0);
         Measurement measurement;
         measurement.Start(With(changes), sensor, scenario, 1);
-        if (time > 2 && time != Never) measurement.Trigger(2);
+        if (time > 2 && time != never) measurement.Trigger(2);
         EXPECT_FALSE(measurement.Complete(sensor, time - 0.001)) << time;
-        EXPECT_EQ(measurement.Complete(sensor, time + 0.001), time != Never) << time;
+        EXPECT_EQ(measurement.Complete(sensor, time + 0.001), time != never) << time;
     }
 }
 

@@ -9,8 +9,8 @@
 #include <filesystem>
 #include <utility>
 
-#include "posix/posix_library.h"
 #include "platform/profile_file.h"
+#include "posix/posix_library.h"
 
 namespace kelvra::platform {
 
@@ -115,8 +115,8 @@ void PosixComputer::WriteRegistry(const std::string& key, const std::string& nam
 }
 
 ScreenSize PosixComputer::Screen() {
-    constexpr int TwipsPerPixel = 15;
-    return {1280 * TwipsPerPixel, 800 * TwipsPerPixel};
+    constexpr int twipsPerPixel = 15;
+    return {1280 * twipsPerPixel, 800 * twipsPerPixel};
 }
 
 }  // namespace kelvra::platform

@@ -103,9 +103,9 @@ std::error_code PosixFiles::CopyPermissions(const std::string& from, Handle to) 
 }
 
 std::string PosixFiles::ResolveLinks(const std::string& path) {
-    constexpr int MostLinks = 40;
+    constexpr int mostLinks = 40;
     fs::path current(path);
-    for (int followed = 0; followed < MostLinks; ++followed) {
+    for (int followed = 0; followed < mostLinks; ++followed) {
         std::error_code noLink;
         const fs::path target = fs::read_symlink(current, noLink);
         if (noLink) return current.string();

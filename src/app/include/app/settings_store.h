@@ -23,7 +23,7 @@ public:
     SettingsStore(platform::Files& files, driver::DebugLog& log, forms::MDIMain& window)
         : files_(files), log_(log), window_(window) {}
 
-    std::string AppIniPath;
+    std::string iniPath;
 
     // Reads each slot's settings under "SENS" + channel number.
     void ReadSlots(sensors::SensorTable& table);

@@ -29,7 +29,7 @@ public:
 private:
     enum class Kind { Nothing, Passes, Time, Idle };
 
-    bool MeasurementRuns() const { return state_.Measuring && state_.commandRuns; }
+    bool MeasurementRuns() const { return state_.measuring && state_.commandRuns; }
 
     const measure::MeasureState& state_;
     platform::Clock& clock_;

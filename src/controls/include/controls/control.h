@@ -67,7 +67,7 @@ public:
     Control& operator=(const Control&) = delete;
     virtual ~Control() = default;
 
-    Kind kind() const { return kind_; }
+    Kind GetKind() const { return kind_; }
     const std::string& Name() const { return name_; }
     Control* Parent() const { return parent_; }
     const std::vector<Control*>& Children() const { return children_; }
@@ -79,11 +79,11 @@ public:
 
     void MarkChanged() { changes_.Add(*this); }
 
-    Property<bool> Enabled{*this, true};
-    Property<bool> Visible{*this, true};
-    Property<std::string> Tooltip{*this, {}};
-    Property<std::optional<Colour>> Back{*this, std::nullopt};
-    Property<std::optional<Colour>> Fore{*this, std::nullopt};
+    Property<bool> enabled{*this, true};
+    Property<bool> visible{*this, true};
+    Property<std::string> tooltip{*this, {}};
+    Property<std::optional<Colour>> back{*this, std::nullopt};
+    Property<std::optional<Colour>> fore{*this, std::nullopt};
 
 protected:
     // A window: it has no parent.

@@ -39,18 +39,18 @@ public:
 
     Graph(Control& parent, std::string name) : Control(Kind::Graph, parent, std::move(name)) {}
 
-    Property<Plot> Curve{*this, {}};
-    Property<Axis> X{*this, {}};
-    Property<Axis> Y{*this, {}};
-    Property<std::vector<Cursor>> Cursors{*this, {}};  // moving them raises nothing
-    Property<std::vector<Text>> Labels{*this, {}};
-    Property<TrackMode> Track{*this, TrackMode::CursorEvents};
+    Property<Plot> curve{*this, {}};
+    Property<Axis> x{*this, {}};
+    Property<Axis> y{*this, {}};
+    Property<std::vector<Cursor>> cursors{*this, {}};  // moving them raises nothing
+    Property<std::vector<Text>> labels{*this, {}};
+    Property<TrackMode> track{*this, TrackMode::CursorEvents};
 
     // A person drags a cursor (its index, x, y), and lets it go.
-    Event<int, double, double> CursorChange;
-    Event<int> CursorRelease;
-    void Drag(int cursor, double x, double y);
-    void Release(int cursor) { CursorRelease.Raise(cursor); }
+    Event<int, double, double> cursorChange;
+    Event<int> cursorRelease;
+    void Drag(int cursor, double toX, double toY);
+    void Release(int cursor) { cursorRelease.Raise(cursor); }
 };
 
 }  // namespace kelvra::controls

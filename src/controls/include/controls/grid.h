@@ -59,11 +59,11 @@ public:
 
     // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up
     // again.
-    Event<int, int> MouseDown;
-    Event<int, int> Click;
+    Event<int, int> mouseDown;
+    Event<int, int> click;
 
-    Property<std::optional<Colour>> FixedBack{*this, std::nullopt};  // heading cells
-    Property<std::optional<Colour>> EmptyBack{*this, std::nullopt};  // where there are no cells
+    Property<std::optional<Colour>> fixedBack{*this, std::nullopt};  // heading cells
+    Property<std::optional<Colour>> emptyBack{*this, std::nullopt};  // where there are no cells
 
     // Row and column of the cells that have changed since the last call.
     std::vector<std::pair<int, int>> TakeChangedCells();

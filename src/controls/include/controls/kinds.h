@@ -24,43 +24,45 @@ using Key = std::string;
 
 class Label : public Control {
 public:
-    Label(Control& parent, std::string name, std::string caption = {})
-        : Control(Kind::Label, parent, std::move(name)), Caption(*this, std::move(caption)) {}
+    Label(Control& parent, std::string name, std::string captionText = {})
+        : Control(Kind::Label, parent, std::move(name)), caption(*this, std::move(captionText)) {}
 
-    Event<> Click;  // for labels that act as links
-    void Press() { Click.Raise(); }
+    Event<> click;  // for labels that act as links
+    void Press() { click.Raise(); }
 
-    Property<std::string> Caption;
+    Property<std::string> caption;
 };
 
 class Button : public Control {
 public:
-    Button(Control& parent, std::string name, std::string caption = {}, std::string picture = {})
+    Button(Control& parent, std::string name, std::string captionText = {},
+           std::string pictureName = {})
         : Control(Kind::Button, parent, std::move(name)),
-          Caption(*this, std::move(caption)),
-          Picture(*this, std::move(picture)) {}
+          caption(*this, std::move(captionText)),
+          picture(*this, std::move(pictureName)) {}
 
-    Event<> Click;
-    Event<const Key&> KeyDown;
-    void Press() { Click.Raise(); }
+    Event<> click;
+    Event<const Key&> keyDown;
+    void Press() { click.Raise(); }
 
-    Property<std::string> Caption;
-    Property<std::string> Picture;  // by name; empty for a button with a caption alone
-    Property<std::string> Tag{*this, {}};
+    Property<std::string> caption;
+    Property<std::string> picture;  // by name; empty for a button with a caption alone
+    Property<std::string> tag{*this, {}};
 };
 
 // A menu, an entry of it, or a line between entries. Entries are children of their menu.
 class MenuItem : public Control {
 public:
-    MenuItem(Control& parent, std::string name, std::string caption)
-        : Control(Kind::MenuItem, parent, std::move(name)), Caption(*this, std::move(caption)) {}
+    MenuItem(Control& parent, std::string name, std::string captionText)
+        : Control(Kind::MenuItem, parent, std::move(name)),
+          caption(*this, std::move(captionText)) {}
 
-    Event<> Click;
-    void Press() { Click.Raise(); }
-    bool IsSeparator() const { return Caption.Get() == "-"; }
+    Event<> click;
+    void Press() { click.Raise(); }
+    bool IsSeparator() const { return caption.Get() == "-"; }
 
-    Property<std::string> Caption;
-    Property<bool> Checked{*this, false};
+    Property<std::string> caption;
+    Property<bool> checked{*this, false};
 };
 
 class TextBox : public Control {
@@ -72,9 +74,9 @@ public:
     // The program's own write: raises Change for another text.
     void SetText(std::string text);
 
-    Event<> Change;
-    Event<> Commit;  // Enter, or the person turns to another control after an edit
-    Event<const Key&> KeyDown;
+    Event<> change;
+    Event<> commit;  // Enter, or the person turns to another control after an edit
+    Event<const Key&> keyDown;
 
     void Type(std::string text);
     // Enter commits; every key is reported.
@@ -91,20 +93,20 @@ private:
 
 class CheckBox : public Control {
 public:
-    CheckBox(Control& parent, std::string name, std::string caption, bool checked = false)
+    CheckBox(Control& parent, std::string name, std::string captionText, bool checked = false)
         : Control(Kind::CheckBox, parent, std::move(name)),
-          Caption(*this, std::move(caption)),
+          caption(*this, std::move(captionText)),
           checked_(*this, checked) {}
 
     bool Checked() const { return checked_.Get(); }
     // The program's own write: raises Click for another state.
     void SetChecked(bool checked);
 
-    Event<> Click;
-    Event<const Key&> KeyDown;
+    Event<> click;
+    Event<const Key&> keyDown;
     void Toggle();
 
-    Property<std::string> Caption;
+    Property<std::string> caption;
 
 private:
     Property<bool> checked_;
@@ -128,8 +130,8 @@ public:
     // The program's own write: raises Click for another option. Others than 0 .. n-1 are ignored.
     void SetSelected(int option);
 
-    Event<> Click;
-    Event<int, const Key&> KeyDown;
+    Event<> click;
+    Event<int, const Key&> keyDown;
     void Select(int option);
 
 private:
@@ -142,49 +144,49 @@ public:
     RichText(Control& parent, std::string name)
         : Control(Kind::RichText, parent, std::move(name)) {}
 
-    Property<std::string> Rtf{*this, {}};
+    Property<std::string> rtf{*this, {}};
 };
 
 class Picture : public Control {
 public:
-    Picture(Control& parent, std::string name, std::string picture = {})
-        : Control(Kind::Picture, parent, std::move(name)), Image(*this, std::move(picture)) {}
+    Picture(Control& parent, std::string name, std::string pictureName = {})
+        : Control(Kind::Picture, parent, std::move(name)), image(*this, std::move(pictureName)) {}
 
-    Property<std::string> Image;  // by name
-    Property<std::string> Tag{*this, {}};
+    Property<std::string> image;  // by name
+    Property<std::string> tag{*this, {}};
 };
 
 class Frame : public Control {
 public:
-    Frame(Control& parent, std::string name, std::string caption = {}, Geometry place = {})
+    Frame(Control& parent, std::string name, std::string captionText = {}, Geometry startPlace = {})
         : Control(Kind::Frame, parent, std::move(name)),
-          Caption(*this, std::move(caption)),
-          Place(*this, place) {}
+          caption(*this, std::move(captionText)),
+          place(*this, startPlace) {}
 
-    Property<std::string> Caption;
-    Property<Geometry> Place;
+    Property<std::string> caption;
+    Property<Geometry> place;
 };
 
 class Window : public Control {
 public:
-    Window(Changes& changes, std::string name, std::string caption, Geometry place)
+    Window(Changes& changes, std::string name, std::string captionText, Geometry startPlace)
         : Control(Kind::Window, changes, std::move(name)),
-          Caption(*this, std::move(caption)),
-          Place(*this, place) {
-        Visible = false;
+          caption(*this, std::move(captionText)),
+          place(*this, startPlace) {
+        visible = false;
     }
 
     // A person has given the window another size, or asks it to close. What a close does is the
     // window's rule; without one the window is hidden.
-    Event<> Resize;
-    Event<> CloseRequest;
+    Event<> resize;
+    Event<> closeRequest;
     void PersonResizes(int width, int height);
     void PersonCloses();
 
-    Property<std::string> Caption;
-    Property<Geometry> Place;
-    Property<bool> TopMost{*this, false};
-    Property<std::string> Tag{*this, {}};
+    Property<std::string> caption;
+    Property<Geometry> place;
+    Property<bool> topMost{*this, false};
+    Property<std::string> tag{*this, {}};
 
     // True where a rule of its own answers the close.
     bool closesByRule = false;

@@ -44,11 +44,11 @@ public:
     // The program's own write: raises Click for another index. Beyond the entries selects none.
     void SetIndex(int index);
 
-    Event<> Click;
-    Event<> DropDown;
-    Event<const Key&> KeyDown;
+    Event<> click;
+    Event<> dropDown;
+    Event<const Key&> keyDown;
     void Choose(int index);
-    void Open() { DropDown.Raise(); }
+    void Open() { dropDown.Raise(); }
 
 private:
     bool Select(int index);

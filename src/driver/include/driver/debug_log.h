@@ -21,7 +21,7 @@ public:
     bool enabled = false;  // logging is on
     std::string path;
     bool timeStamps = false;  // each line begins with the time of day: "00,043,200.000:"
-    std::string header;   // each line's prefix behind the time, after a blank
+    std::string header;       // each line's prefix behind the time, after a blank
 
     // One line. Nothing happens while logging is off.
     void Write(std::string_view text);

@@ -11,10 +11,10 @@
 namespace kelvra::driver {
 
 struct DeviceListEntry {
-    std::string ResourceName;  // empty: no connected device at this place
-    std::string Type;
-    std::string Serial;
-    std::string Name;  // may be empty
+    std::string resourceName;  // empty: no connected device at this place
+    std::string type;
+    std::string serial;
+    std::string name;  // may be empty
 };
 
 class DeviceCatalogue {
@@ -22,7 +22,7 @@ public:
     explicit DeviceCatalogue(DeviceListOperations& operations) : operations_(operations) {}
 
     // Up to the last place with a connected device; a single empty element when there is none.
-    std::vector<DeviceListEntry> DeviceList = std::vector<DeviceListEntry>(1);
+    std::vector<DeviceListEntry> deviceList = std::vector<DeviceListEntry>(1);
 
     // Reads the library's list (256 entries at most are believed), sizes the display limits, and
     // sets DeviceTableChanged when fewer sensors are connected than the last time. Sizing the

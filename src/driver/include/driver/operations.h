@@ -82,6 +82,7 @@ using SwitchSetter = Setter<Switch>;
 using IntSetter = Setter<std::int32_t>;
 using DoubleSetter = Setter<double>;
 
+// NOLINTBEGIN(readability-identifier-naming): the names are the functions' own
 struct InstrumentOperations : OperationList {
     template <class... A>
     using Op = Operation<A...>;
@@ -178,5 +179,6 @@ struct DeviceListOperations : OperationList {
         *this, "TeskGetDeviceInfo"};
     Operation<> TeskCloseDriver{*this, "TeskCloseDriver"};
 };
+// NOLINTEND(readability-identifier-naming)
 
 }  // namespace kelvra::driver

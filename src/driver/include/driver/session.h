@@ -15,10 +15,10 @@ namespace kelvra::driver {
 
 struct SessionState {
     Handle instrumentHandle = 0;   // 0: no session
-    bool ConfigRunning = false;    // a transfer of settings runs
-    bool ReconnectPrompt = false;  // the last failed opening is one that reconnecting may mend
-    bool ErrorShown = false;       // the error strip shows an error
-    bool SessionClosed = true;     // no session is left to be closed
+    bool configRunning = false;    // a transfer of settings runs
+    bool reconnectPrompt = false;  // the last failed opening is one that reconnecting may mend
+    bool errorShown = false;       // the error strip shows an error
+    bool sessionClosed = true;     // no session is left to be closed
 };
 
 class Session {

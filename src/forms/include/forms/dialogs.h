@@ -24,10 +24,10 @@ struct AboutForm : controls::Window {
     explicit AboutForm(controls::Changes& changes)
         : Window(changes, "AboutForm", "Info", {2400, 1800, 8400, 7200}) {
         for (controls::Button* button : {&ShowSystemInfo, &ShowDriverInfo, &ShowLegalNotes})
-            button->Tag = "show";
+            button->tag = "show";
         for (controls::RichText* panel : {&SysInfoValue, &DriverInfoValue, &LizText})
-            panel->Visible = false;
-        LizText.Rtf =
+            panel->visible = false;
+        LizText.rtf =
             R"({\plain\fs20 {\b Kelvra\par}{\par})"
             R"({Copyright (C) 2026 The Kelvra developers\par}{\par})"
             R"({This program is free software: you can redistribute it and/or modify it under the )"

@@ -13,9 +13,9 @@ struct MDIMain : controls::Window {
     explicit MDIMain(controls::Changes& changes)
         : Window(changes, "MDIMain", "", {0, 0, 15000, 9900}) {
         closesByRule = true;
-        StopIt.Enabled = false;
-        BusySign.Tag = "1";
-        ConnectedFrame.Visible = false;
+        StopIt.enabled = false;
+        BusySign.tag = "1";
+        ConnectedFrame.visible = false;
     }
 
     controls::MenuItem MFile{*this, "MFile", "File"};

@@ -23,13 +23,13 @@ struct SetupForm : controls::Window {
         : Window(changes, "SetupForm", "Settings",
                  {60, 60, HeaderWidth + 100, HeaderHeight + PageHeight}) {
         for (controls::Frame* page : {&ModeFrame, &TriggerFrame, &CorrectionFrame, &AdvancedFrame})
-            page->Visible = false;
+            page->visible = false;
         for (controls::Frame* mode : {&BufferAVFrame, &TimeSlotFrame, &BurstAVFrame, &ScopeFrame})
-            mode->Visible = false;
-        chkAutoScaleScope.Visible = false;
-        txtMinScope.Visible = false;
-        txtMaxScope.Visible = false;
-        SensTriggerNow.Visible = false;
+            mode->visible = false;
+        chkAutoScaleScope.visible = false;
+        txtMinScope.visible = false;
+        txtMaxScope.visible = false;
+        SensTriggerNow.visible = false;
     }
 
     using Options = std::vector<controls::OptionGroup::Option>;

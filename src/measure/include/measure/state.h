@@ -7,19 +7,19 @@
 namespace kelvra::measure {
 
 struct MeasureState {
-    bool Measuring = false;           // from Start to Stop
-    bool StopRequested = false;       // the cycle is to end at its next look
-    bool ScopeModeActive = false;     // an enabled sensor measures in trace mode
-    bool TimeSlotModeActive = false;  // an enabled sensor measures in time slot mode
-    std::int32_t RecordInterval = 0;  // s between passes while recording; 0: no recording
+    bool measuring = false;           // from Start to Stop
+    bool stopRequested = false;       // the cycle is to end at its next look
+    bool traceModeActive = false;     // an enabled sensor measures in trace mode
+    bool timeSlotModeActive = false;  // an enabled sensor measures in time slot mode
+    std::int32_t recordInterval = 0;  // s between passes while recording; 0: no recording
 
     bool exiting = false;      // the exit routine has run: touch nothing any more
     bool commandRuns = false;  // Start, or a sensor command, has not returned yet
     std::int64_t starts = 0;   // measurements started in this run of the program
-    std::int64_t Passes = 0;   // completed since start-up
+    std::int64_t passes = 0;   // completed since start-up
 
     // The handlers that run are to return at their next look.
-    bool Ending() const { return StopRequested || exiting; }
+    bool Ending() const { return stopRequested || exiting; }
 };
 
 // Covers a handler that must not be entered again, nor beside another one of its kind.

@@ -8,7 +8,7 @@ class MeasurementView {
 public:
     virtual ~MeasurementView() = default;
 
-    // Which displays are wanted (ScopeModeActive, TimeSlotModeActive) has been decided anew.
+    // Which displays are wanted (traceModeActive, timeSlotModeActive) has been decided anew.
     virtual void ModesChanged() = 0;
 };
 

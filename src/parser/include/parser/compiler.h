@@ -43,8 +43,8 @@ private:
 
     bool AppendEntry(std::string_view fun, const Function& function);
     bool CloseOperand();
-    bool SetOperand(ExprArg& argument);
-    bool AddVariable(std::string_view name, ExprArg& argument);
+    bool SetOperand(Argument& argument);
+    bool AddVariable(std::string_view name, Argument& argument);
     bool Fail(std::string message);
     bool FailAt(std::string message);
 

@@ -9,12 +9,12 @@
 
 namespace kelvra::parser {
 
-// Fills PriIdx: higher levels first, equal ones from left to right. Slot 0 is left alone.
-void SetEvaluationOrder(std::span<ETEntry> table);
+// Fills order: higher levels first, equal ones from left to right. Slot 0 is left alone.
+void SetEvaluationOrder(std::span<ExpressionEntry> table);
 
-// Fills ArgOf and ArgIdx: each entry in evaluation order feeds the neighbour, among those not yet
-// evaluated, with the higher level, on a tie the left one. Arguments that receive a result lose
-// their variable.
-void LinkResults(std::span<ETEntry> table);
+// Fills receiver and receivingArgument: each entry in evaluation order feeds the neighbour, among
+// those not yet evaluated, with the higher level, on a tie the left one. Arguments that receive a
+// result lose their variable.
+void LinkResults(std::span<ExpressionEntry> table);
 
 }  // namespace kelvra::parser

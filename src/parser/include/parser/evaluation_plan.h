@@ -17,10 +17,10 @@ namespace kelvra::parser {
 class EvaluationPlan {
 public:
     // Takes over a compiled table (slot 0 is not used).
-    void Build(std::span<const ETEntry> table);
+    void Build(std::span<const ExpressionEntry> table);
 
     // Gives each argument that a variable feeds the variable's value, or all of them one value.
-    void Load(std::span<const ExprArg> variables);
+    void Load(std::span<const Argument> variables);
     void Load(double value);
 
     // Runs the operations; the value of the last, or nothing when one has failed. Results are kept
@@ -35,7 +35,7 @@ public:
     Failure LastFailure() const;
 
     // Writes values of arguments and results into the table the plan was built from.
-    void CopyValues(std::span<ETEntry> table) const;
+    void CopyValues(std::span<ExpressionEntry> table) const;
 
 private:
     enum class Kind { Sum, Difference, Product, Ratio, OfOne, OfTwo, Random };

@@ -36,11 +36,11 @@ public:
 
     // Variables are numbered from 1 by their first appearance. Another number has no name, the
     // value 0, and can't be set. VarTop is 101 after a formula has failed for too many of them.
-    int VarTop() const { return table_.VarTop; }
+    int VarTop() const { return table_.variableCount; }
     std::string_view VarName(int i) const;  // until the next StoreExpression
-    double VarValue(int i) const { return IsVariable(i) ? table_.Vars[i].Value : 0; }
+    double VarValue(int i) const { return IsVariable(i) ? table_.variables[i].value : 0; }
     void VarValue(int i, double value) {
-        if (IsVariable(i)) table_.Vars[i].Value = value;
+        if (IsVariable(i)) table_.variables[i].value = value;
     }
 
     // Why the last failure was; it stays until a formula is stored.
@@ -57,19 +57,19 @@ public:
     double Eval1(double x);
 
     // The Riemann zeta function; not a number where the formula language's zeta fails.
-    static double Zeta_(double s);
+    static double Zeta(double s);
 
     // The expression table with the values of the last evaluation, slots 0 (never used) to the last
     // entry; after a failed StoreExpression the entries made before the failure. Valid until the
     // next StoreExpression.
-    std::span<const ETEntry> ET();
+    std::span<const ExpressionEntry> Entries();
 
     // Lists the table without changing it.
-    void ET_Dump(const LineSink& sink) { DumpTable(ET(), sink); }
+    void Dump(const LineSink& sink) { DumpTable(Entries(), sink); }
 
 private:
     bool Compile();
-    bool IsVariable(int i) const { return i >= 1 && i < static_cast<int>(table_.Vars.size()); }
+    bool IsVariable(int i) const { return i >= 1 && i < static_cast<int>(table_.variables.size()); }
     double Run();
     std::string FailureText(const EvaluationPlan::Failure& failure) const;
 

@@ -15,6 +15,6 @@ namespace kelvra::parser {
 using LineSink = std::function<void(std::string_view line)>;
 
 // Slot 0 of the table is not listed.
-void DumpTable(std::span<const ETEntry> table, const LineSink& sink);
+void DumpTable(std::span<const ExpressionEntry> table, const LineSink& sink);
 
 }  // namespace kelvra::parser

@@ -16,39 +16,39 @@ namespace kelvra::sensors {
 
 // Statistics of one time slot.
 struct TimeSlotStat {
-    std::int16_t Restart = -1;  // -1: set up at the next reading, else the next place in Values
-    std::vector<double> Values = std::vector<double>(ReadingRing::Length);  // W
-    double Power = 0;                                                       // this and below: dBm
-    double Max = 0;
-    double Min = 0;
-    double Mean = 0;
-    double Sigma = 0;  // dB
+    std::int16_t restart = -1;  // -1: set up at the next reading, else the next place in Values
+    std::vector<double> values = std::vector<double>(ReadingRing::Length);  // W
+    double power = 0;                                                       // this and below: dBm
+    double max = 0;
+    double min = 0;
+    double mean = 0;
+    double sigma = 0;  // dB
 };
 
 struct SensorEntry {
-    std::string ResourceName;  // driver resource descriptor; empty: the slot is free
-    bool Present = false;
-    bool SessionOpen = false;  // its channel is open in the driver session
-    bool Enabled = false;      // takes part in measurements
-    bool NewTSlotData = false;
-    bool NewScopeData = false;
-    bool TSlotStatsActive = false;
-    std::string LogicalName;
-    std::string SensorId;          // type, ";", serial number
-    std::int32_t MeasPending = 0;  // 1: started and not yet complete
-    std::int16_t WaitTicks = 0;    // length of the activity bar, 0 .. 8
-    double LastReading = 0;        // W
-    std::vector<double> Results;   // W, of the latest array measurement
-    ReadingRing History;
-    std::vector<TimeSlotStat> TSlotStats;
-    bool TSlotStatsFull = false;
-    std::int32_t AvgCountRead = 0;
-    bool SettingsChanged = false;
-    SensorSettings Settings = DefaultSettings();
-    std::string LastErrorText;
-    bool TriggerNowRequest = false;
-    std::int16_t TSlotTriggerCursor = 0;
-    std::int16_t ScopeTriggerCursor = 0;
+    std::string resourceName;  // driver resource descriptor; empty: the slot is free
+    bool present = false;
+    bool sessionOpen = false;  // its channel is open in the driver session
+    bool enabled = false;      // takes part in measurements
+    bool newSlotData = false;
+    bool newTraceData = false;
+    bool slotStatsActive = false;
+    std::string logicalName;
+    std::string sensorId;          // type, ";", serial number
+    std::int32_t measPending = 0;  // 1: started and not yet complete
+    std::int16_t waitTicks = 0;    // length of the activity bar, 0 .. 8
+    double lastReading = 0;        // W
+    std::vector<double> results;   // W, of the latest array measurement
+    ReadingRing history;
+    std::vector<TimeSlotStat> slotStats;
+    bool slotStatsFull = false;
+    std::int32_t avgCountRead = 0;
+    bool settingsChanged = false;
+    SensorSettings settings = DefaultSettings();
+    std::string lastErrorText;
+    bool triggerNowRequest = false;
+    std::int16_t slotTriggerCursor = 0;
+    std::int16_t traceTriggerCursor = 0;
 };
 
 }  // namespace kelvra::sensors

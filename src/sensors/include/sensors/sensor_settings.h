@@ -19,6 +19,8 @@ enum Mode : std::int32_t {
 // Averaging modes.
 enum AveragingMode : std::int16_t { ByResolution = 0, ByNoise = 1, ByCount = 2 };
 
+// The members have the names under which files and reports know them.
+// NOLINTBEGIN(readability-identifier-naming)
 struct SensorSettings {
     std::int32_t Mode{};
     double ContAVAper{};
@@ -76,5 +78,6 @@ struct SensorSettings {
 
     bool operator==(const SensorSettings&) const = default;
 };
+// NOLINTEND(readability-identifier-naming)
 
 }  // namespace kelvra::sensors

@@ -16,33 +16,33 @@ namespace kelvra::sensors {
 
 // Limits of the displays' vertical axes for one slot, in dBm.
 struct DisplayScaling {
-    bool AutoScaleScope = false;
-    bool AutoScaleTime = false;
-    double MinScope = -65;
-    double MaxScope = 5;
-    double MinTime = -65;
-    double MaxTime = 5;
+    bool autoScaleScope = false;
+    bool autoScaleTime = false;
+    double minScope = -65;
+    double maxScope = 5;
+    double minTime = -65;
+    double maxTime = 5;
 };
 
 struct SensorTable {
     static constexpr std::int16_t DefaultSlotCount = 8;
 
     // Slots 0 .. SensorSlotCount - 1 and one spare element, which is always empty.
-    std::vector<SensorEntry> Sensors;
-    std::int16_t SensorSlotCount = 0;
-    std::int16_t CurrentSensor = 0;
-    bool SimulationMode = false;
+    std::vector<SensorEntry> entries;
+    std::int16_t sensorSlotCount = 0;
+    std::int16_t currentSensor = 0;
+    bool simulationMode = false;
 
-    bool DeviceTableChanged = false;  // asks discovery to switch sensors on and refresh the lists
+    bool deviceTableChanged = false;  // asks discovery to switch sensors on and refresh the lists
 
-    std::vector<DisplayScaling> Scaling;  // one for each place of the device list, or more
-    std::vector<std::array<double, 2>> SlotReadings;  // latest scalar reading: W, dBm
+    std::vector<DisplayScaling> scaling;  // one for each place of the device list, or more
+    std::vector<std::array<double, 2>> slotReadings;  // latest scalar reading: W, dBm
 
     // The slots in use, without the spare element.
-    int Slots() const { return SensorSlotCount; }
-    SensorEntry& operator[](int slot) { return Sensors[static_cast<std::size_t>(slot)]; }
+    int Slots() const { return sensorSlotCount; }
+    SensorEntry& operator[](int slot) { return entries[static_cast<std::size_t>(slot)]; }
     const SensorEntry& operator[](int slot) const {
-        return Sensors[static_cast<std::size_t>(slot)];
+        return entries[static_cast<std::size_t>(slot)];
     }
 
     // The sensors that are there, in the order of their slots.
