@@ -68,7 +68,7 @@ public:
                         {}),
           host_(surroundings_.HostWith(events_, dialogs_)),
           kelvra(host_),
-          desktop(Started(kelvra), dialogs_, folder_.Path()) {}
+          desktop(Started(kelvra), events_, dialogs_, folder_.Path()) {}
 
     template <class Widget>
     Widget& Find(const char* name) {

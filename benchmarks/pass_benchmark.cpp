@@ -10,6 +10,7 @@
 
 #include "console_run.h"
 #include "pass_texts.h"
+#include "ui/result_columns.h"
 #include "util/number_text.h"
 
 namespace {
@@ -48,7 +49,7 @@ double MeasurePasses(benchmark::State& state, benchmark::IterationCount passes) 
     const bool ran = run.Run();
     // The last sensor's spread shows that all have been read often enough.
     const controls::Grid& table = run.kelvra.forms.statusForm.ResultGrid;
-    if (!ran || table.Rows() <= Sensors || table.At(Sensors, measure::SigmaColumn).Text().empty())
+    if (!ran || table.Rows() <= Sensors || table.At(Sensors, ui::SigmaColumn).Text().empty())
         state.SkipWithError("the sensors were not read");
     return std::chrono::duration<double>(taken[1] - taken[0]).count();
 }

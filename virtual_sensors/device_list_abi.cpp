@@ -72,7 +72,7 @@ KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceListLength(int32_t* count) {
 
 // An index without a sensor gives empty texts and "not connected".
 KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceInfo(int32_t index, char* name, char* type, char* serial,
-                                              int32_t* connected) {
+                                                int32_t* connected) {
     const int64_t channel = int64_t{index} + 1;
     return Call(
         Operation::TeskGetDeviceInfo, channel, [&](VirtualBench& bench, const Twist& twist) {

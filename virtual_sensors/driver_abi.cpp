@@ -49,7 +49,7 @@ Outcome FindResult(VirtualBench& bench, Channel& channel, bool asArray) {
 using namespace kelvra::virtual_sensors;
 
 #define X(name, type, ...)                                                                  \
-    KELVRA_VIRTUAL_EXPORT int32_t psdrv_##name(uint32_t h, int32_t ch, type value) {          \
+    KELVRA_VIRTUAL_EXPORT int32_t psdrv_##name(uint32_t h, int32_t ch, type value) {        \
         return OnChannel(Operation::psdrv_##name, h, ch,                                    \
                          [&](VirtualBench&, Channel& channel, const Twist&) {               \
                              return channel.Set(Setting::name, static_cast<double>(value)); \
@@ -67,8 +67,8 @@ KELVRA_VIRTUAL_EXPORT VirtualBench* KelvraSharedBench() {
     }
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_init(const char* resource, int32_t /*idQuery*/, int32_t /*reset*/,
-                                       uint32_t* h) {
+KELVRA_VIRTUAL_EXPORT int32_t psdrv_init(const char* resource, int32_t /*idQuery*/,
+                                         int32_t /*reset*/, uint32_t* h) {
     return Call(Operation::psdrv_init, 1, [&](VirtualBench& bench, const Twist& twist) {
         if (h == nullptr) return Outcome{Status::MissingPointer};
         uint32_t handle = 0;
@@ -78,7 +78,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_init(const char* resource, int32_t /*idQuery
 }
 
 KELVRA_VIRTUAL_EXPORT int32_t psdrv_AddSensor(uint32_t h, int32_t ch, const char* resource,
-                                            int32_t /*idQuery*/, int32_t /*reset*/) {
+                                              int32_t /*idQuery*/, int32_t /*reset*/) {
     return Call(Operation::psdrv_AddSensor, ch, [&](VirtualBench& bench, const Twist&) {
         return bench.AddSensor(h, ch, TextOf(resource));
     });
@@ -114,13 +114,13 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_reset(uint32_t h, int32_t ch) {
 }
 
 KELVRA_VIRTUAL_EXPORT int32_t psdrv_tslot_configureTimeSlot(uint32_t h, int32_t ch, int32_t count,
-                                                          double width) {
+                                                            double width) {
     return SetTwo(Operation::psdrv_tslot_configureTimeSlot, h, ch, Setting::slotCount, count,
                   Setting::slotWidth, width);
 }
 
 KELVRA_VIRTUAL_EXPORT int32_t psdrv_timing_configureExclude(uint32_t h, int32_t ch, double start,
-                                                          double stop) {
+                                                            double stop) {
     return SetTwo(Operation::psdrv_timing_configureExclude, h, ch, Setting::excludeStart, start,
                   Setting::excludeStop, stop);
 }
@@ -139,7 +139,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_sendSoftwareTrigger(uint32_t h, int32_
 }
 
 KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isMeasurementComplete(uint32_t h, int32_t ch,
-                                                             uint16_t* complete) {
+                                                               uint16_t* complete) {
     return OnChannel(Operation::psdrv_chan_isMeasurementComplete, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          const bool done =
@@ -159,8 +159,9 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchMeasurement(uint32_t h, int32_t c
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchBufferMeasurement(uint32_t h, int32_t ch, int32_t size,
-                                                               double* values, int32_t* count) {
+KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchBufferMeasurement(uint32_t h, int32_t ch,
+                                                                 int32_t size, double* values,
+                                                                 int32_t* count) {
     return OnChannel(Operation::psdrv_meass_fetchBufferMeasurement, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          if (values == nullptr || count == nullptr)
@@ -193,7 +194,8 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_zero(uint32_t h, int32_t ch) {
 }
 
 // True also when no zeroing has been started.
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch, uint16_t* complete) {
+KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch,
+                                                        uint16_t* complete) {
     return OnChannel(Operation::psdrv_chan_isZeroComplete, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          const bool done = bench.Now() >= channel.zeroEnd;
@@ -217,7 +219,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infosCount(uint32_t h, int32_t ch, int3
 }
 
 KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infoHeader(uint32_t h, int32_t ch, int32_t index,
-                                                  int32_t size, char* text) {
+                                                    int32_t size, char* text) {
     return OnChannel(Operation::psdrv_chan_infoHeader, h, ch,
                      [&](VirtualBench&, Channel& channel, const Twist& twist) {
                          if (size < 1) return Outcome{Status::ValueOutOfRange, "buffer size"};

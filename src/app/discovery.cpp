@@ -4,7 +4,8 @@
 #include <algorithm>
 #include <string>
 
-#include "measure/command_buttons.h"
+#include "ui/command_buttons.h"
+#include "ui/connection_label.h"
 #include "util/number_text.h"
 
 namespace kelvra::app {
@@ -24,8 +25,7 @@ void Discovery::Search() {
 }
 
 void Discovery::Tick() {
-    changed_ = presenceChanged_ = vanished_ = false;
-    const std::vector<bool> enabledBefore = EnabledSlots();
+    changed_ = vanished_ = false;
     p_.catalogue.BuildDeviceList(p_.table);
     SaveWhatHasGone();
     SizeTable();
@@ -38,7 +38,8 @@ void Discovery::Tick() {
     if (changed_) Repaint();
     // The sensors that are left are found again by the next tick, from the first slot on.
     if (vanished_ && !p_.table.simulationMode) ReleasePresent();
-    if (presenceChanged_ || EnabledSlots() != enabledBefore) p_.selection.UpdateSensSelect();
+    p_.windows.lists.Refresh();
+    p_.windows.errorStrip.Refresh();
 }
 
 bool Discovery::Rests() const {
@@ -46,16 +47,7 @@ bool Discovery::Rests() const {
 }
 
 void Discovery::ShowConnection() {
-    const int connected = p_.catalogue.Connected();
-    controls::Label& label = p_.forms.mdiMain.ConSensors;
-    if (connected == 0) {
-        label.caption = "Simulation Mode";
-        label.fore = controls::Red;
-        return;
-    }
-    label.caption = util::TrimmedNumberText(std::int64_t{connected}) + " sensor" +
-                    (connected > 1 ? "s" : "") + " connected";
-    label.fore = controls::Green;
+    ui::ShowConnected(p_.forms.mdiMain, p_.catalogue.Connected());
 }
 
 const driver::DeviceListEntry* Discovery::DeviceOf(const SensorEntry& entry) const {
@@ -64,12 +56,6 @@ const driver::DeviceListEntry* Discovery::DeviceOf(const SensorEntry& entry) con
         return !device.resourceName.empty() && device.resourceName == entry.resourceName;
     });
     return found == devices.end() ? nullptr : &*found;
-}
-
-std::vector<bool> Discovery::EnabledSlots() const {
-    std::vector<bool> enabled;
-    for (const SensorEntry& entry : p_.table.entries) enabled.push_back(entry.enabled);
-    return enabled;
 }
 
 // When one sensor goes, all are saved, since all are assigned anew.
@@ -87,7 +73,7 @@ void Discovery::SaveWhatHasGone() {
         entry->slotStats.assign(1, {});
     }
     sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
-    changed_ = presenceChanged_ = vanished_ = true;
+    changed_ = vanished_ = true;
 }
 
 // A slot that still holds a sensor is not cut off; it is free by the next tick.
@@ -99,16 +85,15 @@ void Discovery::SizeTable() {
         if (!table[slot].resourceName.empty() && !table.simulationMode)
             slots = std::max(slots, slot + 1);
     // Rows below the new end would otherwise keep showing who was there.
-    for (int slot = slots + 1; slot < table.Slots(); ++slot) p_.results.PaintPresence(slot);
+    for (int slot = slots + 1; slot < table.Slots(); ++slot) p_.windows.results.PaintPresence(slot);
     table.Resize(slots);
 }
 
 void Discovery::RealSensors() {
-    measure::OfferSensorCommands(p_.forms.setupForm, true);
+    ui::OfferSensorCommands(p_.forms.setupForm, true);
     if (p_.table.simulationMode) {
         for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
         p_.table.deviceTableChanged = true;
-        presenceChanged_ = true;
     }
     p_.table.simulationMode = false;
     if (vanished_) return;
@@ -157,10 +142,10 @@ void Discovery::Appear(int slot, const driver::DeviceListEntry& device) {
     entry.present = true;
     entry.enabled = !p_.table.SwitchedOff(entry);
     p_.table.slotReadings[static_cast<std::size_t>(slot)] = {};
-    p_.results.ClearValues(slot);
+    p_.windows.results.ClearValues(slot);
     if (!currentBefore_.empty() && entry.sensorId == currentBefore_)
         p_.table.currentSensor = static_cast<std::int16_t>(slot);
-    changed_ = presenceChanged_ = true;
+    changed_ = true;
 }
 
 void Discovery::NameSensor(int slot, const driver::DeviceListEntry& device) {
@@ -173,24 +158,23 @@ void Discovery::NameSensor(int slot, const driver::DeviceListEntry& device) {
 }
 
 void Discovery::Simulation() {
-    measure::OfferSensorCommands(p_.forms.setupForm, false);
+    ui::OfferSensorCommands(p_.forms.setupForm, false);
     if (!p_.table.simulationMode || !p_.table[0].present) EnterSimulation();
     for (int slot = 2; slot < p_.table.Slots(); ++slot) {
         SensorEntry& entry = p_.table[slot];
-        if (entry.present) changed_ = presenceChanged_ = true;
+        if (entry.present) changed_ = true;
         sensors::ReleaseSlot(entry);
     }
 }
 
 void Discovery::EnterSimulation() {
-    p_.notices.ShowSensorError(false, 0, "", false);  // whose error it was has gone
     const struct {
         const char* name;
         const char* resource;
     } simulated[] = {{"SensSim1", "PS-101;"}, {"SensSim2", "PS-106;"}};
     int slot = 0;
     for (const auto& sensor : simulated) {
-        p_.results.ClearValues(slot);
+        p_.windows.results.ClearValues(slot);
         SensorEntry& entry = p_.table[slot++];
         sensors::ReleaseSlot(entry);
         entry.enabled = true;
@@ -200,7 +184,7 @@ void Discovery::EnterSimulation() {
         p_.table.RememberSwitch(entry);
     }
     p_.table.simulationMode = true;
-    changed_ = presenceChanged_ = true;
+    changed_ = true;
 }
 
 void Discovery::SwitchPresentOn() {
@@ -220,7 +204,7 @@ void Discovery::ReleasePresent() {
 
 // The spare element too: one empty row below the last slot.
 void Discovery::Repaint() {
-    for (int slot = 0; slot <= p_.table.Slots(); ++slot) p_.results.PaintPresence(slot);
+    for (int slot = 0; slot <= p_.table.Slots(); ++slot) p_.windows.results.PaintPresence(slot);
 }
 
 }  // namespace kelvra::app

@@ -18,7 +18,7 @@ constexpr Flag AllFlags[] = {
     {"DeviceTableChanged", [](const Kelvra& k) -> FlagValue { return k.table.deviceTableChanged; }},
     {"ConfigRunning", [](const Kelvra& k) -> FlagValue { return k.session.configRunning; }},
     {"ReconnectPrompt", [](const Kelvra& k) -> FlagValue { return k.session.reconnectPrompt; }},
-    {"ErrorShown", [](const Kelvra& k) -> FlagValue { return k.session.errorShown; }},
+    {"ErrorShown", [](const Kelvra& k) -> FlagValue { return k.windows.errorStrip.ErrorShown(); }},
     {"SessionClosed", [](const Kelvra& k) -> FlagValue { return k.session.sessionClosed; }},
     {"SensorSlotCount", [](const Kelvra& k) { return Whole(k.table.sensorSlotCount); }},
     {"CurrentSensor", [](const Kelvra& k) { return Whole(k.table.currentSensor); }},

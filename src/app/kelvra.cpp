@@ -7,34 +7,26 @@ Kelvra::Kelvra(platform::Host& hostToUse)
     : host(hostToUse),
       log(host.files, host.clock, host.computer.Numbers()),
       catalogue(library.deviceList),
-      errorStrip(forms, table, session),
-      driverSession(session, library.instrument, log, table, host, errorStrip),
-      selection(forms, table),
-      results(forms, table, selection),
-      transferEvents_(results, errorStrip),
-      transfer(driverSession, table, errorStrip, transferEvents_),
-      readings(driverSession, table, results, host),
-      calcGrid(forms.mdiMain, table, host),
-      store(host.files, log, forms.mdiMain),
-      mainWindow(forms, state, host),
-      cycle({forms, table, state, host, driverSession, transfer, errorStrip, selection, results,
-             readings, calcGrid, mainWindow}),
-      discovery({forms, table, catalogue, session, state, results, selection, errorStrip, store}),
-      sensorName_(forms, table, host, results, selection),
+      driverSession(session, library.instrument, log, table, host.clock, sessionNews.notices),
+      transfer(driverSession, table, sessionNews),
+      readings(driverSession, table, host.random),
+      cycle({table, state, host, driverSession, transfer, readings, news}),
+      recovery(
+          {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
+      windows(forms, table, state, cycle, host),
+      store(host.files, log, windows.notice),
+      discovery({forms, table, catalogue, session, state, windows, store}),
       settingsCommands_(forms, table, host) {
-    errorStrip.Connect({driverSession, transfer, cycle, state, host});
+    Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { Exit(); });
     forms.mdiMain.closeRequest.Connect([this] { Exit(); });
 }
 
-void Kelvra::TransferEvents::TransferBegins(int slot) {
-    strip_.TransferBegins();
-    results_.ShowState(slot, "CONF", controls::Yellow);
-}
-
-void Kelvra::TransferEvents::TransferEnds(int slot) {
-    results_.ShowState(slot, "", controls::White);
-    strip_.RecoverAfterTransfer(slot);
+// The recovery comes last: the windows have shown what it acts on.
+void Kelvra::Subscribe() {
+    windows.Subscribe(news, sessionNews);
+    sessionNews.notices.Add(recovery);
+    sessionNews.marks.Add(recovery);
 }
 
 }  // namespace kelvra::app

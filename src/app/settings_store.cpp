@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "measure/notice.h"
 #include "sensors/settings_file.h"
 #include "util/number_text.h"
 
@@ -66,7 +65,7 @@ void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
 std::string SettingsStore::Tell(const char* what, const std::error_code& error) {
     const std::string text =
         std::string("The settings could not be ") + what + ": " + iniPath + ": " + error.message();
-    measure::ShowNotice(window_, text);
+    notice_.ShowFileTrouble(iniPath, text);
     log_.Write(text);
     return text;
 }

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "app/kelvra.h"
-#include "measure/notice.h"
 #include "util/number_text.h"
 #include "util/text.h"
 
@@ -30,7 +29,7 @@ void Kelvra::Start() {
     place.top = (screen.height - place.height) / 6;
     forms.mdiMain.place = place;
     state.recordInterval = 0;
-    mainWindow.ApplyColourScheme();
+    windows.mainWindow.ApplyColourScheme();
     StartDebugLog();
     library.Load(host.computer, log);
     forms.mdiMain.caption = Title();
@@ -39,7 +38,7 @@ void Kelvra::Start() {
     forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();
     LayOutGrids();
-    mainWindow.PlaceWindows();
+    windows.mainWindow.PlaceWindows();
     for (int slot = 0; slot < table.Slots(); ++slot)
         table[slot].slotStats.assign(
             static_cast<std::size_t>(std::max<int>(table[slot].settings.TSlotCount, 1)), {});
@@ -51,8 +50,8 @@ void Kelvra::Start() {
 void Kelvra::StartDebugLog() {
     log.onFailure = [this](const std::string& path, const std::string& reason) {
         // No message box: lines are written in the middle of driver calls.
-        measure::ShowNotice(forms.mdiMain,
-                            "The debug log can't be written: " + path + ": " + reason);
+        windows.notice.ShowFileTrouble(path,
+                                       "The debug log can't be written: " + path + ": " + reason);
     };
     const std::string commandLine = util::UpperCase(host.computer.CommandLine());
     log.enabled = commandLine.find("DEBUG") != std::string::npos;
@@ -85,8 +84,8 @@ void Kelvra::CreateTable() {
 }
 
 void Kelvra::LayOutGrids() {
-    results.LayOut();
-    calcGrid.LayOut();
+    windows.results.LayOut();
+    windows.calcGrid.LayOut();
     controls::List& syncMode = forms.mdiMain.SensSyncMode;
     syncMode.Fill({{"Start Sync", 0}, {"Sequenced", 1}, {"Async", 2}});
     syncMode.SetIndex(2);
@@ -94,11 +93,9 @@ void Kelvra::LayOutGrids() {
 
 void Kelvra::StartDiscovery() {
     discovery.Search();
-    forms.setupForm.SensLogicalName.SetText(table[0].logicalName);
-    selection.UpdateSensSelect();
     table.deviceTableChanged = true;
     forms.mdiMain.SettingAlwaysOnTop.checked = true;
-    AlwaysOnTop(forms.setupForm, true);
+    ui::AlwaysOnTop(forms.setupForm, true);
 }
 
 }  // namespace kelvra::app

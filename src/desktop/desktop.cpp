@@ -3,14 +3,17 @@
 
 namespace kelvra::desktop {
 
-Desktop::Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dataFolder)
-    : preferences_(dataFolder),
+Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
+                 const std::string& dataFolder)
+    : events_(events),
+      preferences_(dataFolder),
       mirror_(kelvra.forms.changes),
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       zoom_(preferences_, main_.WindowMenu(), {&results_.Table(), &main_.Formulas()}) {
     dialogs.SetParent(&main_.Widget());
     main_.MirrorFrame();
+    events_.onRepaint = [this] { mirror_.PaintNow(); };
 }
 
 }  // namespace kelvra::desktop

@@ -77,7 +77,7 @@ int Run(QApplication& application, const options::Options& chosen) {
     app::Kelvra kelvra(host);
     ExitWhenAsked(application, kelvra);
     kelvra.Start();
-    const desktop::Desktop desktop(kelvra, dialogs, folder);
+    const desktop::Desktop desktop(kelvra, events, dialogs, folder);
     cutOff = &kelvra;
     std::atexit(ExitWhenCutOff);
     const int status = events.HasQuit() ? 0 : QApplication::exec();

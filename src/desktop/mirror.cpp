@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <chrono>
 
 namespace kelvra::desktop {
 
@@ -37,6 +36,14 @@ bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
         event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyPress;
     if (acts) timer_.start(std::chrono::milliseconds(0));
     return QObject::eventFilter(receiver, event);
+}
+
+void Mirror::PaintNow() {
+    const auto now = std::chrono::steady_clock::now();
+    if (now - lastPaint_ < FrameTime) return;
+    lastPaint_ = now;
+    Flush();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }
 
 void Mirror::Flush() {

@@ -40,7 +40,7 @@ void Session::OpenSensor(int slot) {
     const Status status = slot == 0 ? OpenFirst(resource) : AddFurther(slot, resource);
     if (state.instrumentHandle != 0) state.sessionClosed = false;
     // Without a handle there is no session, whatever the status says.
-    if (CheckStatus(status, true) || state.instrumentHandle == 0) return;
+    if (CheckStatus(status, slot) || state.instrumentHandle == 0) return;
     table_[slot].sessionOpen = true;
     table_[slot].waitTicks = 0;
 }
@@ -53,7 +53,7 @@ Status Session::OpenFirst(const std::string& resource) {
     const Status status =
         operations.psdrv_init(resource.c_str(), CheckIdentity, ResetDevice, &opened);
     if (status == 0) state.instrumentHandle = opened;
-    host_.clock.Sleep(OpeningPause);
+    clock_.Sleep(OpeningPause);
     ReportError(status, 0, "psdrv_init");
     if (log.enabled)
         log.Write("psdrv_init FINISHED -> instrumentHandle: " +
@@ -67,7 +67,7 @@ Status Session::AddFurther(int slot, const std::string& resource) {
                   Trimmed(ChannelOf(slot)) + ", " + resource + ", 1, 1) STARTING");
     const Status status = operations.psdrv_AddSensor(state.instrumentHandle, ChannelOf(slot),
                                                      resource.c_str(), CheckIdentity, ResetDevice);
-    host_.clock.Sleep(OpeningPause);
+    clock_.Sleep(OpeningPause);
     ReportError(status, slot, "psdrv_AddSensor");
     log.Write("psdrv_AddSensor FINISHED");
     if (status != 0) table_[slot].enabled = false;
@@ -114,14 +114,13 @@ std::string Session::Query(Status status, bool logged) {
     return query.Text();
 }
 
-bool Session::CheckStatus(Status status, bool closeOnError) {
+bool Session::CheckStatus(Status status, int slot) {
     std::string message;
     if (status != 0) {
         message = Message(status, true);
         const std::string query = Query(status, true);
-        host_.dialogs.Message({}, message + "\r\n(" + query + ")",
-                              platform::MessageIcon::Exclamation);
-        if (closeOnError) Close();
+        notices_.Tell(&SensorNotices::OpeningFailed, slot, message + "\r\n(" + query + ")");
+        Close();
     }
     state.reconnectPrompt = util::UpperCase(message).find("DESCRIPTOR") == std::string::npos;
     return status != 0;
@@ -139,7 +138,7 @@ void Session::ReportError(Status status, int slot, const char* context) {
     log.Write("   error_query: '" + query + "'");
     std::string& text = table_[slot].lastErrorText;
     text += std::string(context) + "\r\n  " + message + "\r\n  " + query + "\r\n";
-    notices_.ShowSensorError(true, slot, text, false);
+    notices_.Tell(&SensorNotices::SensorFailed, slot, text);
 }
 
 }  // namespace kelvra::driver

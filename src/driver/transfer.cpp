@@ -219,7 +219,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         const sensors::TableLock lock(table_);
         sensors::SensorEntry& entry = table_[slot];
         session_.state.configRunning = true;
-        marks_.TransferBegins(slot);
+        news_.marks.Tell(&TransferMarks::TransferBegins, slot);
         ResetChannel(session_, slot);
         entry.lastErrorText.clear();
         session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
@@ -238,11 +238,14 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         }
 
         session_.log.header.clear();
-        notices_.ShowSensorError(!entry.lastErrorText.empty(), slot, entry.lastErrorText, false);
+        if (entry.lastErrorText.empty())
+            news_.notices.Tell(&SensorNotices::SensorIsWell, slot);
+        else
+            news_.notices.Tell(&SensorNotices::SensorFailed, slot, entry.lastErrorText);
         entry.settingsChanged = false;
         session_.state.configRunning = false;
     }
-    marks_.TransferEnds(slot);
+    news_.marks.Tell(&TransferMarks::TransferEnds, slot);
 }
 
 }  // namespace kelvra::driver

@@ -2,7 +2,6 @@
 #include "measure/cycle.h"
 
 #include "driver/call_log.h"
-#include "measure/notice.h"
 #include "util/number_text.h"
 
 namespace kelvra::measure {
@@ -11,8 +10,8 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// How long a sensor may take before the notice says that it is waited for, and again.
-constexpr auto WaitingNoticeAfter = milliseconds(1000);
+// How long a sensor may take before its being waited for is news, and again.
+constexpr auto AwaitedAfter = milliseconds(1000);
 // A round in which nothing completed waits for an event instead of spinning.
 constexpr auto PollingPatience = milliseconds(1);
 constexpr std::int16_t LongestBar = 8;
@@ -21,7 +20,7 @@ constexpr std::int16_t LongestBar = 8;
 
 bool Cycle::Takes(int slot) const {
     const auto index = static_cast<std::size_t>(slot);
-    return index < measured_.size() && measured_[index] && p_.table[slot].present;
+    return index < run_.measured.size() && run_.measured[index] && p_.table[slot].present;
 }
 
 void Cycle::Pass() {
@@ -32,22 +31,21 @@ void Cycle::Pass() {
         if (!prepared || p_.state.Ending()) return;
     }
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
+    const auto& listeners = p_.news.measurement;
     const platform::Duration began = p_.host.clock.Monotonic();
-    speed_.Restart(began);
     Initiate();
-    p_.forms.mdiMain.FileSaveData.enabled = true;
+    listeners.Tell(&MeasurementListener::PassStarted, began);
     Poll(began);
     if (p_.state.Ending()) return;
-    speed_.UpdateSpeedAndBusy();
+    listeners.Tell(&MeasurementListener::PassComplete);
     Fetch();
-    p_.calcGrid.Compute();
+    listeners.Tell(&MeasurementListener::PassMeasured);
     p_.host.events.DoEvents();
     if (p_.state.exiting) return;
-    if (!p_.session.state.errorShown) HideNotice(p_.forms.mdiMain);
+    listeners.Tell(&MeasurementListener::PassSeen);
     pacing_.WaitForDeadline();
     if (p_.state.exiting) return;
-    // What was shown while waiting is over; an error stays to be read.
-    if (!p_.session.state.errorShown) p_.forms.mdiMain.lblMeasAwait.caption = " ";
+    listeners.Tell(&MeasurementListener::PassEnded);
     ++p_.state.passes;
 }
 
@@ -58,7 +56,7 @@ bool Cycle::PrepareSlot(int slot) {
         p_.session.OpenSensor(slot);
         if (p_.state.exiting) return false;
         if (!p_.table[slot].sessionOpen) {
-            ShowSwitch(slot);
+            TellSwitchedOff(slot);
             TakeOut(slot);
             return false;
         }
@@ -74,14 +72,14 @@ bool Cycle::PrepareSlot(int slot) {
     sensors::SensorEntry& entry = p_.table[slot];
     entry.measPending = 1;
     ++entry.waitTicks;
-    p_.results.ShowActivity(slot, true);
+    p_.news.slot.Tell(&SlotListener::SlotStarted, slot);
     return true;
 }
 
 // What can't be opened again isn't tried in every pass, with a message each time. Without slot 0
 // there is no session for the others.
 void Cycle::TakeOut(int slot) {
-    measured_[static_cast<std::size_t>(slot)] = false;
+    run_.measured[static_cast<std::size_t>(slot)] = false;
     if (slot == 0) Stop();
 }
 
@@ -104,7 +102,7 @@ void Cycle::Initiate() {
 
 // One reading of the clock serves a round, and the first round has that of the pass.
 void Cycle::Poll(platform::Duration began) {
-    lastNotice_ = began;
+    run_.lastAwaited = began;
     bool allDone = false;
     for (platform::Duration now = began; !allDone && !p_.state.Ending();) {
         allDone = true;
@@ -125,7 +123,7 @@ bool Cycle::PollSlot(int slot, platform::Duration now) {
     if (!p_.table.simulationMode && !AskWhetherComplete(slot, now)) return false;
     sensors::SensorEntry& entry = p_.table[slot];
     entry.measPending = 0;
-    p_.results.ShowActivity(slot, false);
+    p_.news.slot.Tell(&SlotListener::SlotComplete, slot);
     if (entry.waitTicks >= LongestBar) entry.waitTicks = 0;
     return true;
 }
@@ -147,17 +145,15 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
     if (log.enabled)
         log.Write(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
-    ShowWaiting(slot, status, now);
+    TellAwaited(slot, status, now);
     return complete != 0;
 }
 
-void Cycle::ShowWaiting(int slot, driver::Status status, platform::Duration now) {
-    if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.errorShown) return;
-    std::string text = "Waiting for a trigger signal at sensor " +
-                       util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
-    if (status != 0) text += ": " + p_.session.MessageFor(status);
-    ShowNotice(p_.forms.mdiMain, std::move(text));
-    lastNotice_ = now;
+void Cycle::TellAwaited(int slot, driver::Status status, platform::Duration now) {
+    if (now - run_.lastAwaited <= AwaitedAfter) return;
+    run_.lastAwaited = now;
+    const std::string complaint = status == 0 ? std::string() : p_.session.MessageFor(status);
+    p_.news.measurement.Tell(&MeasurementListener::Awaited, slot, complaint);
 }
 
 void Cycle::Fetch() {
@@ -167,21 +163,22 @@ void Cycle::Fetch() {
 }
 
 void Cycle::FetchSlot(int slot) {
-    switch (p_.table[slot].settings.Mode) {
+    sensors::SensorEntry& entry = p_.table[slot];
+    switch (entry.settings.Mode) {
         case sensors::ContinuousAverage:
         case sensors::Burst:
-            p_.results.SetTableMark(slot, true);
             p_.readings.GetSingleReading(slot);
+            p_.news.slot.Tell(&SlotListener::ReadingArrived, slot);
             break;
         case sensors::TimeSlot:
-            p_.results.SetTableMark(slot, false);
             p_.readings.GetMultiReading(slot);
-            p_.table[slot].newSlotData = true;
+            entry.newSlotData = true;
+            p_.news.slot.Tell(&SlotListener::ArrayArrived, slot);
             break;
         case sensors::Trace:
-            p_.results.SetTableMark(slot, false);
             p_.readings.GetMultiReading(slot);
-            p_.table[slot].newTraceData = true;
+            entry.newTraceData = true;
+            p_.news.slot.Tell(&SlotListener::ArrayArrived, slot);
             break;
         default:  // a buffered result is not fetched in the pass
             break;

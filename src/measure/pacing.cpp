@@ -2,9 +2,6 @@
 #include "measure/pacing.h"
 
 #include <chrono>
-#include <string>
-
-#include "util/number_text.h"
 
 namespace kelvra::measure {
 
@@ -16,7 +13,6 @@ namespace {
 constexpr auto Pause = milliseconds(1);
 // A pass that began this much behind the last deadline has lost the spacing.
 constexpr auto Slack = milliseconds(50);
-constexpr int NoSlot = 0;  // general messages name no sensor
 
 }  // namespace
 
@@ -42,18 +38,11 @@ void Pacing::WaitForDeadline() {
         if (left <= platform::Duration::zero()) break;
         host_.events.DoEvents();
         if (state_.Ending()) return;
-        ShowDelay(left);
+        news_.measurement.Tell(&MeasurementListener::PassWaits, left);
         host_.clock.Sleep(Pause);
     }
     const bool reached = host_.clock.Monotonic() >= deadline;
     lastDeadline_ = keepsUp && reached ? std::optional(deadline) : std::nullopt;
-}
-
-void Pacing::ShowDelay(platform::Duration left) {
-    const auto whole = std::chrono::ceil<seconds>(left).count();
-    notices_.ShowSensorError(
-        true, NoSlot, "Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}) + "    ",
-        true);
 }
 
 }  // namespace kelvra::measure

@@ -7,14 +7,11 @@
 
 #include "driver/call_log.h"
 #include "measure/simulation.h"
-#include "util/levels.h"
 #include "util/number_text.h"
 
 namespace kelvra::measure {
 
 namespace {
-
-using controls::Align;
 
 std::string Number(std::int32_t value) {
     return util::NumberText(std::int64_t{value});
@@ -43,22 +40,14 @@ void Readings::GetSingleReading(int slot) {
     const sensors::TableLock lock(table_);
     sensors::SensorEntry& entry = table_[slot];
     if (table_.simulationMode)
-        entry.lastReading = SimulatedReading(slot, host_.random);
+        entry.lastReading = SimulatedReading(slot, random_);
     else
         FetchScalar(slot);
 
-    const util::NumberForm& form = host_.computer.Numbers();
     entry.history.Add(entry.lastReading);
-    const double levelDbm = entry.history.LastLevel();
-    results_.SetValue(slot, WattColumn, util::ScientificFigure(entry.lastReading, form),
-                      Align::Left);
-    results_.SetValue(slot, DbmColumn, util::FixedFigure(levelDbm, form), Align::Left);
     if (!table_.simulationMode)
-        table_.slotReadings[static_cast<std::size_t>(slot)] = {entry.lastReading, levelDbm};
-    results_.SetValue(slot, CountColumn, util::CountFigure(entry.avgCountRead, form),
-                      Align::Centre);
-    if (const auto sigma = entry.history.Sigma())
-        results_.SetValue(slot, SigmaColumn, util::FixedFigure(*sigma, form), Align::Centre);
+        table_.slotReadings[static_cast<std::size_t>(slot)] = {entry.lastReading,
+                                                               entry.history.LastLevel()};
 }
 
 void Readings::FetchScalar(int slot) {
@@ -80,7 +69,7 @@ void Readings::GetMultiReading(int slot) {
     results.assign(ArraySize, 0.0);
     int count = 0;
     if (table_.simulationMode) {
-        const auto values = SimulatedArray(table_[slot].settings, ArraySize, host_.random);
+        const auto values = SimulatedArray(table_[slot].settings, ArraySize, random_);
         std::copy(values.begin(), values.end(), results.begin());
         count = static_cast<int>(values.size());
     } else {

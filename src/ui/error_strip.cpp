@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/error_strip.h"
 
-#include <algorithm>
-#include <string_view>
-
-#include "measure/notice.h"
 #include "util/text.h"
 
 namespace kelvra::ui {
@@ -13,15 +9,6 @@ namespace {
 
 constexpr int OpenHeight = 2835;  // twips, of the dialog's header with the strip
 constexpr int ClosedHeight = forms::SetupForm::HeaderHeight;
-constexpr std::size_t GeneralTail = 4;
-
-// The driver's complaint about its first parameter, the session handle.
-constexpr std::string_view HandleComplaint = "arameter 1 out of";
-
-std::string ShownPart(const std::string& text, bool isGeneral) {
-    if (isGeneral) return text.substr(0, text.size() - std::min(text.size(), GeneralTail));
-    return std::string(util::TrimLineBreaks(text));
-}
 
 void SetHeaderHeight(controls::Frame& header, int height) {
     controls::Geometry place = header.place;
@@ -31,55 +18,32 @@ void SetHeaderHeight(controls::Frame& header, int height) {
 
 }  // namespace
 
-void ErrorStrip::ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) {
-    if (table_.simulationMode) return;
-    if (isError)
-        Show(slot, ShownPart(text, isGeneral), isGeneral);
-    else
-        Clear();
-    if (text.find(HandleComplaint) != std::string::npos) handleRefused_ = true;
-}
-
-void ErrorStrip::Show(int slot, const std::string& text, bool isGeneral) {
-    if (isGeneral && session_.errorShown) return;  // an error stays to be read
-    const std::string named = table_[slot].logicalName + ": " + text;
-    if (!isGeneral) session_.errorShown = true;
-    measure::ShowNotice(forms_.mdiMain, isGeneral ? text : named);
-    forms_.setupForm.lblInputError.caption = named;
-    SetHeaderHeight(forms_.setupForm.Frame1, OpenHeight);
-}
-
-void ErrorStrip::Clear() {
-    session_.errorShown = false;
-    measure::HideNotice(forms_.mdiMain);
-    forms_.setupForm.lblInputError.caption = "";
-    SetHeaderHeight(forms_.setupForm.Frame1, ClosedHeight);
-}
-
-// The session first, which slot 0 opens; then the sensor that met the complaint.
-bool ErrorStrip::Reopen(int slot) {
-    recovery_->session.Close();
-    for (const int opened : {0, slot}) {
-        if (recovery_->state.exiting || table_[opened].sessionOpen) continue;
-        recovery_->session.OpenSensor(opened);
+void ErrorStrip::Refresh() {
+    for (int slot = 0; slot < table_.Slots(); ++slot) {
+        const sensors::SensorEntry& entry = table_[slot];
+        if (table_.simulationMode || entry.lastErrorText.empty()) continue;
+        return Open(entry.logicalName + ": " +
+                    std::string(util::TrimLineBreaks(entry.lastErrorText)));
     }
-    if (recovery_->state.exiting || !table_[slot].sessionOpen) return false;
-    recovery_->transfer.ConfigureSensor(slot);
-    return true;
+    Close();
 }
 
-void ErrorStrip::RecoverAfterTransfer(int slot) {
-    if (!handleRefused_ || !recovery_ || recoveredInStart_ == recovery_->state.starts) return;
-    recoveredInStart_ = recovery_->state.starts;
-    Clear();
-    const bool reopened = Reopen(slot);
-    if (recovery_->state.exiting) return;
-    recovery_->cycle.Stop();
-    measure::ShowNotice(forms_.mdiMain,
-                        std::string("The driver session was lost and ") +
-                            (reopened ? "has been opened again" : "could not be opened again") +
-                            ". The measurement, and a recording, has ended.");
-    recovery_->host.events.DoEvents();
+void ErrorStrip::OpeningFailed(int /*slot*/, const std::string& text) {
+    dialogs_.Message({}, text, platform::MessageIcon::Exclamation);
+}
+
+void ErrorStrip::Open(const std::string& text) {
+    errorShown_ = true;
+    notice_.ShowError(text);
+    dialog_.lblInputError.caption = text;
+    SetHeaderHeight(dialog_.Frame1, OpenHeight);
+}
+
+void ErrorStrip::Close() {
+    errorShown_ = false;
+    notice_.ShowError({});
+    dialog_.lblInputError.caption = "";
+    SetHeaderHeight(dialog_.Frame1, ClosedHeight);
 }
 
 }  // namespace kelvra::ui

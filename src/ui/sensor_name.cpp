@@ -14,10 +14,15 @@ constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
 }  // namespace
 
 SensorName::SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
-                       measure::ResultTable& results, measure::SensorSelection& selection)
-    : forms_(forms), table_(table), host_(host), results_(results), selection_(selection) {
+                       ResultTable& results, SensorSelection& selection, SelectionLists& lists)
+    : forms_(forms), table_(table), host_(host), results_(results), lists_(lists) {
+    selection.listeners.Add(*this);
     forms_.setupForm.SensLogicalName.commit.Connect(
         [this] { StoreLogicalName(table_.currentSensor); });
+}
+
+void SensorName::CurrentSensorChanged() {
+    forms_.setupForm.SensLogicalName.SetText(table_[table_.currentSensor].logicalName);
 }
 
 void SensorName::StoreLogicalName(int slot) {
@@ -31,7 +36,7 @@ void SensorName::StoreLogicalName(int slot) {
         host_.computer.WriteRegistry(NamesKey, entry.sensorId,
                                      std::string(util::TrimSpaces(entry.logicalName)));
     if (entry.enabled) results_.PaintName(slot);
-    selection_.UpdateSensSelect();
+    lists_.Refresh();
 }
 
 }  // namespace kelvra::ui

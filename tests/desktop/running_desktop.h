@@ -51,7 +51,7 @@ public:
               {drivers_.path().toStdString(), data.path().toStdString(), {}, 1, false, {}}, {}),
           host_(surroundings_.HostWith(events, dialogs_)),
           kelvra(host_),
-          desktop(Started(kelvra), dialogs_, data.path().toStdString()) {
+          desktop(Started(kelvra), events, dialogs_, data.path().toStdString()) {
         QApplication::setActiveWindow(&Main());
         QCoreApplication::processEvents();
     }

@@ -20,6 +20,8 @@ class DriverTest : public testing::Test, public SensorNotices, public TransferMa
 protected:
     DriverTest() {
         test::FakeDriver::PutInto(operations_, test::FakeDriver::InstrumentFunctions());
+        news_.notices.Add(*this);
+        news_.marks.Add(*this);
         log_.path = folder_.Path("log");
         log_.enabled = true;
         table_.Resize(8);
@@ -30,8 +32,12 @@ protected:
         }
     }
 
-    void ShowSensorError(bool isError, int slot, const std::string& text, bool) override {
-        shown_.push_back((isError ? "show " : "clear ") + std::to_string(slot) + " " + text);
+    void SensorFailed(int slot, const std::string& text) override {
+        told_.push_back("failed " + std::to_string(slot) + " " + text);
+    }
+    void SensorIsWell(int slot) override { told_.push_back("well " + std::to_string(slot)); }
+    void OpeningFailed(int slot, const std::string& text) override {
+        told_.push_back("opening failed " + std::to_string(slot) + " " + text);
     }
     void TransferBegins(int slot) override { marks_.push_back("begins " + std::to_string(slot)); }
     void TransferEnds(int slot) override { marks_.push_back("ends " + std::to_string(slot)); }
@@ -55,13 +61,14 @@ protected:
     std::unique_ptr<platform::Files> files_ = platform::NativeFiles();
     test::FakeHost fake_{*files_};
     test::FakeDriver driver_;
+    SessionNews news_;
     SessionState state_;
     InstrumentOperations operations_;
     sensors::SensorTable table_;
     DebugLog log_{*files_, fake_.clock, fake_.computer.numbers};
-    Session session_{state_, operations_, log_, table_, fake_.host, *this};
-    ConfigurationTransfer transfer_{session_, table_, *this, *this};
-    Lines shown_;
+    Session session_{state_, operations_, log_, table_, fake_.clock, news_.notices};
+    ConfigurationTransfer transfer_{session_, table_, news_};
+    Lines told_;
     Lines marks_;
 };
 

@@ -39,9 +39,8 @@ TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
     EXPECT_EQ(state_.instrumentHandle, 0U);
     EXPECT_FALSE(table_[0].sessionOpen);
     EXPECT_EQ(driver_.Count("psdrv_close"), 0);
-    EXPECT_EQ(fake_.dialogs.messages,
-              (std::vector<test::FakeDialogs::Shown>{{"", "bad value\r\n(queue empty)"}}));
-    EXPECT_EQ(shown_, Lines{"show 0 psdrv_init\r\n  bad value\r\n  queue empty\r\n"});
+    EXPECT_EQ(told_, (Lines{"failed 0 psdrv_init\r\n  bad value\r\n  queue empty\r\n",
+                            "opening failed 0 bad value\r\n(queue empty)"}));
     EXPECT_EQ(LogLines(),
               (Lines{"psdrv_init(USB::1, 1, 1, 0) STARTING",
                      "   ERROR: Session  0, Code -5=0xFFFFFFFB", "   error_message: bad value",
@@ -83,7 +82,7 @@ TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
         operations_.whyNotLoaded = "no such file";
         Fail("psdrv_init", status);
         session_.OpenSensor(0);
-        EXPECT_EQ(fake_.dialogs.messages.back().text, text);
+        EXPECT_EQ(told_.back(), "opening failed 0 " + text);
         EXPECT_FALSE(table_[0].sessionOpen);
     }
 }

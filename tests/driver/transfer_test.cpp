@@ -203,16 +203,16 @@ TEST_F(TransferTest, ShowsItsErrorsAtOnceAndAgainAtItsEndElseClearsTheStrip) {
     Fail("psdrv_trigger_setCount", 7);
     driver_.onCall = [this](std::string_view) { EXPECT_TRUE(state_.configRunning); };
     transfer_.ConfigureSensor(0);
-    const std::string error = "show 0 Trigger Count\r\n  bad value\r\n  queue empty\r\n";
-    EXPECT_EQ(shown_, (Lines{error, error}));
+    const std::string error = "failed 0 Trigger Count\r\n  bad value\r\n  queue empty\r\n";
+    EXPECT_EQ(told_, (Lines{error, error}));
     EXPECT_FALSE(table_[0].settingsChanged);
     EXPECT_FALSE(state_.configRunning);
     EXPECT_EQ(log_.header, "");
     EXPECT_EQ(marks_, (Lines{"begins 0", "ends 0"}));
-    shown_.clear();
+    told_.clear();
     driver_.status = nullptr;
     transfer_.ConfigureSensor(0);
-    EXPECT_EQ(shown_, Lines{"clear 0 "});
+    EXPECT_EQ(told_, Lines{"well 0"});
 }
 
 }  // namespace kelvra::driver

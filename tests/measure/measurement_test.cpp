@@ -5,19 +5,15 @@
 #include <cmath>
 
 #include "support/whole_kelvra.h"
+#include "ui/result_columns.h"
 
 namespace kelvra::measure {
 
-using controls::Green;
-using controls::Grey;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 class MeasurementTest : public testing::Test, public test::WholeKelvra {
 protected:
-    void Click(int row, int column) {
-        program->forms.statusForm.ResultGrid.click.Raise(row, column);
-    }
     bool WasCalled(const std::string& call) const {
         return std::count(driver.calls.begin(), driver.calls.end(), call) > 0;
     }
@@ -50,38 +46,6 @@ TEST_F(MeasurementTest, ATriggerIsSentForARequestOfThePassThatWaits) {
     EXPECT_EQ(program->state.passes, 2);
 }
 
-TEST_F(MeasurementTest, AClickOnAPresentSensorsNameSwitchesItAndNothingElseDoes) {
-    StartWith(1);
-    const std::tuple<int, int, bool> clicks[] = {
-        {1, WattColumn, true}, {2, NameColumn, true},  {0, NameColumn, true},
-        {9, NameColumn, true}, {-1, NameColumn, true}, {1, NameColumn, false},
-        {1, NameColumn, true},
-    };
-    for (const auto& [row, column, enabled] : clicks) {
-        Click(row, column);
-        EXPECT_EQ(program->table[0].enabled, enabled) << row << column;
-        EXPECT_EQ(Cell(0, NameColumn).look.back, enabled ? Green : Grey);
-        EXPECT_FALSE(program->table[1].enabled);
-    }
-}
-
-TEST_F(MeasurementTest, APressSelectsWithoutSwitchingAndAnUnlistedSensorLeavesNoEntrySelected) {
-    StartWith(2);
-    auto& grid = program->forms.statusForm.ResultGrid;
-    auto& list = program->forms.setupForm.SensSelect;
-    grid.mouseDown.Raise(2, NameColumn);
-    EXPECT_EQ(program->table.currentSensor, 1);
-    EXPECT_EQ(list.Text(), "B");
-    EXPECT_EQ(program->forms.setupForm.SensLogicalName.Text(), "B");
-    EXPECT_TRUE(program->table[1].enabled);
-    Click(1, NameColumn);
-    program->selection.UpdateSensSelect();
-    EXPECT_EQ(list.Items(), (std::vector<controls::List::Item>{{"B", 1}}));
-    grid.mouseDown.Raise(1, NameColumn);
-    EXPECT_EQ(program->table.currentSensor, 0);
-    EXPECT_EQ(list.Index(), -1);
-}
-
 TEST_F(MeasurementTest, ChangedSettingsAreSentBeforeTheNextMeasurement) {
     StartWith(1);
     fake.events.onRound = [&](int) {
@@ -111,11 +75,11 @@ TEST_F(MeasurementTest, AReadingIsShownWhateverItIs) {
         driver.reading = reading;
         driver.averagingCount = count;
         Measure(35);
-        EXPECT_EQ(Cell(0, WattColumn).Text(), watts);
-        EXPECT_EQ(Cell(0, DbmColumn).Text(), dbm);
-        EXPECT_EQ(Cell(0, CountColumn).Text(), std::to_string(count));
-        EXPECT_EQ(Cell(0, SigmaColumn).Text(), std::isfinite(reading) ? "0.000" : "NaN");
-        EXPECT_EQ(Cell(0, WattColumn).look.back, controls::White);
+        EXPECT_EQ(Cell(0, ui::WattColumn).Text(), watts);
+        EXPECT_EQ(Cell(0, ui::DbmColumn).Text(), dbm);
+        EXPECT_EQ(Cell(0, ui::CountColumn).Text(), std::to_string(count));
+        EXPECT_EQ(Cell(0, ui::SigmaColumn).Text(), std::isfinite(reading) ? "0.000" : "NaN");
+        EXPECT_EQ(Cell(0, ui::WattColumn).look.back, controls::White);
     }
     driver.reading = 0.001;
     Measure(1);
@@ -139,7 +103,7 @@ TEST_F(MeasurementTest, AnArrayHasAsManyValuesAsCame) {
             ASSERT_EQ(results.size(), kept) << values;
             EXPECT_EQ(results[0], values > 0 ? 0.5 : 0);
         }
-        EXPECT_EQ(Cell(0, WattColumn).look.back, controls::Grey);
+        EXPECT_EQ(Cell(0, ui::WattColumn).look.back, controls::Grey);
     }
 }
 
@@ -197,7 +161,7 @@ TEST_F(MeasurementTest, TheNoticeCountsTheSecondsThatAreLeftAndIsNoError) {
             EXPECT_TRUE(window.ConnectedFrame.visible);
             seen.push_back(Notice());
         }
-        EXPECT_FALSE(program->session.errorShown);
+        EXPECT_FALSE(program->windows.errorStrip.ErrorShown());
         if (program->state.passes == 1) PressStop();
     };
     program->state.recordInterval = 3;

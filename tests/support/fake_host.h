@@ -36,6 +36,8 @@ public:
         if (onRound) onRound(rounds);
         if (!quit) timers_.RunDue(clock_.Monotonic());
     }
+    void Repaint() override { ++repaints; }
+    int repaints = 0;
     TimerId StartTimer(std::chrono::milliseconds interval, std::function<void()> handler) override {
         return timers_.Start(clock_.Monotonic(), interval, std::move(handler));
     }

@@ -8,11 +8,10 @@
 #include <vector>
 
 #include "app/settings_store.h"
+#include "app/windows.h"
 #include "driver/device_list.h"
 #include "driver/session.h"
 #include "forms/forms.h"
-#include "measure/result_table.h"
-#include "measure/sensor_selection.h"
 #include "measure/state.h"
 #include "sensors/sensor_table.h"
 
@@ -24,9 +23,7 @@ struct DiscoveryParts {
     driver::DeviceCatalogue& catalogue;
     driver::SessionState& session;
     measure::MeasureState& state;
-    measure::ResultTable& results;
-    measure::SensorSelection& selection;
-    driver::SensorNotices& notices;
+    Windows& windows;
     SettingsStore& store;
 };
 
@@ -54,14 +51,12 @@ private:
     void ReleasePresent();
     void Repaint();
     const driver::DeviceListEntry* DeviceOf(const sensors::SensorEntry& entry) const;
-    std::vector<bool> EnabledSlots() const;
 
     DiscoveryParts p_;
     bool running_ = false;
-    std::string currentBefore_;     // SensorId of the current sensor when all were released
-    bool changed_ = false;          // in this tick: the table is to be painted
-    bool presenceChanged_ = false;  // in this tick: the lists are to be filled
-    bool vanished_ = false;         // in this tick: a known sensor has gone
+    std::string currentBefore_;  // SensorId of the current sensor when all were released
+    bool changed_ = false;       // in this tick: the table is to be painted
+    bool vanished_ = false;      // in this tick: a known sensor has gone
 };
 
 }  // namespace kelvra::app

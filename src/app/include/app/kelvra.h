@@ -4,25 +4,22 @@
 #pragma once
 
 #include "app/discovery.h"
-#include "app/main_window.h"
 #include "app/settings_commands.h"
 #include "app/settings_store.h"
+#include "app/windows.h"
 #include "driver/debug_log.h"
 #include "driver/device_list.h"
 #include "driver/driver_library.h"
 #include "driver/session.h"
 #include "driver/transfer.h"
 #include "forms/forms.h"
-#include "measure/calc_grid.h"
 #include "measure/cycle.h"
+#include "measure/listener.h"
 #include "measure/readings.h"
-#include "measure/result_table.h"
-#include "measure/sensor_selection.h"
+#include "measure/session_recovery.h"
 #include "measure/state.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
-#include "ui/error_strip.h"
-#include "ui/sensor_name.h"
 
 namespace kelvra::app {
 
@@ -46,48 +43,30 @@ public:
     sensors::SensorTable table;
     driver::SessionState session;
     measure::MeasureState state;
+    measure::News news;
 
     // Rooms, in the order in which they need each other
     driver::DebugLog log;
     driver::DriverLibrary library;
     driver::DeviceCatalogue catalogue;
-    ui::ErrorStrip errorStrip;
+    driver::SessionNews sessionNews;
     driver::Session driverSession;
-    measure::SensorSelection selection;
-    measure::ResultTable results;
-
-private:
-    // Marks a transfer in the result table, and lets the error strip act on how it went.
-    class TransferEvents final : public driver::TransferMarks {
-    public:
-        TransferEvents(measure::ResultTable& results, ui::ErrorStrip& strip)
-            : results_(results), strip_(strip) {}
-        void TransferBegins(int slot) override;
-        void TransferEnds(int slot) override;
-
-    private:
-        measure::ResultTable& results_;
-        ui::ErrorStrip& strip_;
-    };
-    TransferEvents transferEvents_;
-
-public:
     driver::ConfigurationTransfer transfer;
     measure::Readings readings;
-    measure::CalcGrid calcGrid;
-    SettingsStore store;
-    MainWindow mainWindow;
     measure::Cycle cycle;
+    measure::SessionRecovery recovery;
+    Windows windows;
+    SettingsStore store;
     Discovery discovery;
 
 private:
+    void Subscribe();
     void StartDebugLog();
     std::string Title();
     void CreateTable();
     void LayOutGrids();
     void StartDiscovery();
 
-    ui::SensorName sensorName_;
     SettingsCommands settingsCommands_;
 };
 

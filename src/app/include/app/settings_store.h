@@ -11,17 +11,17 @@
 #include <vector>
 
 #include "driver/debug_log.h"
-#include "forms/main_window.h"
 #include "platform/files.h"
 #include "platform/profile_file.h"
 #include "sensors/sensor_table.h"
+#include "ui/notice.h"
 
 namespace kelvra::app {
 
 class SettingsStore {
 public:
-    SettingsStore(platform::Files& files, driver::DebugLog& log, forms::MDIMain& window)
-        : files_(files), log_(log), window_(window) {}
+    SettingsStore(platform::Files& files, driver::DebugLog& log, ui::Notice& notice)
+        : files_(files), log_(log), notice_(notice) {}
 
     std::string iniPath;
 
@@ -39,7 +39,7 @@ private:
 
     platform::Files& files_;
     driver::DebugLog& log_;
-    forms::MDIMain& window_;
+    ui::Notice& notice_;
     std::map<std::string, sensors::SensorSettings> unsaved_;  // by SensorId
     std::set<std::string> unread_;                            // SensorIds
     std::string saveFailure_;

@@ -37,6 +37,7 @@ public:
     void Connect(EventSource& source) { source_ = &source; }
 
     void DoEvents(std::chrono::milliseconds patience) override;
+    void Repaint() override {}
     TimerId StartTimer(std::chrono::milliseconds interval, std::function<void()> handler) override;
     void StopTimer(TimerId timer) override { timers_.Stop(timer); }
     void Quit() override {

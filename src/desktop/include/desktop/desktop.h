@@ -18,13 +18,18 @@ namespace kelvra::desktop {
 // The windows of a Kelvra. Best made when start-up is over, so that nothing is drawn twice.
 class Desktop {
 public:
-    Desktop(app::Kelvra& kelvra, QtDialogs& dialogs, const std::string& dataFolder);
+    Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
+            const std::string& dataFolder);
+    ~Desktop() { events_.onRepaint = nullptr; }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
 
     Mirror& Painter() { return mirror_; }
     MainWindowView& Main() { return main_; }
     ResultWindowView& Results() { return results_; }
 
 private:
+    QtEvents& events_;
     Preferences preferences_;
     Mirror mirror_;
     MainWindowView main_;

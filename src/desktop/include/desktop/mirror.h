@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 #include <unordered_map>
 
@@ -24,6 +25,8 @@ public:
 
     // Shows everything that has changed, now.
     void Flush();
+    // The same, painted without delivering input; at most as often as by itself.
+    void PaintNow();
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -32,6 +35,7 @@ private:
     controls::Changes& changes_;
     std::unordered_map<const controls::Control*, std::unique_ptr<Adapter>> adapters_;
     QTimer timer_;
+    std::chrono::steady_clock::time_point lastPaint_{};
 };
 
 }  // namespace kelvra::desktop

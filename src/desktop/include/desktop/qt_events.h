@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
 
 #include "platform/clock.h"
 #include "platform/events.h"
@@ -20,9 +21,15 @@ public:
     // Delivers the toolkit's events. A measurement that runs thousands of passes a second asks far
     // more often than a person can act, so events are delivered at most once in a millisecond.
     void DoEvents(std::chrono::milliseconds patience) override;
+    void Repaint() override {
+        if (onRepaint) onRepaint();
+    }
     TimerId StartTimer(std::chrono::milliseconds interval, std::function<void()> handler) override;
     void StopTimer(TimerId timer) override;
     void Quit() override;
+
+    // Paints what has changed; the windows provide it.
+    std::function<void()> onRepaint;
 
     bool HasQuit() const { return quit_; }
 

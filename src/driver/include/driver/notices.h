@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the driver room tells upwards. The windows' rules plug in here.
+// What the driver room tells upwards: how sensors are, and when one gets its settings.
 #pragma once
 
 #include <string>
+
+#include "util/listeners.h"
 
 namespace kelvra::driver {
 
@@ -10,10 +12,13 @@ class SensorNotices {
 public:
     virtual ~SensorNotices() = default;
 
-    // Shows an error text of a slot's sensor, or clears what is shown. A general message is one of
-    // the program's own and gets no sensor name in front.
-    virtual void ShowSensorError(bool isError, int slot, const std::string& text,
-                                 bool isGeneral) = 0;
+    // A call for the slot's sensor has failed. The text has all that its current transfer, or
+    // opening, has met so far.
+    virtual void SensorFailed(int /*slot*/, const std::string& /*text*/) {}
+    // What was reported of the slot's sensor is over.
+    virtual void SensorIsWell(int /*slot*/) {}
+    // Its channel could not be opened; the driver's words. The session ends.
+    virtual void OpeningFailed(int /*slot*/, const std::string& /*text*/) {}
 };
 
 class TransferMarks {
@@ -22,6 +27,11 @@ public:
 
     virtual void TransferBegins(int slot) = 0;
     virtual void TransferEnds(int slot) = 0;
+};
+
+struct SessionNews {
+    util::Listeners<SensorNotices> notices;
+    util::Listeners<TransferMarks> marks;
 };
 
 }  // namespace kelvra::driver

@@ -8,7 +8,7 @@
 #include "driver/debug_log.h"
 #include "driver/notices.h"
 #include "driver/operations.h"
-#include "platform/host.h"
+#include "platform/clock.h"
 #include "sensors/sensor_table.h"
 
 namespace kelvra::driver {
@@ -17,19 +17,19 @@ struct SessionState {
     Handle instrumentHandle = 0;   // 0: no session
     bool configRunning = false;    // a transfer of settings runs
     bool reconnectPrompt = false;  // the last failed opening is one that reconnecting may mend
-    bool errorShown = false;       // the error strip shows an error
     bool sessionClosed = true;     // no session is left to be closed
 };
 
 class Session {
 public:
     Session(SessionState& sessionState, InstrumentOperations& driver, DebugLog& debugLog,
-            sensors::SensorTable& table, platform::Host& host, SensorNotices& notices)
+            sensors::SensorTable& table, platform::Clock& clock,
+            const util::Listeners<SensorNotices>& notices)
         : state(sessionState),
           operations(driver),
           log(debugLog),
           table_(table),
-          host_(host),
+          clock_(clock),
           notices_(notices) {}
 
     SessionState& state;
@@ -62,11 +62,11 @@ private:
     void Framed(bool logged, const OperationBase& operation, Status status, Call call);
     // Shows a failed status to the user; true when it was one. ReconnectPrompt follows from the
     // words.
-    bool CheckStatus(Status status, bool closeOnError);
+    bool CheckStatus(Status status, int slot);
 
     sensors::SensorTable& table_;
-    platform::Host& host_;
-    SensorNotices& notices_;
+    platform::Clock& clock_;
+    const util::Listeners<SensorNotices>& notices_;
 };
 
 constexpr Channel ChannelOf(int slot) {

@@ -9,9 +9,8 @@ namespace kelvra::driver {
 
 class ConfigurationTransfer {
 public:
-    ConfigurationTransfer(Session& session, sensors::SensorTable& table, SensorNotices& notices,
-                          TransferMarks& marks)
-        : session_(session), table_(table), notices_(notices), marks_(marks) {}
+    ConfigurationTransfer(Session& session, sensors::SensorTable& table, const SessionNews& news)
+        : session_(session), table_(table), news_(news) {}
 
     // Sends the slot's settings and clears its SettingsChanged, whatever the driver said; at the
     // end the errors of the transfer are shown, or the error strip is cleared. Never in simulation
@@ -21,8 +20,7 @@ public:
 private:
     Session& session_;
     sensors::SensorTable& table_;
-    SensorNotices& notices_;
-    TransferMarks& marks_;
+    const SessionNews& news_;
 };
 
 }  // namespace kelvra::driver

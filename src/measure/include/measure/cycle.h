@@ -1,42 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The measurement cycle: what the Start button runs until Stop. It keeps the program alive by
-// letting events run at fixed points; Stop, the windows and the timers act in those gaps and talk
-// to it through flags. Preparing a measurement is in cycle_start.cpp, the passes are in cycle.cpp.
+// The measurement cycle: what runs from Start to Stop. It keeps the program alive by letting events
+// run at fixed points; Stop, the windows and the timers act in those gaps and talk to it through
+// flags. It publishes what happens (listener.h) and shows nothing. Preparing a measurement is in
+// cycle_start.cpp, the passes are in cycle.cpp.
 #pragma once
 
-#include <chrono>
 #include <vector>
 
 #include "driver/session.h"
 #include "driver/transfer.h"
-#include "forms/forms.h"
-#include "measure/calc_grid.h"
+#include "measure/listener.h"
 #include "measure/pacing.h"
 #include "measure/readings.h"
-#include "measure/result_table.h"
-#include "measure/sensor_selection.h"
-#include "measure/speed.h"
 #include "measure/state.h"
-#include "measure/view.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 
 namespace kelvra::measure {
 
-// The rooms that the cycle works with.
+// What the cycle works with.
 struct CycleParts {
-    forms::Forms& forms;
     sensors::SensorTable& table;
     MeasureState& state;
     platform::Host& host;
     driver::Session& session;
     driver::ConfigurationTransfer& transfer;
-    driver::SensorNotices& notices;
-    SensorSelection& selection;
-    ResultTable& results;
     Readings& readings;
-    CalcGrid& calcGrid;
-    MeasurementView& view;
+    News& news;
 };
 
 class Cycle {
@@ -44,25 +34,30 @@ public:
     explicit Cycle(const CycleParts& parts);
 
     // Runs the whole measurement and returns after Stop, or after a start that failed: then the
-    // window stays as if measuring until Stop is pressed. Does nothing while it, or a sensor
+    // program stays as if measuring until Stop is pressed. Does nothing while it, or a sensor
     // command, runs.
     void Start();
 
-    // Ends the measurement, and a recording, at the cycle's next look; the window is idle at once.
+    // Ends the measurement, and a recording, at the cycle's next look; the program is idle at once.
     void Stop();
 
 private:
-    enum class Prepared { Ready, Nothing, Failed, Ended };
+    enum class Opened { All, None, Failed, Ended };
+
+    // What belongs to one measurement.
+    struct Run {
+        std::vector<bool> measured;  // by slot: present and enabled at Start
+        platform::Duration lastAwaited{};
+    };
 
     // cycle_start.cpp
-    void BeginMeasuring();
+    void Begin();
     void BringEnabledToFront();
     void FindModes();
-    Prepared OpenSensors();
+    Opened OpenSensors();
     bool OpenAndConfigure(int slot);
-    void ShowSwitch(int slot);
-    void ShowStartFailure();
-    void ShowIdle();
+    void TellSwitchedOff(int slot);
+    void FailStart(StartFailure why);
     void LetEventsRunIfLate(platform::Duration& lastRound);
 
     // cycle.cpp
@@ -74,7 +69,7 @@ private:
     void Poll(platform::Duration began);
     bool PollSlot(int slot, platform::Duration now);
     bool AskWhetherComplete(int slot, platform::Duration now);
-    void ShowWaiting(int slot, driver::Status status, platform::Duration now);
+    void TellAwaited(int slot, driver::Status status, platform::Duration now);
     void Fetch();
     void FetchSlot(int slot);
     void Close();
@@ -83,10 +78,8 @@ private:
     bool Takes(int slot) const;
 
     CycleParts p_;
-    Speed speed_;
     Pacing pacing_;
-    std::vector<bool> measured_;  // by slot, as it was at Start
-    platform::Duration lastNotice_{};
+    Run run_;
 };
 
 }  // namespace kelvra::measure

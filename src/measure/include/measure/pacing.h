@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "driver/notices.h"
+#include "measure/listener.h"
 #include "measure/state.h"
 #include "platform/host.h"
 
@@ -14,24 +14,23 @@ namespace kelvra::measure {
 
 class Pacing {
 public:
-    Pacing(MeasureState& state, platform::Host& host, driver::SensorNotices& notices)
-        : state_(state), host_(host), notices_(notices) {}
+    Pacing(MeasureState& state, platform::Host& host, const News& news)
+        : state_(state), host_(host), news_(news) {}
 
     // A measurement starts: no deadline yet.
     void Reset() { lastDeadline_.reset(); }
     void PassBegins() { passBegan_ = host_.clock.Monotonic(); }
     // Waits until the pass has lasted as long as the recording interval, letting events run and
-    // showing the whole seconds that are left. Without an interval, and once the measurement is to
+    // telling how long it still waits. Without an interval, and once the measurement is to
     // end, it returns at once.
     void WaitForDeadline();
 
 private:
     platform::Duration Deadline() const;
-    void ShowDelay(platform::Duration left);
 
     MeasureState& state_;
     platform::Host& host_;
-    driver::SensorNotices& notices_;
+    const News& news_;
     platform::Duration passBegan_{};
     std::optional<platform::Duration> lastDeadline_;
 };

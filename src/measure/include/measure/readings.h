@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Fetches results from the driver, or from the simulation, stores them in the sensor's entry and
-// shows scalar ones in the result table. Statuses are not looked at: what the driver leaves in the
-// output is the reading, whatever it is.
+// Fetches results from the driver, or from the simulation, and stores them in the sensor's entry.
+// Statuses are not looked at: what the driver leaves in the output is the reading, as it is.
 #pragma once
 
 #include "driver/session.h"
-#include "measure/result_table.h"
-#include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "util/random.h"
 
 namespace kelvra::measure {
 
@@ -16,12 +14,11 @@ public:
     // Most values of an array result.
     static constexpr int ArraySize = 1024;
 
-    Readings(driver::Session& session, sensors::SensorTable& table, ResultTable& results,
-             platform::Host& host)
-        : session_(session), table_(table), results_(results), host_(host) {}
+    Readings(driver::Session& session, sensors::SensorTable& table, util::Random& random)
+        : session_(session), table_(table), random_(random) {}
 
-    // One scalar reading: LastReading (W), averaging count, history and sigma, SlotReadings (not in
-    // simulation mode), and the row of the result table.
+    // One scalar reading: its power (W), the averaging count, the history, and (not in simulation
+    // mode) the slot's reading for a recording.
     void GetSingleReading(int slot);
 
     // One array result into Results (W): as many values as came, or ArraySize zeros when none did.
@@ -33,8 +30,7 @@ private:
 
     driver::Session& session_;
     sensors::SensorTable& table_;
-    ResultTable& results_;
-    platform::Host& host_;
+    util::Random& random_;
 };
 
 }  // namespace kelvra::measure

@@ -22,16 +22,25 @@ struct MeasureState {
     bool Ending() const { return stopRequested || exiting; }
 };
 
-// Covers a handler that must not be entered again, nor beside another one of its kind.
+// Covers a handler that must not be entered again, nor beside another one of its kind, nor after
+// the exit routine. Where it gives false the handler returns at once.
 class CommandGuard {
 public:
-    explicit CommandGuard(MeasureState& state) : state_(state) { state_.commandRuns = true; }
-    ~CommandGuard() { state_.commandRuns = false; }
+    explicit CommandGuard(MeasureState& state)
+        : state_(state), entered_(!state.commandRuns && !state.exiting) {
+        if (entered_) state_.commandRuns = true;
+    }
+    ~CommandGuard() {
+        if (entered_) state_.commandRuns = false;
+    }
     CommandGuard(const CommandGuard&) = delete;
     CommandGuard& operator=(const CommandGuard&) = delete;
 
+    explicit operator bool() const { return entered_; }
+
 private:
     MeasureState& state_;
+    bool entered_;
 };
 
 }  // namespace kelvra::measure

@@ -21,6 +21,10 @@ public:
     // pending it may wait up to `patience` for the first event.
     virtual void DoEvents(std::chrono::milliseconds patience = {}) = 0;
 
+    // Shows what has changed, now, without letting any event run. Where nothing is drawn it does
+    // nothing.
+    virtual void Repaint() = 0;
+
     // Runs the handler every `interval` from now on, never inside itself.
     virtual TimerId StartTimer(std::chrono::milliseconds interval,
                                std::function<void()> handler) = 0;

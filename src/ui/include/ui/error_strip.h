@@ -1,58 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The error strip of the setup dialog and the notice of the main window: where the errors of
-// sensors are shown. And the recovery from an invalid session handle, which such an error asks for.
+// The errors of sensors: in the setup dialog's strip and in the main window's notice. An error
+// belongs to its sensor; shown is that of the lowest slot that has one. Failed openings, which
+// nothing can go on from, are shown in a message box.
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 
-#include "driver/session.h"
-#include "driver/transfer.h"
-#include "forms/forms.h"
-#include "measure/cycle.h"
-#include "measure/state.h"
-#include "platform/host.h"
+#include "driver/notices.h"
+#include "forms/setup_form.h"
+#include "measure/listener.h"
+#include "platform/dialogs.h"
 #include "sensors/sensor_table.h"
+#include "ui/notice.h"
 
 namespace kelvra::ui {
 
-class ErrorStrip final : public driver::SensorNotices {
+class ErrorStrip final : public driver::SensorNotices, public measure::MeasurementListener {
 public:
-    ErrorStrip(forms::Forms& forms, sensors::SensorTable& table, driver::SessionState& session)
-        : forms_(forms), table_(table), session_(session) {}
+    ErrorStrip(forms::SetupForm& dialog, Notice& notice, const sensors::SensorTable& table,
+               platform::Dialogs& dialogs)
+        : dialog_(dialog), notice_(notice), table_(table), dialogs_(dialogs) {}
 
-    // What the recovery works with; these need the strip themselves, so they come later.
-    struct Recovery {
-        driver::Session& session;
-        driver::ConfigurationTransfer& transfer;
-        measure::Cycle& cycle;
-        measure::MeasureState& state;
-        platform::Host& host;
-    };
-    void Connect(const Recovery& recovery) { recovery_.emplace(recovery); }
+    void SensorFailed(int /*slot*/, const std::string& /*text*/) override { Refresh(); }
+    void SensorIsWell(int /*slot*/) override { Refresh(); }
+    void OpeningFailed(int slot, const std::string& text) override;
 
-    // Nothing is shown in simulation mode. Line breaks at the end of the text are left out, of a
-    // general message its four last characters (blanks); a general message is no error.
-    void ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) override;
+    void Started() override { Refresh(); }  // sensors have changed places
 
-    // Complaints from here on are this transfer's.
-    void TransferBegins() { handleRefused_ = false; }
-    // If the driver has complained of the session handle in this transfer: opens the slot again,
-    // sends its settings again, ends the measurement, and says so. Once in a measurement.
-    void RecoverAfterTransfer(int slot);
+    // After sensors have come or gone.
+    void Refresh();
+
+    bool ErrorShown() const { return errorShown_; }
 
 private:
-    bool Reopen(int slot);
-    void Show(int slot, const std::string& text, bool isGeneral);
-    void Clear();
+    void Open(const std::string& text);
+    void Close();
 
-    forms::Forms& forms_;
-    sensors::SensorTable& table_;
-    driver::SessionState& session_;
-    std::optional<Recovery> recovery_;
-    bool handleRefused_ = false;  // in the transfer that runs, or ran last
-    std::int64_t recoveredInStart_ = 0;
+    forms::SetupForm& dialog_;
+    Notice& notice_;
+    const sensors::SensorTable& table_;
+    platform::Dialogs& dialogs_;
+    bool errorShown_ = false;
 };
 
 }  // namespace kelvra::ui

@@ -4,18 +4,20 @@
 #pragma once
 
 #include "forms/forms.h"
-#include "measure/result_table.h"
-#include "measure/sensor_selection.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/result_table.h"
+#include "ui/selection_lists.h"
 
 namespace kelvra::ui {
 
-class SensorName {
+class SensorName final : public CurrentSensorListener {
 public:
     // Connects to the commit of the dialog's name box.
     SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
-               measure::ResultTable& results, measure::SensorSelection& selection);
+               ResultTable& results, SensorSelection& selection, SelectionLists& lists);
+
+    void CurrentSensorChanged() override;
 
     // Takes the name box's text for the slot; an empty one becomes the channel number. A slot
     // without a sensor has no name; a simulated sensor's is not stored. A name that can't be stored
@@ -26,8 +28,8 @@ private:
     forms::Forms& forms_;
     sensors::SensorTable& table_;
     platform::Host& host_;
-    measure::ResultTable& results_;
-    measure::SensorSelection& selection_;
+    ResultTable& results_;
+    SelectionLists& lists_;
 };
 
 }  // namespace kelvra::ui

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "measure/command_buttons.h"
+#include "ui/command_buttons.h"
 
-namespace kelvra::measure {
+namespace kelvra::ui {
 
 void OfferSensorCommands(forms::SetupForm& dialog, bool offered) {
     const struct {
@@ -19,4 +19,4 @@ void OfferSensorCommands(forms::SetupForm& dialog, bool offered) {
         command.button.picture = offered ? command.picture : command.disabledPicture;
 }
 
-}  // namespace kelvra::measure
+}  // namespace kelvra::ui

@@ -1,36 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "measure/result_table.h"
+#include "ui/result_table.h"
 
-#include <algorithm>
-#include <string>
-
+#include "ui/result_columns.h"
 #include "util/number_text.h"
 
-namespace kelvra::measure {
+namespace kelvra::ui {
 
 namespace {
 
 using controls::Align;
 
-constexpr Column ValueColumns[] = {WattColumn, DbmColumn, StatusColumn, SigmaColumn, CountColumn};
-constexpr Column MarkedColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
-
-int RowOf(int slot) {
-    return slot + 1;
-}
+constexpr ResultColumn ValueColumns[] = {WattColumn, DbmColumn, StatusColumn, SigmaColumn,
+                                         CountColumn};
+constexpr ResultColumn MarkedColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
 
 }  // namespace
 
-ResultTable::ResultTable(forms::Forms& forms, sensors::SensorTable& table,
-                         SensorSelection& selection)
-    : grid_(forms.statusForm.ResultGrid), table_(table), selection_(selection) {
+ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
+                         SensorSelection& selection, const util::NumberForm& numbers)
+    : grid_(form.ResultGrid), table_(table), selection_(selection), numbers_(numbers) {
     grid_.mouseDown.Connect([this](int row, int column) { PressCell(row, column); });
     grid_.click.Connect([this](int row, int column) { ClickCell(row, column); });
 }
 
 void ResultTable::LayOut() {
     const struct {
-        Column column;
+        ResultColumn column;
         const char* heading;
         bool bold;
         int width;  // twips; 0: as designed
@@ -62,36 +57,38 @@ void ResultTable::PaintName(int slot) {
 void ResultTable::PaintPresence(int slot) {
     PaintName(slot);
     if (table_[slot].present) return;
-    for (const Column column : ValueColumns)
+    for (const ResultColumn column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false, controls::Cyan);
 }
 
 void ResultTable::ClearValues(int slot) {
-    for (const Column column : ValueColumns)
+    for (const ResultColumn column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false);
 }
 
-void ResultTable::SetTableMark(int slot, bool scalar) {
-    for (const Column column : MarkedColumns)
-        grid_.SetLook(RowOf(slot), column,
-                      {Align::Left, false, false, scalar ? controls::White : controls::Grey});
+void ResultTable::Started() {
+    for (int slot = 0; slot < table_.Slots(); ++slot) {
+        PaintName(slot);
+        ClearValues(slot);
+    }
 }
 
-void ResultTable::SetValue(int slot, Column column, const util::Figure& figure, Align align) {
-    SetGridCell(grid_, RowOf(slot), column, figure, align, false, false);
+void ResultTable::MarkValues(int slot, controls::Colour back) {
+    for (const ResultColumn column : MarkedColumns)
+        grid_.SetLook(RowOf(slot), column, {Align::Left, false, false, back});
 }
 
-void ResultTable::ShowActivity(int slot, bool waiting) {
-    constexpr std::string_view bars = "||||||||.";
-    constexpr int longest = bars.size() - 1;
-    const auto length =
-        static_cast<std::size_t>(std::clamp<int>(table_[slot].waitTicks, 0, longest));
-    const std::string_view text = bars.substr(longest - length, length + (waiting ? 1 : 0));
-    SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Left, true, false);
-}
-
-void ResultTable::ShowState(int slot, std::string_view text, controls::Colour back) {
-    SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Centre, true, false, back);
+void ResultTable::ReadingArrived(int slot) {
+    MarkValues(slot, controls::White);
+    const sensors::SensorEntry& entry = table_[slot];
+    const auto show = [&](ResultColumn column, const util::Figure& figure, Align align) {
+        SetGridCell(grid_, RowOf(slot), column, figure, align, false, false);
+    };
+    show(WattColumn, util::ScientificFigure(entry.lastReading, numbers_), Align::Left);
+    show(DbmColumn, util::FixedFigure(entry.history.LastLevel(), numbers_), Align::Left);
+    show(CountColumn, util::CountFigure(entry.avgCountRead, numbers_), Align::Centre);
+    if (const auto sigma = entry.history.Sigma())
+        show(SigmaColumn, util::FixedFigure(*sigma, numbers_), Align::Centre);
 }
 
 void ResultTable::ToggleEnabled(int slot) {
@@ -116,4 +113,4 @@ void ResultTable::ClickCell(int row, int column) {
     selection_.Select(row - 1);
 }
 
-}  // namespace kelvra::measure
+}  // namespace kelvra::ui

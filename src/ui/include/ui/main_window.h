@@ -4,13 +4,13 @@
 #pragma once
 
 #include "forms/forms.h"
+#include "measure/listener.h"
 #include "measure/state.h"
-#include "measure/view.h"
 #include "platform/host.h"
 
-namespace kelvra::app {
+namespace kelvra::ui {
 
-class MainWindow final : public measure::MeasurementView {
+class MainWindow final : public measure::MeasurementListener {
 public:
     // Connects the events of the main window that belong to its frame.
     MainWindow(forms::Forms& forms, measure::MeasureState& state, platform::Host& host);
@@ -38,4 +38,4 @@ private:
 // Makes the window stay above others, or not, where it is.
 void AlwaysOnTop(controls::Window& window, bool onTop);
 
-}  // namespace kelvra::app
+}  // namespace kelvra::ui

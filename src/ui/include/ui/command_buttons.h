@@ -5,8 +5,8 @@
 
 #include "forms/setup_form.h"
 
-namespace kelvra::measure {
+namespace kelvra::ui {
 
 void OfferSensorCommands(forms::SetupForm& dialog, bool offered);
 
-}  // namespace kelvra::measure
+}  // namespace kelvra::ui

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The calculation grid: two formulas of the user's over the latest readings, computed once a pass.
+// The calculation grid: two formulas of the user over the latest readings, computed once a pass.
 // A click on a cell asks for its new text. The formula language itself is parser/.
 #pragma once
 
@@ -8,13 +8,14 @@
 #include <string_view>
 
 #include "forms/main_window.h"
+#include "measure/listener.h"
 #include "parser/math_parser.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 
-namespace kelvra::measure {
+namespace kelvra::ui {
 
-class CalcGrid {
+class CalcGrid final : public measure::MeasurementListener {
 public:
     CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host);
 
@@ -25,6 +26,7 @@ public:
     // "---" when a variable names no sensor with a scalar reading. A row without a name is left
     // alone. The result cell's tooltip says what is wrong.
     void Compute();
+    void PassMeasured() override { Compute(); }
 
 private:
     static constexpr int FormulaRows = 2;
@@ -54,4 +56,4 @@ struct ReadingName {
 };
 ReadingName ParseReadingName(std::string_view name);
 
-}  // namespace kelvra::measure
+}  // namespace kelvra::ui

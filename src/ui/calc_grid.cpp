@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "measure/calc_grid.h"
+#include "ui/calc_grid.h"
 
 #include <cmath>
 #include <optional>
@@ -7,7 +7,7 @@
 #include "util/levels.h"
 #include "util/number_text.h"
 
-namespace kelvra::measure {
+namespace kelvra::ui {
 
 namespace {
 
@@ -111,4 +111,4 @@ void CalcGrid::EditCell(int row, int column) {
     SetGridCell(grid_, row, column, answer, Align::Left, false, false);
 }
 
-}  // namespace kelvra::measure
+}  // namespace kelvra::ui

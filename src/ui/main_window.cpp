@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/main_window.h"
+#include "ui/main_window.h"
 
-namespace kelvra::app {
+namespace kelvra::ui {
 
 using controls::Geometry;
 
@@ -113,4 +113,4 @@ void AlwaysOnTop(controls::Window& window, bool onTop) {
     window.topMost = onTop;
 }
 
-}  // namespace kelvra::app
+}  // namespace kelvra::ui

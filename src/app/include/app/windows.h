@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The rules of all windows, made over the forms and subscribed to what the measurement, the driver
+// and the selection tell.
+#pragma once
+
+#include "driver/notices.h"
+#include "driver/transfer.h"
+#include "forms/forms.h"
+#include "measure/cycle.h"
+#include "measure/listener.h"
+#include "platform/host.h"
+#include "sensors/sensor_table.h"
+#include "ui/calc_grid.h"
+#include "ui/display_lists.h"
+#include "ui/error_strip.h"
+#include "ui/main_window.h"
+#include "ui/notice.h"
+#include "ui/record_menu.h"
+#include "ui/result_table.h"
+#include "ui/run_buttons.h"
+#include "ui/selection_lists.h"
+#include "ui/sensor_name.h"
+#include "ui/sensor_selection.h"
+#include "ui/speed_label.h"
+#include "ui/start_messages.h"
+#include "ui/status_marks.h"
+
+namespace kelvra::app {
+
+struct Windows {
+    Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
+            measure::Cycle& cycle, platform::Host& host);
+
+    ui::Notice notice;
+    ui::ErrorStrip errorStrip;
+    ui::SensorSelection selection;
+    ui::SelectionLists lists;
+    ui::ResultTable results;
+    ui::StatusMarks marks;
+    ui::CalcGrid calcGrid;
+    ui::SpeedLabel speed;
+    ui::RunButtons runButtons;
+    ui::RecordMenu recordMenu;
+    ui::DisplayLists displayLists;
+    ui::MainWindow mainWindow;
+    ui::StartMessages startMessages;
+    ui::SensorName sensorName;
+
+    // In this order they are called.
+    void Subscribe(measure::News& news, driver::SessionNews& session);
+};
+
+}  // namespace kelvra::app

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure/session_recovery.h"
+
+#include <string_view>
+
+namespace kelvra::measure {
+
+namespace {
+
+// The driver's complaint about its first parameter, the session handle.
+constexpr std::string_view HandleComplaint = "arameter 1 out of";
+
+}  // namespace
+
+void SessionRecovery::SensorFailed(int /*slot*/, const std::string& text) {
+    if (text.find(HandleComplaint) != std::string::npos) handleRefused_ = true;
+}
+
+void SessionRecovery::TransferEnds(int slot) {
+    if (!handleRefused_ || recoveredInStart_ == p_.state.starts) return;
+    recoveredInStart_ = p_.state.starts;
+    const bool reopened = Reopen(slot);
+    if (p_.state.exiting) return;
+    p_.cycle.Stop();
+    p_.news.measurement.Tell(&MeasurementListener::SessionRecovered, reopened);
+    p_.events.DoEvents();
+}
+
+// The session first, which slot 0 opens; then the sensor that met the complaint.
+bool SessionRecovery::Reopen(int slot) {
+    p_.table[slot].lastErrorText.clear();
+    p_.notices.Tell(&driver::SensorNotices::SensorIsWell, slot);
+    p_.session.Close();
+    for (const int opened : {0, slot}) {
+        if (p_.state.exiting || p_.table[opened].sessionOpen) continue;
+        p_.session.OpenSensor(opened);
+    }
+    if (p_.state.exiting || !p_.table[slot].sessionOpen) return false;
+    p_.transfer.ConfigureSensor(slot);
+    return true;
+}
+
+}  // namespace kelvra::measure

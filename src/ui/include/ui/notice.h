@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window's notice: one line in a frame that is visible while there is something to say. It
+// has three ranks, and the highest that has a text is shown: a sensor's error, trouble with files,
+// and what the measurement waits for or has met. Hiding one shows the next.
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+
+#include "forms/main_window.h"
+#include "measure/listener.h"
+
+namespace kelvra::ui {
+
+class Notice final : public measure::MeasurementListener {
+public:
+    explicit Notice(forms::MDIMain& window) : window_(window) {}
+
+    // A sensor's error; an empty text ends it.
+    void ShowError(std::string text) { Set(Rank::Error, std::move(text)); }
+
+    // Trouble with a file, until the same file could be read or written. With trouble with several
+    // files the first of them is shown.
+    void ShowFileTrouble(const std::string& path, std::string text);
+    void EndFileTrouble(const std::string& path);
+
+    void Started() override { Set(Rank::Course, {}); }
+    void Awaited(int slot, const std::string& complaint) override;
+    void PassSeen() override { Set(Rank::Course, {}); }
+    void PassWaits(platform::Duration left) override;
+    void PassEnded() override;
+    void Stopped() override { Set(Rank::Course, {}); }
+    void SessionRecovered(bool reopened) override;
+
+private:
+    enum class Rank { Error, Files, Course, Count };
+
+    void Set(Rank rank, std::string text);
+    void ShowFirstTrouble();
+    void Show();
+
+    forms::MDIMain& window_;
+    std::array<std::string, static_cast<std::size_t>(Rank::Count)> texts_;
+    std::map<std::string, std::string> troubles_;  // by path
+};
+
+}  // namespace kelvra::ui

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where things are in the result table: row 0 is the heading, then one row for each slot.
+#pragma once
+
+namespace kelvra::ui {
+
+enum ResultColumn {
+    NameColumn = 0,
+    WattColumn = 1,
+    DbmColumn = 2,
+    StatusColumn = 3,
+    SigmaColumn = 4,
+    CountColumn = 5,
+};
+
+constexpr int RowOf(int slot) {
+    return slot + 1;
+}
+
+}  // namespace kelvra::ui

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The result table's status column: the bar that moves on with every pass, and "CONF" while a
+// sensor gets its settings.
+#pragma once
+
+#include <string_view>
+#include "driver/notices.h"
+#include "forms/status_form.h"
+#include "measure/listener.h"
+#include "platform/events.h"
+
+#include "sensors/sensor_table.h"
+
+namespace kelvra::ui {
+
+class StatusMarks final : public measure::SlotListener, public driver::TransferMarks {
+public:
+    StatusMarks(forms::StatusForm& form, const sensors::SensorTable& table,
+                platform::Events& events)
+        : grid_(form.ResultGrid), table_(table), events_(events) {}
+
+    // The bar has a point at its end while the sensor is waited for.
+    void SlotStarted(int slot) override { ShowActivity(slot, true); }
+    void SlotComplete(int slot) override { ShowActivity(slot, false); }
+    void ReadingArrived(int /*slot*/) override {}
+    void ArrayArrived(int /*slot*/) override {}
+
+    void TransferBegins(int slot) override;
+    void TransferEnds(int slot) override;
+
+private:
+    void ShowActivity(int slot, bool waiting);
+    void ShowState(int slot, std::string_view text, controls::Colour back);
+
+    controls::Grid& grid_;
+    const sensors::SensorTable& table_;
+    platform::Events& events_;
+};
+
+}  // namespace kelvra::ui
