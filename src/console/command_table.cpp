@@ -169,15 +169,34 @@ CommandError Drag(CommandContext& c, std::string_view rest) {
     if (target.error) return target.error;
     auto* graph = TargetAs<controls::Graph>(target);
     if (graph == nullptr) return target.error;
-    const auto& cursors = graph->cursors.Get();
-    const auto cursor = WholeNumber(TakeWord(rest), 0, static_cast<int>(cursors.size()) - 1);
+    const auto cursor = WholeNumber(TakeWord(rest), 0, graph->CursorCount() - 1);
     const auto x = RealNumber(TakeWord(rest));
     const std::string_view yText = TakeWord(rest);
     if (!cursor) return "the graph has no such cursor";
-    const auto y = yText.empty() ? cursors[static_cast<std::size_t>(*cursor)].y : RealNumber(yText);
+    const auto y = yText.empty() ? graph->CursorAt(*cursor).y : RealNumber(yText);
     if (!x || !y) return "a position is a number";
-    graph->Drag(*cursor, *x, *y);
-    graph->Release(*cursor);
+    if (graph->Track() != controls::TrackMode::CursorEvents)
+        return "no cursor can be dragged while the graph's zoom is on";
+    if (!graph->DragCursor(*cursor, *x, *y)) return "the cursor is hidden";
+    graph->ReleaseCursor(*cursor);  // refused only if the drag has removed it
+    return std::nullopt;
+}
+
+CommandError Zoom(CommandContext& c, std::string_view rest) {
+    Target target = ReachTarget(c, rest);
+    if (target.error) return target.error;
+    auto* graph = TargetAs<controls::Graph>(target);
+    if (graph == nullptr) return target.error;
+    if (util::TrimSpaces(rest).empty()) {
+        graph->ZoomOut();
+        return std::nullopt;
+    }
+    std::array<std::optional<double>, 4> edges;
+    for (auto& edge : edges) edge = RealNumber(TakeWord(rest));
+    const auto& [x1, x2, y1, y2] = edges;
+    if (!x1 || !x2 || !y1 || !y2) return "zoom GRAPH X1 X2 Y1 Y2, four numbers or none";
+    if (graph->Track() != controls::TrackMode::ZoomRectangle) return "the graph's zoom is off";
+    if (!graph->Zoom({*x1, *x2}, {*y1, *y2})) return "X1 must be below X2, and Y1 below Y2";
     return std::nullopt;
 }
 
@@ -273,11 +292,11 @@ struct Command {
 };
 
 constexpr Command Commands[] = {
-    {"click", Click},   {"choose", Choose},  {"open", Open}, {"type", Type},
-    {"press", Press},   {"cell", ClickCell}, {"drag", Drag}, {"resize", Resize},
-    {"answer", Answer}, {"cancel", Cancel},  {"wait", Wait}, {"print", Print},
-    {"dump", Dump},     {"let", Let},        {"eval", Eval}, {"echo", Echo},
-    {"close", Close},
+    {"click", Click},   {"choose", Choose},  {"open", Open},     {"type", Type},
+    {"press", Press},   {"cell", ClickCell}, {"drag", Drag},     {"zoom", Zoom},
+    {"resize", Resize}, {"answer", Answer},  {"cancel", Cancel}, {"wait", Wait},
+    {"print", Print},   {"dump", Dump},      {"let", Let},       {"eval", Eval},
+    {"echo", Echo},     {"close", Close},
 };
 
 }  // namespace

@@ -60,30 +60,32 @@ void AxisMember(JsonLine& json, const char* key, const Graph::Axis& axis) {
     json.Key(key).BeginObject().Member("min", axis.min).Member("max", axis.max).EndObject();
 }
 
+void CursorMember(JsonLine& json, int index, const Graph::Cursor& cursor) {
+    json.BeginObject().Member("index", index);
+    json.Member("kind", cursor.horizontal ? "horizontal" : "vertical");
+    json.Member("x", cursor.x).Member("y", cursor.y).Member("visible", cursor.visible);
+    json.EndObject();
+}
+
 void GraphMembers(JsonLine& json, const Graph& graph) {
-    const Graph::Plot& plot = graph.curve.Get();
+    const Graph::Plot& plot = graph.Curve();
     json.Key("plot").BeginObject().Member("first", plot.first).Member("step", plot.step);
     json.Key("values").BeginList();
     for (const double value : plot.values) json.Value(value);
     json.EndList().EndObject();
-    AxisMember(json, "x", graph.x);
-    AxisMember(json, "y", graph.y);
+    AxisMember(json, "x", graph.ShownAxes().x);
+    AxisMember(json, "y", graph.ShownAxes().y);
     json.Key("cursors").BeginList();
-    int index = 0;
-    for (const Graph::Cursor& cursor : graph.cursors.Get()) {
-        json.BeginObject().Member("index", index++);
-        json.Member("kind", cursor.horizontal ? "horizontal" : "vertical");
-        json.Member("x", cursor.x).Member("y", cursor.y).Member("visible", cursor.visible);
-        json.EndObject();
-    }
+    for (int index = 0; index < graph.CursorCount(); ++index)
+        CursorMember(json, index, graph.CursorAt(index));
     json.EndList().Key("labels").BeginList();
-    for (const Graph::Text& label : graph.labels.Get())
+    for (const Graph::Text& label : graph.Labels())
         json.BeginObject()
             .Member("x", label.x)
             .Member("y", label.y)
             .Member("text", label.text)
             .EndObject();
-    json.EndList().Member("trackMode", static_cast<int>(graph.track.Get()));
+    json.EndList().Member("trackMode", static_cast<int>(graph.Track()));
 }
 
 // What comes before the colours, by kind.

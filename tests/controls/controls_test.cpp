@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include "controls/graph.h"
 #include "controls/grid.h"
 #include "controls/kinds.h"
 #include "controls/list.h"
@@ -19,7 +18,6 @@ struct Sample : Window {
     OptionGroup options{inner, "options", std::vector<std::string>{"a", "b", "c"}};
     List list{inner, "list", {{"x", 7}, {"y", 8}, {"z", 9}}, 0};
     Grid grid{inner, "grid", 2, 2};
-    Graph graph{inner, "graph"};
 };
 
 class Controls : public testing::Test {
@@ -29,7 +27,6 @@ protected:
         window_.check.click.Connect([this] { ++raised_; });
         window_.options.click.Connect([this] { ++raised_; });
         window_.list.click.Connect([this] { ++raised_; });
-        window_.graph.cursorChange.Connect([this](int, double, double) { ++raised_; });
         window_.resize.Connect([this] { ++raised_; });
     }
 
@@ -60,8 +57,6 @@ TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
         {"chosen again", [&] { w.list.Choose(1); }, 1},
         {"filled", [&] { w.list.Fill({{"p", 1}}); EXPECT_EQ(w.list.Index(), -1); }, 0},
         {"preselected, cleared", [&] { w.list.Preselect(1); w.list.Clear(); }, 0},
-        {"cursors set", [&] { w.graph.cursors = {{.x = 1}}; }, 0},
-        {"cursor dragged", [&] { w.graph.Drag(0, 2, 3); }, 1},
         {"placed", [&] { w.place = Geometry{1, 2, 3, 4}; }, 0},
         {"resized by a person", [&] { w.PersonResizes(5, 6); }, 1},
     };
