@@ -8,8 +8,8 @@
 namespace kelvra::sensors {
 
 void SensorTable::Resize(int slots) {
-    assert(locks == 0);
-    if (locks != 0 || slots < 1 || slots > INT16_MAX) return;
+    assert(locks_ == 0);
+    if (locks_ != 0 || slots < 1 || slots > INT16_MAX) return;
     const auto elements = static_cast<std::size_t>(slots) + 1;
     entries.resize(elements);
     entries.back() = SensorEntry();
@@ -40,14 +40,6 @@ std::vector<SensorEntry*> SensorTable::Present() {
     for (int slot = 0; slot < Slots(); ++slot)
         if ((*this)[slot].present) present.push_back(&(*this)[slot]);
     return present;
-}
-
-int SensorTable::FindMeasured(std::string_view logicalName) const {
-    for (int slot = 0; slot < Slots(); ++slot) {
-        const SensorEntry& entry = (*this)[slot];
-        if (entry.present && entry.enabled && entry.logicalName == logicalName) return slot;
-    }
-    return -1;
 }
 
 namespace {

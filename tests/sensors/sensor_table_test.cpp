@@ -87,18 +87,6 @@ TEST(WorkArrays, AreThoseOfTheMode) {
     }
 }
 
-TEST(SensorTable, FindsAMeasuredSensorByNameOnlyWhilePresentAndEnabled) {
-    SensorTable table;
-    table.Resize(3);
-    for (int slot = 0; slot < 3; ++slot) {
-        table[slot].logicalName = "A";
-        table[slot].present = slot != 1;
-        table[slot].enabled = slot != 0;
-    }
-    EXPECT_EQ(table.FindMeasured("A"), 2);
-    EXPECT_EQ(table.FindMeasured("B"), -1);
-}
-
 TEST(ReadingRing, HasASpreadFromItsThirtiethReadingOn) {
     ReadingRing ring;
     EXPECT_EQ(ring.Index(), -1);

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "sensors/sensor_entry.h"
@@ -57,25 +56,23 @@ struct SensorTable {
     // Everything that belongs to the two slots changes places; CurrentSensor follows its sensor.
     void SwapSlots(int a, int b);
 
-    // Slot of the first sensor that is present and enabled and has that name, -1 if there is none.
-    int FindMeasured(std::string_view logicalName) const;
-
     // Whether the user has switched this sensor off in this run; a simulated one goes by its
     // resource.
     bool SwitchedOff(const SensorEntry& entry) const;
     void RememberSwitch(const SensorEntry& entry);
 
-    int locks = 0;
-
 private:
+    friend class TableLock;
+
     std::set<std::string> switchedOff_;
+    int locks_ = 0;
 };
 
 // Holds the table against resizing while an entry is handed to other routines by reference.
 class TableLock {
 public:
-    explicit TableLock(SensorTable& table) : table_(table) { ++table_.locks; }
-    ~TableLock() { --table_.locks; }
+    explicit TableLock(SensorTable& table) : table_(table) { ++table_.locks_; }
+    ~TableLock() { --table_.locks_; }
     TableLock(const TableLock&) = delete;
     TableLock& operator=(const TableLock&) = delete;
 
