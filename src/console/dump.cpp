@@ -20,13 +20,18 @@ void Numbers(JsonLine& json, const char* key, const Range& values) {
 
 void SlotStatistics(JsonLine& json, const sensors::SensorEntry& entry) {
     json.Key("TSlotStats").BeginList();
-    for (const sensors::TimeSlotStat& stat : entry.slotStats) {
-        json.BeginObject().Member("Restart", stat.restart);
-        Numbers(json, "Values", stat.values);
-        json.Member("Power", stat.power).Member("Max", stat.max).Member("Min", stat.min);
+    for (const sensors::ReadingRing& ring : entry.slotStats) {
+        const bool empty = ring.Index() < 0;
+        const auto stat = ring.Statistics().value_or(sensors::LevelStatistics{});
+        json.BeginObject();
+        json.Member("Restart", empty ? -1 : (ring.Index() + 1) % sensors::ReadingRing::Length);
+        Numbers(json, "Values", ring.Values());
+        json.Member("Power", empty ? 0 : ring.LastLevel());
+        json.Member("Max", stat.max).Member("Min", stat.min);
         json.Member("Mean", stat.mean).Member("Sigma", stat.sigma).EndObject();
     }
-    json.EndList().Member("TSlotStatsFull", entry.slotStatsFull);
+    const bool full = !entry.slotStats.empty() && entry.slotStats.front().Full();
+    json.EndList().Member("TSlotStatsFull", full);
 }
 
 void Settings(JsonLine& json, const sensors::SensorSettings& settings) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sensors/reading_ring.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "util/levels.h"
@@ -30,6 +31,13 @@ Sums SumsAbout(double pivot, std::span<const double, ReadingRing::Length> values
     return {first[0] + first[1], squares[0] + squares[1]};
 }
 
+// One pass. The pivot is one of the levels, so the difference of the two terms loses no more than a
+// factor of Length + 1 of the precision, however far the levels are apart.
+double SigmaOf(const Sums& sums) {
+    constexpr int n = ReadingRing::Length;
+    return std::sqrt((n * sums.squares - sums.first * sums.first) / (n * (n - 1)));
+}
+
 }  // namespace
 
 void ReadingRing::Add(double powerW) {
@@ -44,11 +52,14 @@ void ReadingRing::Add(double powerW) {
 
 std::optional<double> ReadingRing::Sigma() const {
     if (!Full()) return std::nullopt;
-    // One pass. The pivot is one of the levels, so the difference of the two terms loses no more
-    // than a factor of Length + 1 of the precision, however far the levels are apart.
+    return SigmaOf(SumsAbout(LastLevel(), levels_));
+}
+
+std::optional<LevelStatistics> ReadingRing::Statistics() const {
+    if (!Full()) return std::nullopt;
+    const auto [min, max] = std::minmax_element(levels_.begin(), levels_.end());
     const Sums sums = SumsAbout(LastLevel(), levels_);
-    const double squares = Length * sums.squares - sums.first * sums.first;
-    return std::sqrt(squares / (Length * (Length - 1)));
+    return LevelStatistics{*max, *min, LastLevel() + sums.first / Length, SigmaOf(sums)};
 }
 
 }  // namespace kelvra::sensors

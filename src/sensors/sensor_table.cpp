@@ -67,7 +67,6 @@ void PrepareWorkArrays(SensorTable& table, int slot) {
         case TimeSlot:
             entry.slotStats.assign(
                 static_cast<std::size_t>(std::max<int>(entry.settings.TSlotCount, 1)), {});
-            entry.slotStatsFull = false;
             break;
         case ContinuousAverage:
         case Burst:

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "util/levels.h"
@@ -44,9 +45,10 @@ TEST(SensorTable, SwapsAllThatBelongsToASlot) {
     table.scaling[0].minScope = -20;
     table.slotReadings[0] = {1, 30};
     table.slotReadings[3] = {2, 33};
-    for (const auto& [before, after] : {std::pair{0, 3}, {3, 0}, {1, 1}}) {
+    const struct { std::int16_t currentBefore, currentAfter; } cases[] = {{0, 3}, {3, 0}, {1, 1}};
+    for (const auto& c : cases) {
         SensorTable swapped = table;
-        swapped.currentSensor = static_cast<std::int16_t>(before);
+        swapped.currentSensor = c.currentBefore;
         swapped.SwapSlots(0, 3);
         EXPECT_EQ(swapped[0].logicalName, "D");
         EXPECT_EQ(swapped[0].settings.Mode, Trace);
@@ -55,12 +57,17 @@ TEST(SensorTable, SwapsAllThatBelongsToASlot) {
         EXPECT_EQ(swapped.scaling[0].minScope, -65);
         EXPECT_EQ(swapped.slotReadings[0][1], 33);
         EXPECT_EQ(swapped.slotReadings[3][1], 30);
-        EXPECT_EQ(swapped.currentSensor, after);
+        EXPECT_EQ(swapped.currentSensor, c.currentAfter);
     }
 }
 
 TEST(WorkArrays, AreThoseOfTheMode) {
-    const std::tuple<std::int32_t, std::int16_t, bool, std::size_t> cases[] = {
+    const struct {
+        std::int32_t mode;
+        std::int16_t timeSlots;
+        bool historyStartsAnew;
+        std::size_t rings;
+    } cases[] = {
         {ContinuousAverage, 5, true, 1},
         {BufferedAverage, 5, false, 1},
         {TimeSlot, 5, false, 5},
@@ -68,22 +75,19 @@ TEST(WorkArrays, AreThoseOfTheMode) {
         {Burst, 5, true, 1},
         {Trace, 5, false, 1},
     };
-    for (const auto& [mode, slots, ringReset, stats] : cases) {
+    for (const auto& c : cases) {
         SensorTable table;
         table.Resize(2);
         SensorEntry& entry = table[1];
-        entry.settings.Mode = mode;
-        entry.settings.TSlotCount = slots;
+        entry.settings.Mode = c.mode;
+        entry.settings.TSlotCount = c.timeSlots;
         entry.history.Add(1);
-        entry.slotStats.assign(1, {});
-        entry.slotStats[0].restart = 4;
-        entry.slotStatsFull = true;
+        entry.slotStats.resize(1);
+        entry.slotStats[0].Add(1);
         PrepareWorkArrays(table, 1);
-        EXPECT_EQ(entry.history.Index(), ringReset ? -1 : 0) << mode;
-        ASSERT_EQ(entry.slotStats.size(), stats) << mode;
-        EXPECT_EQ(entry.slotStats[0].restart, mode == TimeSlot ? -1 : 4) << mode;
-        EXPECT_EQ(entry.slotStats.back().values.size(), 30U) << mode;
-        EXPECT_EQ(entry.slotStatsFull, mode != TimeSlot) << mode;
+        EXPECT_EQ(entry.history.Index(), c.historyStartsAnew ? -1 : 0) << c.mode;
+        ASSERT_EQ(entry.slotStats.size(), c.rings) << c.mode;
+        EXPECT_EQ(entry.slotStats[0].Index(), c.mode == TimeSlot ? -1 : 0) << c.mode;
     }
 }
 
@@ -114,26 +118,34 @@ TEST(ReadingRing, HasASpreadFromItsThirtiethReadingOn) {
 }
 
 // As one would do it without keeping the levels: take all thirty readings, convert, two passes.
-double SigmaAfresh(const ReadingRing& ring) {
+LevelStatistics StatisticsAfresh(const ReadingRing& ring) {
     std::vector<double> levels(ring.Values().begin(), ring.Values().end());
     util::ArrayW2dBm(levels);
     double mean = 0;
     for (const double level : levels) mean += level / ReadingRing::Length;
     double squares = 0;
     for (const double level : levels) squares += (level - mean) * (level - mean);
-    return std::sqrt(squares / (ReadingRing::Length - 1));
+    return {*std::max_element(levels.begin(), levels.end()),
+            *std::min_element(levels.begin(), levels.end()), mean,
+            std::sqrt(squares / (ReadingRing::Length - 1))};
 }
 
-TEST(ReadingRing, ShowsTheDigitsOfASpreadThatIsComputedAfresh) {
+TEST(ReadingRing, ShowsTheDigitsOfStatisticsThatAreComputedAfresh) {
     ReadingRing ring;
     util::Random random(3);
     const util::NumberForm form;
     for (int i = 0; i < 200; ++i) {
         ring.Add((random.Next() - 0.3) * std::pow(10, -i / 20));
+        ASSERT_EQ(ring.Statistics().has_value(), i >= ReadingRing::Length - 1) << i;
         if (!ring.Full()) continue;
-        EXPECT_EQ(util::FixedText(ring.Sigma().value(), 9, form),
-                  util::FixedText(SigmaAfresh(ring), 9, form))
-            << i;
+        const LevelStatistics kept = ring.Statistics().value();
+        const LevelStatistics afresh = StatisticsAfresh(ring);
+        for (const auto member : {&LevelStatistics::max, &LevelStatistics::min,
+                                  &LevelStatistics::mean, &LevelStatistics::sigma})
+            EXPECT_EQ(util::FixedText(kept.*member, 9, form),
+                      util::FixedText(afresh.*member, 9, form))
+                << i;
+        EXPECT_EQ(ring.Sigma(), kept.sigma) << i;
     }
 }
 

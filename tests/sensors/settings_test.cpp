@@ -56,9 +56,8 @@ TEST_F(SettingsFileTest, ABlockHasEveryFieldWithItsDefaultUnderFiveSections) {
     EXPECT_FALSE(Write(*disk_, settings));
     EXPECT_EQ(folder_.Get("k.ini"), NewBlock);
     EXPECT_EQ(Read(NewBlock), DefaultSettings());
-    S written = settings;
-    EXPECT_FALSE(TransferSettings(written, *disk_, path_, "Sensor", Transfer::Write));
-    EXPECT_FALSE(written.ContMeas);
+    EXPECT_FALSE(TransferSettings(settings, *disk_, path_, "Sensor", Transfer::Write));
+    EXPECT_FALSE(settings.ContMeas);
 }
 
 TEST_F(SettingsFileTest, WhateverIsSavedReadsBackTheSame) {
@@ -80,7 +79,11 @@ TEST_F(SettingsFileTest, WhateverIsSavedReadsBackTheSame) {
 
 TEST_F(SettingsFileTest, ATextReadsAsWhatItMeansForItsField) {
     // clang-format off
-    const std::tuple<std::string, SettingsMember, double> cases[] = {
+    const struct {
+        std::string bytes;  // after "[Sensor"
+        SettingsMember member;
+        double value;
+    } cases[] = {
         {"_CORR]\nDuty=1", &S::CorrDuty, 1}, {"_CORR]\nDuty=WAHR", &S::CorrDuty, 1},
         {"_CORR]\nDuty=wahr", &S::CorrDuty, 1}, {"_CORR]\nDuty=True", &S::CorrDuty, 1},
         {"_CORR]\nDuty=yes", &S::CorrDuty, 0}, {"_CORR]\nDuty=-1", &S::CorrDuty, 0},
@@ -100,8 +103,8 @@ TEST_F(SettingsFileTest, ATextReadsAsWhatItMeansForItsField) {
         {"_MODE\nMode=4\n]=[\n=\n[]\nSensor_MODE]\n\xFF\xFE[Sensor_TRIG", &S::Mode, 0},
     };
     // clang-format on
-    for (const auto& [bytes, member, value] : cases)
-        EXPECT_EQ(ValueOf(Read("[Sensor" + bytes), member), value) << bytes.substr(0, 50);
+    for (const auto& c : cases)
+        EXPECT_EQ(ValueOf(Read("[Sensor" + c.bytes), c.member), c.value) << c.bytes.substr(0, 50);
 }
 
 TEST_F(SettingsFileTest, AFailedSaveLeavesTheOldFileOrTheNewOneWhole) {

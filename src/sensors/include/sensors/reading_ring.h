@@ -9,6 +9,14 @@
 
 namespace kelvra::sensors {
 
+// Of the thirty levels: in dBm, the sample standard deviation (divided by n - 1) in dB.
+struct LevelStatistics {
+    double max = 0;
+    double min = 0;
+    double mean = 0;
+    double sigma = 0;
+};
+
 class ReadingRing {
 public:
     static constexpr int Length = 30;
@@ -17,7 +25,7 @@ public:
     void Add(double powerW);
     void Reset() { *this = ReadingRing(); }
 
-    // The ring itself, unused places 0; where the last reading stands (-1: there is none yet); and
+    // The ring itself, unused places 0; where the last reading is (-1: there is none yet); and
     // whether writing has started over at the front.
     std::span<const double, Length> Values() const { return values_; }
     int Index() const { return index_; }
@@ -26,14 +34,13 @@ public:
     // Thirty readings are there.
     bool Full() const { return wrapped_ || index_ == Length - 1; }
 
-    // Levels in dBm of the magnitudes of the readings, place by place.
-    std::span<const double, Length> Levels() const { return levels_; }
-    // Level of the last reading; there must be one.
+    // Level in dBm of the last reading's magnitude; there must be one.
     double LastLevel() const { return levels_[static_cast<std::size_t>(index_)]; }
 
-    // Sample standard deviation (divided by n - 1) of the levels in dB; nothing before the ring is
-    // full. The levels are kept as they come, so that a reading costs one logarithm.
+    // Both give nothing before the ring is full. The levels are kept as they come, so that a
+    // reading costs one logarithm.
     std::optional<double> Sigma() const;
+    std::optional<LevelStatistics> Statistics() const;
 
 private:
     std::array<double, Length> values_{};

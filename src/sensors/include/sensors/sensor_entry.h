@@ -3,7 +3,6 @@
 // working state of the measurement.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -13,17 +12,6 @@
 #include "sensors/settings_fields.h"
 
 namespace kelvra::sensors {
-
-// Statistics of one time slot.
-struct TimeSlotStat {
-    std::int16_t restart = -1;  // -1: set up at the next reading, else the next place in Values
-    std::vector<double> values = std::vector<double>(ReadingRing::Length);  // W
-    double power = 0;                                                       // this and below: dBm
-    double max = 0;
-    double min = 0;
-    double mean = 0;
-    double sigma = 0;  // dB
-};
 
 struct SensorEntry {
     std::string resourceName;  // driver resource descriptor; empty: the slot is free
@@ -40,8 +28,7 @@ struct SensorEntry {
     double lastReading = 0;        // W
     std::vector<double> results;   // W, of the latest array measurement
     ReadingRing history;
-    std::vector<TimeSlotStat> slotStats;
-    bool slotStatsFull = false;
+    std::vector<ReadingRing> slotStats;  // one for each time slot
     std::int32_t avgCountRead = 0;
     bool settingsChanged = false;
     SensorSettings settings = DefaultSettings();
