@@ -135,11 +135,9 @@ void Discovery::FindPresent() {
 
 void Discovery::Appear(int slot, const driver::DeviceListEntry& device) {
     SensorEntry& entry = p_.table[slot];
-    entry.sensorId = device.type + ";" + device.serial;
-    entry.newTraceData = false;
-    entry.newSlotData = false;
-    entry.slotStatsActive = false;
-    entry.present = true;
+    entry.Begin({.resourceName = device.resourceName,
+                 .present = true,
+                 .sensorId = device.type + ";" + device.serial});
     entry.enabled = !p_.table.SwitchedOff(entry);
     p_.table.slotReadings[static_cast<std::size_t>(slot)] = {};
     p_.windows.results.ClearValues(slot);
@@ -176,11 +174,10 @@ void Discovery::EnterSimulation() {
     for (const auto& sensor : simulated) {
         p_.windows.results.ClearValues(slot);
         SensorEntry& entry = p_.table[slot++];
-        sensors::ReleaseSlot(entry);
-        entry.enabled = true;
-        entry.present = true;
-        entry.logicalName = sensor.name;
-        entry.resourceName = sensor.resource;
+        entry.Begin({.resourceName = sensor.resource,
+                     .present = true,
+                     .enabled = true,
+                     .logicalName = sensor.name});
         p_.table.RememberSwitch(entry);
     }
     p_.table.simulationMode = true;

@@ -77,23 +77,13 @@ void PrepareWorkArrays(SensorTable& table, int slot) {
     }
 }
 
+void SensorEntry::Begin(SensorPresence presence) {
+    presence.slotStats.assign(slotStats.size(), {});
+    static_cast<SensorPresence&>(*this) = std::move(presence);
+}
+
 void ReleaseSlot(SensorEntry& entry) {
-    entry.enabled = false;
-    entry.sessionOpen = false;
-    entry.present = false;
-    entry.logicalName.clear();
-    entry.resourceName.clear();
-    entry.sensorId.clear();
-    // What was measured and reported is that sensor's; whoever takes the slot next starts clean.
-    entry.measPending = 0;
-    entry.waitTicks = 0;
-    entry.lastReading = 0;
-    entry.results.clear();
-    entry.history.Reset();
-    entry.avgCountRead = 0;
-    entry.settingsChanged = false;
-    entry.lastErrorText.clear();
-    entry.triggerNowRequest = false;
+    entry.Begin({});
 }
 
 }  // namespace kelvra::sensors

@@ -91,6 +91,23 @@ TEST(WorkArrays, AreThoseOfTheMode) {
     }
 }
 
+TEST(SensorEntry, KeepsOfTheSensorBeforeOnlyWhatBelongsToTheSlot) {
+    SensorEntry entry;
+    entry.Begin({.resourceName = "A", .present = true, .results = {1}});
+    entry.settings.Mode = Trace;
+    entry.slotTriggerCursor = 1;
+    entry.slotStats.resize(3);
+    entry.slotStats[2].Add(1);
+    ReleaseSlot(entry);
+    EXPECT_EQ(entry.resourceName, "");
+    EXPECT_FALSE(entry.present);
+    EXPECT_TRUE(entry.results.empty());
+    EXPECT_EQ(entry.settings.Mode, Trace);
+    EXPECT_EQ(entry.slotTriggerCursor, 1);
+    ASSERT_EQ(entry.slotStats.size(), 3U);
+    EXPECT_EQ(entry.slotStats[2].Index(), -1);
+}
+
 TEST(ReadingRing, HasASpreadFromItsThirtiethReadingOn) {
     ReadingRing ring;
     EXPECT_EQ(ring.Index(), -1);

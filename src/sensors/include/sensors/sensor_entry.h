@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One sensor position, connected, simulated or free: who the sensor is, its settings, and the
-// working state of the measurement.
+// One sensor position, connected, simulated or free: what belongs to the sensor that is there, and
+// what stays with the position.
 #pragma once
 
 #include <cstdint>
@@ -13,29 +13,37 @@
 
 namespace kelvra::sensors {
 
-struct SensorEntry {
-    std::string resourceName;  // driver resource descriptor; empty: the slot is free
+// From the appearance of a sensor until it goes: who it is and what has been measured with it.
+struct SensorPresence {
+    std::string resourceName{};  // driver resource descriptor; empty: the slot is free
     bool present = false;
     bool sessionOpen = false;  // its channel is open in the driver session
     bool enabled = false;      // takes part in measurements
     bool newSlotData = false;
     bool newTraceData = false;
     bool slotStatsActive = false;
-    std::string logicalName;
-    std::string sensorId;          // type, ";", serial number
-    std::int32_t measPending = 0;  // 1: started and not yet complete
-    std::int16_t waitTicks = 0;    // length of the activity bar, 0 .. 8
-    double lastReading = 0;        // W
-    std::vector<double> results;   // W, of the latest array measurement
-    ReadingRing history;
-    std::vector<ReadingRing> slotStats;  // one for each time slot
+    std::string logicalName{};
+    std::string sensorId{};         // type, ";", serial number
+    std::int32_t measPending = 0;   // 1: started and not yet complete
+    std::int16_t waitTicks = 0;     // length of the activity bar, 0 .. 8
+    double lastReading = 0;         // W
+    std::vector<double> results{};  // W, of the latest array measurement
+    ReadingRing history{};
+    std::vector<ReadingRing> slotStats{};  // one for each time slot
     std::int32_t avgCountRead = 0;
     bool settingsChanged = false;
-    SensorSettings settings = DefaultSettings();
-    std::string lastErrorText;
+    std::string lastErrorText{};
     bool triggerNowRequest = false;
-    std::int16_t slotTriggerCursor = 0;
+};
+
+struct SensorEntry : SensorPresence {
+    SensorSettings settings = DefaultSettings();  // until the next sensor's are read
+    std::int16_t slotTriggerCursor = 0;           // how many the display shows
     std::int16_t traceTriggerCursor = 0;
+
+    // Nothing is left of the presence before, except for how many time slots there are: they are
+    // counted by the settings, and start anew.
+    void Begin(SensorPresence presence);
 };
 
 }  // namespace kelvra::sensors

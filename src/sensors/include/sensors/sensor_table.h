@@ -84,8 +84,7 @@ private:
 // the ring of readings (continuous average, burst); the other modes have none.
 void PrepareWorkArrays(SensorTable& table, int slot);
 
-// The slot gives its sensor up: switched off, session closed, identity and readings empty, no
-// longer present. The settings stay until the next sensor's are read.
+// The slot gives its sensor up and is free.
 void ReleaseSlot(SensorEntry& entry);
 
 }  // namespace kelvra::sensors
