@@ -35,9 +35,10 @@ void Discovery::Tick() {
     else
         Simulation();
     if (p_.table.deviceTableChanged) SwitchPresentOn();
-    if (changed_) Repaint();
-    // The sensors that are left are found again by the next tick, from the first slot on.
-    if (vanished_ && !p_.table.simulationMode) ReleasePresent();
+    if (changed_) {
+        Repaint();
+        p_.modes.Find();
+    }
     p_.windows.lists.Refresh();
     p_.windows.errorStrip.Refresh();
 }
@@ -96,7 +97,11 @@ void Discovery::RealSensors() {
         p_.table.deviceTableChanged = true;
     }
     p_.table.simulationMode = false;
-    if (vanished_) return;
+    // Those that are left are found again at once, from the first slot on.
+    if (vanished_) {
+        ReleasePresent();
+        SizeTable();
+    }
     AssignDevices();
     FindPresent();
 }
@@ -139,20 +144,14 @@ void Discovery::Appear(int slot, const driver::DeviceListEntry& device) {
                  .present = true,
                  .sensorId = device.type + ";" + device.serial});
     entry.enabled = !p_.table.SwitchedOff(entry);
+    p_.windows.sensorName.FindGivenName(slot);
     p_.table.slotReadings[static_cast<std::size_t>(slot)] = {};
     p_.windows.results.ClearValues(slot);
-    if (!currentBefore_.empty() && entry.sensorId == currentBefore_)
-        p_.table.currentSensor = static_cast<std::int16_t>(slot);
     changed_ = true;
 }
 
 void Discovery::NameSensor(int slot, const driver::DeviceListEntry& device) {
-    const std::string name = device.name.empty()
-                                 ? util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)})
-                                 : device.name;
-    if (p_.table[slot].logicalName == name) return;
-    p_.table[slot].logicalName = name;
-    changed_ = true;
+    if (p_.windows.sensorName.Name(slot, device.name)) changed_ = true;
 }
 
 void Discovery::Simulation() {
@@ -191,10 +190,8 @@ void Discovery::SwitchPresentOn() {
     changed_ = true;
 }
 
-// Their settings have been saved with those of the sensor that went. Whoever is the current sensor
-// stays it, in whatever slot it is found again.
+// Their settings have been saved with those of the sensor that went.
 void Discovery::ReleasePresent() {
-    currentBefore_ = p_.table[p_.table.currentSensor].sensorId;
     for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
     sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
 }

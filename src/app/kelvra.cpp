@@ -10,13 +10,14 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       driverSession(session, library.instrument, log, table, host.clock, sessionNews.notices),
       transfer(driverSession, table, sessionNews),
       readings(driverSession, table, host.random),
-      cycle({table, state, host, driverSession, transfer, readings, news}),
+      modes(table, state, news),
+      cycle({table, state, host, driverSession, transfer, readings, modes, news}),
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
       windows(forms, table, state, cycle, host),
       store(host.files, log, windows.notice),
-      discovery({forms, table, catalogue, session, state, windows, store}),
-      settingsCommands_(forms, table, host) {
+      discovery({forms, table, catalogue, session, state, modes, windows, store}),
+      settingsCommands_(forms, table, modes, host) {
     Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { Exit(); });
     forms.mdiMain.closeRequest.Connect([this] { Exit(); });

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings_commands.h"
 
+#include <optional>
+#include <utility>
+
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
 
@@ -11,8 +14,8 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   platform::Host& host)
-    : table_(table), host_(host) {
+                                   measure::Modes& modes, platform::Host& host)
+    : table_(table), modes_(modes), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -21,15 +24,19 @@ void SettingsCommands::LoadSensorSettings() {
     platform::FileQuestion question;
     question.title = "Load sensor configuration";
     question.filter = "Sensor Configuration (*.ini)|*.ini|All files (*.*)|*.*";
-    const auto path = AskFile(question);
-    if (!path) return;
-    platform::ProfileFile file(host_.files, *path);
-    if (file.LoadError()) {
-        Tell("read", *path, file.LoadError());
-        return;
-    }
-    sensors::TransferSettings(table_[table_.currentSensor].settings, file.Text(), Stem,
-                              sensors::Transfer::Read);
+    AskFile(question, [this](const std::string& path) { Load(path); });
+}
+
+void SettingsCommands::Load(const std::string& path) {
+    platform::ProfileFile file(host_.files, path);
+    if (file.LoadError()) return Complain("read", path, file.LoadError());
+    sensors::SensorEntry& entry = table_[table_.currentSensor];
+    const std::int32_t mode = entry.settings.Mode;
+    sensors::TransferSettings(entry.settings, file.Text(), Stem, sensors::Transfer::Read);
+    entry.settingsChanged = true;
+    if (entry.settings.Mode == mode) return;
+    sensors::ChangeMode(table_, table_.currentSensor);
+    modes_.Find();
 }
 
 void SettingsCommands::SaveSensorSettings() {
@@ -38,26 +45,28 @@ void SettingsCommands::SaveSensorSettings() {
     question.filter = "Sensor Configuration (*.ini)|*.ini";
     question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), "Settings.ini");
     question.save = true;
-    const auto path = AskFile(question);
-    if (!path) return;
+    AskFile(question, [this](const std::string& path) { Save(path); });
+}
+
+void SettingsCommands::Save(const std::string& path) {
     const std::error_code error = sensors::TransferSettings(
-        table_[table_.currentSensor].settings, host_.files, *path, Stem, sensors::Transfer::Write);
-    if (error) Tell("saved", *path, error);
+        table_[table_.currentSensor].settings, host_.files, path, Stem, sensors::Transfer::Write);
+    if (error) Complain("saved", path, error);
 }
 
-// Events run while the dialog is open: the sensor may be another one afterwards.
-std::optional<std::string> SettingsCommands::AskFile(const platform::FileQuestion& question) {
+void SettingsCommands::AskFile(const platform::FileQuestion& question,
+                               std::function<void(const std::string& path)> goOn) {
     const std::string sensor = table_[table_.currentSensor].sensorId;
-    auto path = host_.dialogs.AskFile(question);
-    if (!path || path->empty()) return std::nullopt;
-    if (table_[table_.currentSensor].sensorId == sensor) return path;
-    host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
-                          platform::MessageIcon::Exclamation);
-    return std::nullopt;
+    host_.dialogs.AskFile(question, [this, sensor, goOn](std::optional<std::string> path) {
+        if (!path || path->empty()) return;
+        if (table_[table_.currentSensor].sensorId == sensor) return goOn(*path);
+        host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
+                              platform::MessageIcon::Exclamation);
+    });
 }
 
-void SettingsCommands::Tell(const char* what, const std::string& path,
-                            const std::error_code& error) {
+void SettingsCommands::Complain(const char* what, const std::string& path,
+                                const std::error_code& error) {
     host_.dialogs.Message({},
                           std::string("The settings could not be ") + what + ".\r\n" + path +
                               "\r\n" + error.message(),

@@ -24,7 +24,7 @@ std::string Number(int value) {
 
 void Kelvra::Start() {
     controls::Geometry place = forms.mdiMain.place;
-    const platform::ScreenSize screen = host.computer.Screen();
+    const platform::ScreenSize screen = host.dialogs.Screen();
     place.left = (screen.width - place.width) / 2;
     place.top = (screen.height - place.height) / 6;
     forms.mdiMain.place = place;

@@ -7,7 +7,7 @@ namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
                  measure::Cycle& cycle, platform::Host& host)
-    : notice(forms.mdiMain),
+    : notice(forms.mdiMain, table),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
       lists(forms, table, selection),
@@ -20,13 +20,13 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       displayLists(forms, table),
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
-      sensorName(forms, table, host, results, selection, lists) {}
+      sensorName({forms.setupForm, table, host.computer, results, selection, lists, notice}) {}
 
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
-             &runButtons, &lists, &results, &errorStrip, &displayLists, &mainWindow, &speed,
-             &calcGrid, &notice, &recordMenu, &startMessages})
+             &runButtons, &sensorName, &lists, &results, &errorStrip, &displayLists, &mainWindow,
+             &speed, &calcGrid, &notice, &recordMenu, &startMessages})
         news.measurement.Add(*listener);
     news.slot.Add(marks);
     news.slot.Add(results);

@@ -23,16 +23,27 @@ void ScriptDialogs::Message(const std::string& title, const std::string& text,
     Write("message", title.empty() ? ProgramName : title, text);
 }
 
-std::optional<std::string> ScriptDialogs::Prompt(const std::string& text, const std::string&) {
-    auto answer = NextAnswer();
-    Write("prompt", text, answer.value_or(""));
-    return answer;
+void ScriptDialogs::LastMessage(const std::string& text) {
+    Write("message", ProgramName, text);
 }
 
-std::optional<std::string> ScriptDialogs::AskFile(const platform::FileQuestion& question) {
-    auto answer = NextAnswer();
-    Write("dialog", question.title, answer.value_or(""));
-    return answer;
+void ScriptDialogs::Ask(const char* kind, const std::string& what, const Answer& answer) {
+    auto text = NextAnswer();
+    Write(kind, what, text.value_or(""));
+    answer(std::move(text));
+}
+
+void ScriptDialogs::Prompt(const std::string& text, const std::string&, Answer answer) {
+    Ask("prompt", text, answer);
+}
+
+void ScriptDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
+    Ask("dialog", question.title, answer);
+}
+
+platform::ScreenSize ScriptDialogs::Screen() {
+    constexpr int twipsPerPixel = 15;
+    return {1280 * twipsPerPixel, 800 * twipsPerPixel};
 }
 
 void ScriptDialogs::OpenHelp(const std::string& file, int topic) {

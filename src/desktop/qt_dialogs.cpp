@@ -5,10 +5,13 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QUrl>
 
+#include "desktop/common.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -16,6 +19,10 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int PromptWidth = 480;  // a formula is longer than a usual answer
+
+QString ProgramName() {
+    return QCoreApplication::applicationName();
+}
 
 QMessageBox::Icon ToolkitIcon(platform::MessageIcon icon) {
     switch (icon) {
@@ -33,21 +40,46 @@ QMessageBox::Icon ToolkitIcon(platform::MessageIcon icon) {
 
 void QtDialogs::Message(const std::string& title, const std::string& text,
                         platform::MessageIcon icon) {
-    QMessageBox box(ToolkitIcon(icon),
-                    title.empty() ? QCoreApplication::applicationName() : Shown(title),
-                    Shown(text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
+    auto* box = new QMessageBox(ToolkitIcon(icon), title.empty() ? ProgramName() : Shown(title),
+                                Shown(text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    waiting_.push_back(box);
+    if (shown_ == nullptr) ShowNext();
+}
+
+void QtDialogs::ShowNext() {
+    if (waiting_.empty()) return;
+    shown_ = waiting_.front();
+    waiting_.pop_front();
+    QObject::connect(shown_, &QDialog::finished, [this] {
+        shown_ = nullptr;
+        ShowNext();
+    });
+    shown_->open();
+}
+
+void QtDialogs::LastMessage(const std::string& text) {
+    QMessageBox box(QMessageBox::Warning, ProgramName(), Shown(text).replace("\r\n", "\n"),
+                    QMessageBox::Ok, parent_);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
-std::optional<std::string> QtDialogs::Prompt(const std::string& text, const std::string& proposed) {
-    QInputDialog dialog(parent_);
-    dialog.setWindowTitle(QCoreApplication::applicationName());
-    dialog.setLabelText(Shown(text));
-    dialog.setTextValue(Shown(proposed));
-    dialog.resize(PromptWidth, dialog.sizeHint().height());
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    return Bytes(dialog.textValue());
+void QtDialogs::Prompt(const std::string& text, const std::string& proposed, Answer answer) {
+    auto* dialog = new QInputDialog(parent_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(ProgramName());
+    dialog->setLabelText(Shown(text));
+    dialog->setTextValue(Shown(proposed));
+    dialog->resize(PromptWidth, dialog->sizeHint().height());
+    QObject::connect(dialog, &QDialog::finished, [dialog, answer](int result) {
+        if (result == QDialog::Accepted)
+            answer(Bytes(dialog->textValue()));
+        else
+            answer(std::nullopt);
+    });
+    dialog->open();
 }
 
 QString ToolkitFilter(const std::string& filter) {
@@ -61,19 +93,30 @@ QString ToolkitFilter(const std::string& filter) {
     return filters.join(";;");
 }
 
-std::optional<std::string> QtDialogs::AskFile(const platform::FileQuestion& question) {
+void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     const QStringList filters = ToolkitFilter(question.filter).split(";;");
     const QString proposed = Shown(question.proposed);
-    QFileDialog dialog(parent_, Shown(question.title), QFileInfo(proposed).path());
-    dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(question.filterIndex - 1));
-    dialog.selectFile(proposed);
+    auto* dialog = new QFileDialog(parent_, Shown(question.title), QFileInfo(proposed).path());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog->setNameFilters(filters);
+    dialog->selectNameFilter(filters.value(question.filterIndex - 1));
+    dialog->selectFile(proposed);
     // A name without a suffix gets that of the proposed one, as the filter lists it.
-    dialog.setDefaultSuffix(QFileInfo(proposed).suffix());
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    return Bytes(dialog.selectedFiles().value(0));
+    dialog->setDefaultSuffix(QFileInfo(proposed).suffix());
+    QObject::connect(dialog, &QDialog::finished, [dialog, answer](int result) {
+        if (result == QDialog::Accepted)
+            answer(Bytes(dialog->selectedFiles().value(0)));
+        else
+            answer(std::nullopt);
+    });
+    dialog->open();
+}
+
+platform::ScreenSize QtDialogs::Screen() {
+    const QSize size = QGuiApplication::primaryScreen()->availableSize();
+    return {Twips(size.width()), Twips(size.height())};
 }
 
 void QtDialogs::OpenHelp(const std::string& file, int) {

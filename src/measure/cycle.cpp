@@ -14,6 +14,8 @@ namespace {
 constexpr auto AwaitedAfter = milliseconds(1000);
 // A round in which nothing completed waits for an event instead of spinning.
 constexpr auto PollingPatience = milliseconds(1);
+// A simulated pass takes as long as no event comes: what nobody can see is not worth a processor.
+constexpr auto SimulatedPass = milliseconds(20);
 constexpr std::int16_t LongestBar = 8;
 
 }  // namespace
@@ -24,25 +26,28 @@ bool Cycle::Takes(int slot) const {
 }
 
 void Cycle::Pass() {
-    pacing_.PassBegins();
+    const platform::Duration passBegan = p_.host.clock.Monotonic();
+    pacing_.PassBegins(passBegan);
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) continue;
         const bool prepared = PrepareSlot(slot);
         if (!prepared || p_.state.Ending()) return;
+        rounds_.AfterCall();
     }
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
     const auto& listeners = p_.news.measurement;
     const platform::Duration began = p_.host.clock.Monotonic();
     Initiate();
-    listeners.Tell(&MeasurementListener::PassStarted, began);
+    listeners.Tell(&MeasurementListener::PassStarted);
     Poll(began);
     if (p_.state.Ending()) return;
-    listeners.Tell(&MeasurementListener::PassComplete);
     Fetch();
+    if (p_.state.Ending()) return;
     listeners.Tell(&MeasurementListener::PassMeasured);
-    p_.host.events.DoEvents();
+    p_.host.events.DoEvents(p_.table.simulationMode ? SimulatedPass : milliseconds(0));
     if (p_.state.exiting) return;
-    listeners.Tell(&MeasurementListener::PassSeen);
+    const platform::Duration now = p_.host.clock.Monotonic();
+    listeners.Tell(&MeasurementListener::PassSeen, now, now - passBegan);
     pacing_.WaitForDeadline();
     if (p_.state.exiting) return;
     listeners.Tell(&MeasurementListener::PassEnded);
@@ -105,14 +110,16 @@ void Cycle::Poll(platform::Duration began) {
     run_.lastAwaited = began;
     bool allDone = false;
     for (platform::Duration now = began; !allDone && !p_.state.Ending();) {
+        rounds_.Restart(now);
         allDone = true;
         bool progress = false;
-        for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
             const sensors::SensorEntry& entry = p_.table[slot];
             if (!entry.sessionOpen || entry.measPending != 1 || entry.settingsChanged) continue;
             const bool complete = PollSlot(slot, now);
             progress = progress || complete;
             allDone = allDone && complete;
+            rounds_.AfterCall();
         }
         p_.host.events.DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
         if (!allDone) now = p_.host.clock.Monotonic();
@@ -157,9 +164,11 @@ void Cycle::TellAwaited(int slot, driver::Status status, platform::Duration now)
 }
 
 void Cycle::Fetch() {
-    for (int slot = 0; slot < p_.table.Slots(); ++slot)
-        if (Takes(slot) && p_.table[slot].sessionOpen && !p_.table[slot].settingsChanged)
-            FetchSlot(slot);
+    for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
+        if (!Takes(slot) || !p_.table[slot].sessionOpen || p_.table[slot].settingsChanged) continue;
+        FetchSlot(slot);
+        rounds_.AfterCall();
+    }
 }
 
 void Cycle::FetchSlot(int slot) {
@@ -185,9 +194,9 @@ void Cycle::FetchSlot(int slot) {
     }
 }
 
-// Every measurement opens and closes its own session; a simulated one has none.
+// Every measurement opens and closes its own session.
 void Cycle::Close() {
-    if (!p_.state.exiting && !p_.table.simulationMode) p_.session.Close();
+    if (!p_.state.exiting) p_.session.Close();
 }
 
 }  // namespace kelvra::measure

@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <chrono>
-
 #include "measure/cycle.h"
 
 namespace kelvra::measure {
 
-namespace {
-
-// Opening many sensors takes long; Stop must get through meanwhile.
-constexpr auto LongestWithoutEvents = std::chrono::milliseconds(400);
-
-}  // namespace
-
-Cycle::Cycle(const CycleParts& parts) : p_(parts), pacing_(parts.state, parts.host, parts.news) {}
+Cycle::Cycle(const CycleParts& parts)
+    : p_(parts), pacing_(parts.state, parts.host, parts.news), rounds_(parts.host) {}
 
 void Cycle::Start() {
     const CommandGuard guard(p_.state);
@@ -46,8 +38,7 @@ void Cycle::Begin() {
     pacing_.Reset();
     BringEnabledToFront();
     p_.news.measurement.Tell(&MeasurementListener::Started);
-    FindModes();
-    p_.news.measurement.Tell(&MeasurementListener::ModesChanged);
+    p_.modes.Find();
 }
 
 void Cycle::Stop() {
@@ -72,20 +63,9 @@ void Cycle::BringEnabledToFront() {
         run_.measured.push_back(table[slot].present && table[slot].enabled);
 }
 
-void Cycle::FindModes() {
-    p_.state.timeSlotModeActive = false;
-    p_.state.traceModeActive = false;
-    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
-        if (!Takes(slot)) continue;
-        const std::int32_t mode = p_.table[slot].settings.Mode;
-        if (mode == sensors::TimeSlot) p_.state.timeSlotModeActive = true;
-        if (mode == sensors::Trace) p_.state.traceModeActive = true;
-    }
-}
-
 Cycle::Opened Cycle::OpenSensors() {
     bool operational = false;
-    platform::Duration lastRound = p_.host.clock.Monotonic();
+    rounds_.Restart(p_.host.clock.Monotonic());
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) {
             p_.table[slot].sessionOpen = false;
@@ -95,7 +75,7 @@ Cycle::Opened Cycle::OpenSensors() {
         if (p_.state.Ending()) return Opened::Ended;
         if (!opened) return Opened::Failed;
         operational = true;
-        LetEventsRunIfLate(lastRound);
+        rounds_.AfterCall();
         if (p_.state.Ending()) return Opened::Ended;
     }
     return operational ? Opened::All : Opened::None;
@@ -122,12 +102,6 @@ void Cycle::TellSwitchedOff(int slot) {
 
 void Cycle::FailStart(StartFailure why) {
     p_.news.measurement.Tell(&MeasurementListener::StartFailed, why);
-}
-
-void Cycle::LetEventsRunIfLate(platform::Duration& lastRound) {
-    if (p_.host.clock.Monotonic() - lastRound <= LongestWithoutEvents) return;
-    p_.host.events.DoEvents();
-    lastRound = p_.host.clock.Monotonic();
 }
 
 }  // namespace kelvra::measure

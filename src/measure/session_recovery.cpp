@@ -19,10 +19,12 @@ void SessionRecovery::SensorFailed(int /*slot*/, const std::string& text) {
 void SessionRecovery::TransferEnds(int slot) {
     if (!handleRefused_ || recoveredInStart_ == p_.state.starts) return;
     recoveredInStart_ = p_.state.starts;
-    const bool reopened = Reopen(slot);
+    const bool recording = p_.state.recordInterval > 0;
+    const bool answers = Reopen(slot);
     if (p_.state.exiting) return;
     p_.cycle.Stop();
-    p_.news.measurement.Tell(&MeasurementListener::SessionRecovered, reopened);
+    p_.news.measurement.Tell(&MeasurementListener::SessionLost,
+                             LostSession{slot, answers, recording});
     p_.events.DoEvents();
 }
 

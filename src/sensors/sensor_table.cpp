@@ -77,6 +77,13 @@ void PrepareWorkArrays(SensorTable& table, int slot) {
     }
 }
 
+void ChangeMode(SensorTable& table, int slot) {
+    SensorEntry& entry = table[slot];
+    entry.results.clear();
+    entry.newSlotData = entry.newTraceData = false;
+    PrepareWorkArrays(table, slot);
+}
+
 void SensorEntry::Begin(SensorPresence presence) {
     presence.slotStats.assign(slotStats.size(), {});
     static_cast<SensorPresence&>(*this) = std::move(presence);

@@ -106,9 +106,11 @@ std::string CalcGrid::BindReadings(parser::MathParser& parser) {
 // Whatever the prompt gives back is the cell's new text; a cancelled one empties the cell.
 void CalcGrid::EditCell(int row, int column) {
     if (row < 1 || row > FormulaRows) return;
-    const std::string answer =
-        host_.dialogs.Prompt("INPUT:", grid_.At(row, column).Text()).value_or("");
-    SetGridCell(grid_, row, column, answer, Align::Left, false, false);
+    host_.dialogs.Prompt("INPUT:", grid_.At(row, column).Text(),
+                         [this, row, column](const std::optional<std::string>& answer) {
+                             SetGridCell(grid_, row, column, answer.value_or(""), Align::Left,
+                                         false, false);
+                         });
 }
 
 }  // namespace kelvra::ui

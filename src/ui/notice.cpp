@@ -56,10 +56,12 @@ void Notice::PassEnded() {
     if (!standing) window_.lblMeasAwait.caption = " ";
 }
 
-void Notice::SessionRecovered(bool reopened) {
-    Set(Rank::Course, std::string("The driver session was lost and ") +
-                          (reopened ? "has been opened again" : "could not be opened again") +
-                          ". The measurement, and a recording, has ended.");
+void Notice::SessionLost(const measure::LostSession& lost) {
+    const std::string& name = table_[lost.slot].logicalName;
+    Set(Rank::Course,
+        "Sensor " + name + " had lost its session. The measurement" +
+            (lost.wasRecording ? " and the recording have" : " has") + " ended. " +
+            (lost.answersAgain ? "The sensor answers again." : "The sensor does not answer."));
 }
 
 }  // namespace kelvra::ui

@@ -89,6 +89,8 @@ void ResultTable::ReadingArrived(int slot) {
     show(CountColumn, util::CountFigure(entry.avgCountRead, numbers_), Align::Centre);
     if (const auto sigma = entry.history.Sigma())
         show(SigmaColumn, util::FixedFigure(*sigma, numbers_), Align::Centre);
+    else
+        SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false);
 }
 
 void ResultTable::ToggleEnabled(int slot) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/sensor_name.h"
 
-#include <string>
+#include <string_view>
+#include <system_error>
 
 #include "driver/session.h"
 #include "util/number_text.h"
@@ -10,33 +11,71 @@
 namespace kelvra::ui {
 
 namespace {
+
 constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
+
+bool IsBlank(std::string_view name) {
+    return util::TrimSpaces(name).empty();
+}
+
+std::string SlotName(int slot) {
+    return util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
+}
+
 }  // namespace
 
-SensorName::SensorName(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host,
-                       ResultTable& results, SensorSelection& selection, SelectionLists& lists)
-    : forms_(forms), table_(table), host_(host), results_(results), lists_(lists) {
-    selection.listeners.Add(*this);
-    forms_.setupForm.SensLogicalName.commit.Connect(
-        [this] { StoreLogicalName(table_.currentSensor); });
+SensorName::SensorName(const Parts& parts) : p_(parts) {
+    p_.selection.listeners.Add(*this);
+    p_.dialog.SensLogicalName.commit.Connect([this] { StoreLogicalName(p_.table.currentSensor); });
 }
 
 void SensorName::CurrentSensorChanged() {
-    forms_.setupForm.SensLogicalName.SetText(table_[table_.currentSensor].logicalName);
+    p_.dialog.SensLogicalName.SetText(p_.table[p_.table.currentSensor].logicalName);
+}
+
+void SensorName::Started() {
+    for (int slot = 0; slot < p_.table.Slots(); ++slot)
+        if (p_.table[slot].namedBySlot) p_.table[slot].logicalName = SlotName(slot);
+}
+
+void SensorName::FindGivenName(int slot) {
+    sensors::SensorEntry& entry = p_.table[slot];
+    if (p_.computer.KeepsRegistry())
+        entry.givenName = p_.computer.ReadRegistry(NamesKey, entry.sensorId).value_or("");
+}
+
+bool SensorName::Name(int slot, const std::string& listed) {
+    sensors::SensorEntry& entry = p_.table[slot];
+    const std::string& own = IsBlank(entry.givenName) ? listed : entry.givenName;
+    entry.namedBySlot = IsBlank(own);
+    std::string name = entry.namedBySlot ? SlotName(slot) : own;
+    if (entry.logicalName == name) return false;
+    entry.logicalName = std::move(name);
+    return true;
 }
 
 void SensorName::StoreLogicalName(int slot) {
-    if (!table_[slot].present) return;
-    controls::TextBox& box = forms_.setupForm.SensLogicalName;
-    if (box.Text().empty())
-        box.SetText(util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)}));
-    sensors::SensorEntry& entry = table_[slot];
+    if (!p_.table[slot].present) return;
+    controls::TextBox& box = p_.dialog.SensLogicalName;
+    sensors::SensorEntry& entry = p_.table[slot];
+    entry.namedBySlot = IsBlank(box.Text());
+    if (entry.namedBySlot) box.SetText(SlotName(slot));
     entry.logicalName = box.Text();
-    if (!entry.sensorId.empty())
-        host_.computer.WriteRegistry(NamesKey, entry.sensorId,
-                                     std::string(util::TrimSpaces(entry.logicalName)));
-    if (entry.enabled) results_.PaintName(slot);
-    lists_.Refresh();
+    entry.givenName = entry.namedBySlot ? std::string() : entry.logicalName;
+    if (!entry.sensorId.empty()) Store(slot);
+    if (entry.enabled) p_.results.PaintName(slot);
+    p_.lists.Refresh();
+}
+
+void SensorName::Store(int slot) {
+    const sensors::SensorEntry& entry = p_.table[slot];
+    const std::string name(util::TrimSpaces(entry.logicalName));
+    const std::error_code error = p_.computer.WriteRegistry(NamesKey, entry.sensorId, name);
+    if (error)
+        p_.notice.ShowFileTrouble(NamesKey,
+                                  "The name of the sensor could not be stored: " + error.message());
+    else
+        p_.notice.EndFileTrouble(NamesKey);
 }
 
 }  // namespace kelvra::ui

@@ -13,9 +13,14 @@ void SensorSelection::Select(int slot) {
 }
 
 void SensorSelection::Refresh() {
-    if (table_[table_.currentSensor].present) return Tell();
-    for (int slot = 0; slot < table_.Slots(); ++slot)
-        if (table_[slot].present && table_[slot].enabled) return Select(slot);
+    const auto first = [&](auto wanted) {
+        for (int slot = 0; slot < table_.Slots(); ++slot)
+            if (table_[slot].present && wanted(table_[slot])) return slot;
+        return -1;
+    };
+    const int same = first(
+        [&](const sensors::SensorEntry& entry) { return entry.resourceName == known_.sensor; });
+    Select(same >= 0 ? same : first([](const auto& entry) { return entry.enabled; }));
 }
 
 void SensorSelection::Tell() {

@@ -13,18 +13,33 @@ constexpr auto UpdateInterval = std::chrono::seconds(1);
 constexpr int BusyPictures = 8;
 }  // namespace
 
-void SpeedLabel::PassComplete() {
-    counted_.time += host_.clock.Monotonic() - startedAt_;
+void SpeedLabel::Started() {
+    counted_ = {};
+    lastMove_ = host_.clock.Monotonic();
+}
+
+void SpeedLabel::Awaited(int /*slot*/, const std::string& /*complaint*/) {
+    MoveBusyPicture(host_.clock.Monotonic());
+}
+
+void SpeedLabel::PassWaits(platform::Duration /*left*/) {
+    MoveBusyPicture(host_.clock.Monotonic());
+}
+
+void SpeedLabel::PassSeen(platform::Duration now, platform::Duration lasted) {
+    MoveBusyPicture(now);
+    counted_.time += lasted;
     ++counted_.passes;
     if (counted_.time <= UpdateInterval) return;
     const double seconds = std::chrono::duration<double>(counted_.time).count();
     window_.MeasSpeedInfo.caption =
         util::FixedText(counted_.passes / seconds, 0, host_.computer.Numbers()) + " /s";
     counted_ = {};
-    AdvanceBusyPicture();
 }
 
-void SpeedLabel::AdvanceBusyPicture() {
+void SpeedLabel::MoveBusyPicture(platform::Duration now) {
+    if (now - lastMove_ <= UpdateInterval) return;
+    lastMove_ = now;
     const auto shown = util::ReadWholeNumber(window_.BusySign.tag.Get()).value_or(0);
     const auto next = shown >= BusyPictures || shown < 0 ? 1 : shown + 1;
     const std::string number = util::TrimmedNumberText(next);

@@ -61,20 +61,26 @@ public:
         bool operator==(const Shown&) const = default;
     };
     std::vector<Shown> messages;
-    std::function<void()> onMessage;        // while a message box stands
-    std::optional<std::string> fileAnswer;  // nothing: the person cancels
-    platform::FileQuestion fileQuestion;    // the last one
+    std::function<void()> onMessage;             // while a message box stands
+    std::optional<std::string> fileAnswer;       // nothing: the person cancels
+    platform::FileQuestion fileQuestion;         // the last one
+    std::function<void(Answer)> onFileQuestion;  // keeps the answer for later
 
     void Message(Text title, Text text, platform::MessageIcon) override {
         messages.push_back({title, text});
         if (onMessage) onMessage();
     }
-    std::optional<std::string> Prompt(Text, Text) override { return std::nullopt; }
-    std::optional<std::string> AskFile(const platform::FileQuestion& question) override {
+    void LastMessage(Text text) override { Message({}, text, platform::MessageIcon::None); }
+    void Prompt(Text, Text, Answer answer) override { answer(std::nullopt); }
+    void AskFile(const platform::FileQuestion& question, Answer answer) override {
         fileQuestion = question;
-        return fileAnswer;
+        if (onFileQuestion)
+            onFileQuestion(std::move(answer));
+        else
+            answer(fileAnswer);
     }
     void OpenHelp(Text, int) override {}
+    platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 
 using FunctionTable = std::map<std::string, void*>;
@@ -111,10 +117,18 @@ public:
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
         return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
     }
-    void WriteRegistry(Text key, Text name, Text value) override {
+    std::error_code registryError;
+    std::map<std::string, std::string> names;  // in the registry, by their names there
+    std::error_code WriteRegistry(Text key, Text name, Text value) override {
         registry.push_back(key + "|" + name + "|" + value);
+        if (!registryError) names.insert_or_assign(name, value);
+        return registryError;
     }
-    platform::ScreenSize Screen() override { return {28800, 16200}; }
+    std::optional<std::string> ReadRegistry(Text, Text name) override {
+        const auto found = names.find(name);
+        return found == names.end() ? std::nullopt : std::optional(found->second);
+    }
+    bool KeepsRegistry() const override { return true; }
 };
 
 struct FakeHost {

@@ -107,16 +107,18 @@ LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {
     return loaded;
 }
 
-void PosixComputer::WriteRegistry(const std::string& key, const std::string& name,
-                                  const std::string& value) {
+std::error_code PosixComputer::WriteRegistry(const std::string& key, const std::string& name,
+                                             const std::string& value) {
     ProfileFile registry(files_, Join(dataDir_, "registry.ini"));
     registry.Text().Write(key, name, value);
-    registry.Save();  // a failed write is ignored, as the interface says
+    return registry.Save();
 }
 
-ScreenSize PosixComputer::Screen() {
-    constexpr int twipsPerPixel = 15;
-    return {1280 * twipsPerPixel, 800 * twipsPerPixel};
+std::optional<std::string> PosixComputer::ReadRegistry(const std::string& key,
+                                                       const std::string& name) {
+    ProfileFile registry(files_, Join(dataDir_, "registry.ini"));
+    const std::string value(registry.Text().Read(key, name, ""));
+    return value.empty() ? std::nullopt : std::optional(value);
 }
 
 }  // namespace kelvra::platform

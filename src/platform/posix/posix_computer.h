@@ -38,11 +38,13 @@ public:
     LoadedLibrary LoadDriverLibrary(const std::string& name) override;
 
     // A section for each key, in "registry.ini" of the data folder.
-    void WriteRegistry(const std::string& key, const std::string& name,
-                       const std::string& value) override;
+    std::error_code WriteRegistry(const std::string& key, const std::string& name,
+                                  const std::string& value) override;
+    std::optional<std::string> ReadRegistry(const std::string& key,
+                                            const std::string& name) override;
+    bool KeepsRegistry() const override { return true; }
 
     // A usual size; a front end that has a screen knows better.
-    ScreenSize Screen() override;
 
 private:
     Files& files_;

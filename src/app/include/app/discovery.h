@@ -12,6 +12,7 @@
 #include "driver/device_list.h"
 #include "driver/session.h"
 #include "forms/forms.h"
+#include "measure/modes.h"
 #include "measure/state.h"
 #include "sensors/sensor_table.h"
 
@@ -23,6 +24,7 @@ struct DiscoveryParts {
     driver::DeviceCatalogue& catalogue;
     driver::SessionState& session;
     measure::MeasureState& state;
+    measure::Modes& modes;
     Windows& windows;
     SettingsStore& store;
 };
@@ -54,9 +56,8 @@ private:
 
     DiscoveryParts p_;
     bool running_ = false;
-    std::string currentBefore_;  // SensorId of the current sensor when all were released
-    bool changed_ = false;       // in this tick: the table is to be painted
-    bool vanished_ = false;      // in this tick: a known sensor has gone
+    bool changed_ = false;   // in this tick: the table is to be painted
+    bool vanished_ = false;  // in this tick: a known sensor has gone
 };
 
 }  // namespace kelvra::app

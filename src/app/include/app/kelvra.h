@@ -53,6 +53,7 @@ public:
     driver::Session driverSession;
     driver::ConfigurationTransfer transfer;
     measure::Readings readings;
+    measure::Modes modes;
     measure::Cycle cycle;
     measure::SessionRecovery recovery;
     Windows windows;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The File menu's entries that load and save the current sensor's settings from and to a file of
-// the user's choice.
+// the user's choice. Measuring goes on while the file is chosen.
 #pragma once
 
-#include <optional>
+#include <functional>
 #include <string>
 #include <system_error>
 
 #include "forms/forms.h"
+#include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 
@@ -15,20 +16,27 @@ namespace kelvra::app {
 
 class SettingsCommands {
 public:
-    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, platform::Host& host);
+    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
+                     platform::Host& host);
 
-    // The settings in memory are replaced; they reach the sensor with its next transfer. A file
-    // that can't be read leaves them as they were, and is told.
+    // The settings are replaced, which counts as an edit: they reach the sensor before its next
+    // measurement. A file that can't be read leaves them as they were, and a message says so.
     void LoadSensorSettings();
-    // Keys of an existing file are overwritten, everything else in it stays. A failure is told.
+    // Keys of an existing file are overwritten, everything else in it stays. A message says when it
+    // failed.
     void SaveSensorSettings();
 
 private:
-    // Asks for a file; nothing when cancelled, or when the current sensor has gone meanwhile.
-    std::optional<std::string> AskFile(const platform::FileQuestion& question);
-    void Tell(const char* what, const std::string& path, const std::error_code& error);
+    // Asks for a file and goes on with it; not when cancelled, nor when the current sensor is
+    // another one by then.
+    void AskFile(const platform::FileQuestion& question,
+                 std::function<void(const std::string& path)> goOn);
+    void Load(const std::string& path);
+    void Save(const std::string& path);
+    void Complain(const char* what, const std::string& path, const std::error_code& error);
 
     sensors::SensorTable& table_;
+    measure::Modes& modes_;
     platform::Host& host_;
 };
 

@@ -21,13 +21,16 @@ public:
 
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
-    std::optional<std::string> Prompt(const std::string& text,
-                                      const std::string& proposed) override;
-    std::optional<std::string> AskFile(const platform::FileQuestion& question) override;
+    void LastMessage(const std::string& text) override;
+    void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
+    void AskFile(const platform::FileQuestion& question, Answer answer) override;
     void OpenHelp(const std::string& file, int topic) override;
+    // One that never differs, so that a script gives the same everywhere.
+    platform::ScreenSize Screen() override;
 
 private:
     std::optional<std::string> NextAnswer();
+    void Ask(const char* kind, const std::string& what, const Answer& answer);
     void Write(const char* kind, const std::string& what, const std::string& answer);
 
     Output& output_;

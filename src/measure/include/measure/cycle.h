@@ -9,7 +9,9 @@
 
 #include "driver/session.h"
 #include "driver/transfer.h"
+#include "measure/event_rounds.h"
 #include "measure/listener.h"
+#include "measure/modes.h"
 #include "measure/pacing.h"
 #include "measure/readings.h"
 #include "measure/state.h"
@@ -26,7 +28,8 @@ struct CycleParts {
     driver::Session& session;
     driver::ConfigurationTransfer& transfer;
     Readings& readings;
-    News& news;
+    Modes& modes;
+    const News& news;
 };
 
 class Cycle {
@@ -53,12 +56,10 @@ private:
     // cycle_start.cpp
     void Begin();
     void BringEnabledToFront();
-    void FindModes();
     Opened OpenSensors();
     bool OpenAndConfigure(int slot);
     void TellSwitchedOff(int slot);
     void FailStart(StartFailure why);
-    void LetEventsRunIfLate(platform::Duration& lastRound);
 
     // cycle.cpp
     void Pass();
@@ -79,6 +80,7 @@ private:
 
     CycleParts p_;
     Pacing pacing_;
+    EventRounds rounds_;
     Run run_;
 };
 

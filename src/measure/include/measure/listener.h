@@ -16,6 +16,12 @@ enum class StartFailure {
     OpeningReconnect,  // the same, and plugging it in again may help
 };
 
+struct LostSession {
+    int slot = 0;
+    bool answersAgain = false;
+    bool wasRecording = false;
+};
+
 // The course of a measurement, in this order.
 class MeasurementListener {
 public:
@@ -32,26 +38,24 @@ public:
     // All sensors are open and have their settings: passes follow.
     virtual void Prepared() {}
 
-    // A pass has been started at this time of the monotonic clock.
-    virtual void PassStarted(platform::Duration /*now*/) {}
+    // The sensors of a pass have been started.
+    virtual void PassStarted() {}
     // The slot's sensor is not complete yet, about once a second; `complaint` has the driver's
     // words when asking it failed, else it is empty.
     virtual void Awaited(int /*slot*/, const std::string& /*complaint*/) {}
-    // All sensors of the pass are complete; their results are fetched next.
-    virtual void PassComplete() {}
     // All results of the pass are there.
     virtual void PassMeasured() {}
-    // Events have run since; nothing is waited for any more.
-    virtual void PassSeen() {}
+    // Events have run since; no sensor is waited for any more. The time is the monotonic clock's;
+    // the pass has lasted so long, from its preparation on.
+    virtual void PassSeen(platform::Duration /*now*/, platform::Duration /*lasted*/) {}
     // The pass waits for its deadline, which is so far away; about every millisecond.
     virtual void PassWaits(platform::Duration /*left*/) {}
     virtual void PassEnded() {}
 
     // Stop was pressed, or the measurement has ended by itself.
     virtual void Stopped() {}
-    // The driver had lost its session. The measurement has ended; `reopened`: the sensor answers
-    // again.
-    virtual void SessionRecovered(bool /*reopened*/) {}
+    // The slot's sensor had lost its session, and the measurement has ended.
+    virtual void SessionLost(const LostSession& /*lost*/) {}
 };
 
 // What happens at one slot in a pass. Many thousands a second: who needs only the course of a

@@ -19,7 +19,7 @@ public:
 
     // A measurement starts: no deadline yet.
     void Reset() { lastDeadline_.reset(); }
-    void PassBegins() { passBegan_ = host_.clock.Monotonic(); }
+    void PassBegins(platform::Duration now) { passBegan_ = now; }
     // Waits until the pass has lasted as long as the recording interval, letting events run and
     // telling how long it still waits. Without an interval, and once the measurement is to
     // end, it returns at once.

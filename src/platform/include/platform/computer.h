@@ -32,10 +32,6 @@ struct ProgramVersion {
     int major = 0, minor = 0, revision = 0;
 };
 
-struct ScreenSize {
-    int width = 0, height = 0;  // twips
-};
-
 class Computer {
 public:
     virtual ~Computer() = default;
@@ -59,11 +55,13 @@ public:
     // running program; nowhere else.
     virtual LoadedLibrary LoadDriverLibrary(const std::string& name) = 0;
 
-    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front. A failed write is ignored.
-    virtual void WriteRegistry(const std::string& key, const std::string& name,
-                               const std::string& value) = 0;
-
-    virtual ScreenSize Screen() = 0;
+    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front. Where the system has no registry,
+    // Kelvra keeps one in a file of its own.
+    virtual std::error_code WriteRegistry(const std::string& key, const std::string& name,
+                                          const std::string& value) = 0;
+    virtual std::optional<std::string> ReadRegistry(const std::string& key,
+                                                    const std::string& name) = 0;
+    virtual bool KeepsRegistry() const = 0;
 };
 
 }  // namespace kelvra::platform

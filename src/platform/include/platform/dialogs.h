@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What Kelvra asks a person, or shows outside its own windows. All calls return when the person has
-// answered.
+// What Kelvra asks or shows outside its own windows. Nothing here stops a measurement: a question
+// is asked and the answer comes later, or at once where nobody has to be waited for.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,18 +19,30 @@ struct FileQuestion {
     bool save = false;     // ask before overwriting, refuse what is read-only
 };
 
+struct ScreenSize {
+    int width = 0, height = 0;  // twips
+};
+
 class Dialogs {
 public:
+    // Nothing when the question was cancelled.
+    using Answer = std::function<void(std::optional<std::string> text)>;
+
     virtual ~Dialogs() = default;
 
-    // An empty title stands for the program's name.
+    // Shows a message box and returns. An empty title is the program's name.
     virtual void Message(const std::string& title, const std::string& text, MessageIcon icon) = 0;
-    // Nothing when the person cancels.
-    virtual std::optional<std::string> Prompt(const std::string& text,
-                                              const std::string& proposed) = 0;
-    virtual std::optional<std::string> AskFile(const FileQuestion& question) = 0;
+    // The same for a program that is about to end: returns when the box has been confirmed.
+    virtual void LastMessage(const std::string& text) = 0;
+
+    virtual void Prompt(const std::string& text, const std::string& proposed, Answer answer) = 0;
+    virtual void AskFile(const FileQuestion& question, Answer answer) = 0;
+
     // Topic 0 is the whole file.
     virtual void OpenHelp(const std::string& file, int topic) = 0;
+
+    // Of the screen on which the main window opens.
+    virtual ScreenSize Screen() = 0;
 };
 
 }  // namespace kelvra::platform

@@ -23,6 +23,8 @@ struct SensorPresence {
     bool newTraceData = false;
     bool slotStatsActive = false;
     std::string logicalName{};
+    std::string givenName{};  // by the user; empty: the device list names it, or its slot
+    bool namedBySlot = false;
     std::string sensorId{};         // type, ";", serial number
     std::int32_t measPending = 0;   // 1: started and not yet complete
     std::int16_t waitTicks = 0;     // length of the activity bar, 0 .. 8

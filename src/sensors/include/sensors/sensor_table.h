@@ -84,6 +84,10 @@ private:
 // the ring of readings (continuous average, burst); the other modes have none.
 void PrepareWorkArrays(SensorTable& table, int slot);
 
+// The slot's mode has become another one: results of the former mode go, and the working arrays are
+// made ready.
+void ChangeMode(SensorTable& table, int slot);
+
 // The slot gives its sensor up and is free.
 void ReleaseSlot(SensorEntry& entry);
 

@@ -10,12 +10,14 @@
 
 #include "forms/main_window.h"
 #include "measure/listener.h"
+#include "sensors/sensor_table.h"
 
 namespace kelvra::ui {
 
 class Notice final : public measure::MeasurementListener {
 public:
-    explicit Notice(forms::MDIMain& window) : window_(window) {}
+    Notice(forms::MDIMain& window, const sensors::SensorTable& table)
+        : window_(window), table_(table) {}
 
     // A sensor's error; an empty text ends it.
     void ShowError(std::string text) { Set(Rank::Error, std::move(text)); }
@@ -27,11 +29,13 @@ public:
 
     void Started() override { Set(Rank::Course, {}); }
     void Awaited(int slot, const std::string& complaint) override;
-    void PassSeen() override { Set(Rank::Course, {}); }
+    void PassSeen(platform::Duration /*now*/, platform::Duration /*lasted*/) override {
+        Set(Rank::Course, {});
+    }
     void PassWaits(platform::Duration left) override;
     void PassEnded() override;
     void Stopped() override { Set(Rank::Course, {}); }
-    void SessionRecovered(bool reopened) override;
+    void SessionLost(const measure::LostSession& lost) override;
 
 private:
     enum class Rank { Error, Files, Course, Count };
@@ -41,6 +45,7 @@ private:
     void Show();
 
     forms::MDIMain& window_;
+    const sensors::SensorTable& table_;
     std::array<std::string, static_cast<std::size_t>(Rank::Count)> texts_;
     std::map<std::string, std::string> troubles_;  // by path
 };

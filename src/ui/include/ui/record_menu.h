@@ -11,7 +11,7 @@ class RecordMenu final : public measure::MeasurementListener {
 public:
     explicit RecordMenu(forms::MDIMain& window) : item_(window.FileSaveData) {}
 
-    void PassStarted(platform::Duration /*now*/) override { item_.enabled = true; }
+    void PassStarted() override { item_.enabled = true; }
     void Stopped() override { item_.caption = "Record Data..."; }
 
 private:

@@ -28,7 +28,7 @@ public:
     void Select(int slot);
 
     // After the table has changed. The current sensor stays the current one as long as it is
-    // present; after that the first enabled one is, if there is any.
+    // present, in every slot; after that the first one that is switched on is, if there is any.
     void Refresh();
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The speed figure (passes in a second) and the busy picture, both moved on about once a second.
+// The speed figure (passes in a second, pauses between them excepted) and the busy picture. The
+// picture moves on about once a second as long as a measurement goes on.
 #pragma once
 
 #include <cstdint>
@@ -14,9 +15,10 @@ class SpeedLabel final : public measure::MeasurementListener {
 public:
     SpeedLabel(forms::MDIMain& window, platform::Host& host) : window_(window), host_(host) {}
 
-    void Started() override { counted_ = {}; }
-    void PassStarted(platform::Duration now) override { startedAt_ = now; }
-    void PassComplete() override;
+    void Started() override;
+    void Awaited(int /*slot*/, const std::string& /*complaint*/) override;
+    void PassSeen(platform::Duration now, platform::Duration lasted) override;
+    void PassWaits(platform::Duration left) override;
 
 private:
     struct Counted {
@@ -24,12 +26,12 @@ private:
         std::int32_t passes = 0;
     };
 
-    void AdvanceBusyPicture();
+    void MoveBusyPicture(platform::Duration now);
 
     forms::MDIMain& window_;
     platform::Host& host_;
-    platform::Duration startedAt_{};
     Counted counted_;
+    platform::Duration lastMove_{};
 };
 
 }  // namespace kelvra::ui
