@@ -28,6 +28,7 @@ bool Cycle::Takes(int slot) const {
 void Cycle::Pass() {
     const platform::Duration passBegan = p_.host.clock.Monotonic();
     pacing_.PassBegins(passBegan);
+    rounds_.Restart(passBegan);
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
         if (!Takes(slot)) continue;
         const bool prepared = PrepareSlot(slot);

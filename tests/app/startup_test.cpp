@@ -72,24 +72,25 @@ TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
 }
 
 TEST_F(StartupTest, EveryStepLeavesTheSensorsWhereTheyBelong) {
-    using Step = std::tuple<std::string, std::string, std::string>;  // plugged, slots, a tick later
-    const Step steps[] = {
-        {"AB", "AB", "AB"},
-        {"ABC", "ABC", "ABC"},  // appears behind the others
-        {".BC", "...", "BC."},  // one goes: all are assigned anew
-        {"ABC", "BCA", "BCA"},  // comes back into the free slot
-        {"", "SensSim1SensSim2......", "SensSim1SensSim2......"},
-        {"C", "C.......", "C......."},  // from simulation at once
-        {"D", "........", "D......."},  // another one in its place
+    const struct {
+        std::string plugged, slots;
+    } steps[] = {
+        {"AB", "AB"},
+        {"ABC", "ABC"},  // appears after the others
+        {".BC", "BC."},  // one goes: all are assigned anew
+        {"ABC", "BCA"},  // comes back into the free slot
+        {"", "SensSim1SensSim2......"},
+        {"C", "C......."},  // from simulation at once
+        {"D", "D......."},  // another one in its place
     };
     Plug("AB");
     Start();
-    for (const auto& [plugged, slots, nextTick] : steps) {
+    for (const auto& [plugged, slots] : steps) {
         Plug(plugged);
-        Tick();
-        EXPECT_EQ(Slots(), slots) << plugged;
-        Tick();
-        EXPECT_EQ(Slots(), nextTick) << plugged;
+        for (int tick = 1; tick <= 2; ++tick) {
+            Tick();
+            EXPECT_EQ(Slots(), slots) << plugged << tick;
+        }
         EXPECT_EQ(program->table.simulationMode, plugged.empty());
     }
 }
@@ -102,8 +103,6 @@ TEST_F(StartupTest, AVanishingSensorSavesAllAndEachGetsItsSettingsBack) {
     Plug(".B");
     Tick();
     EXPECT_NE(folder.Get("Kelvra.INI").find("[PS-101;A_TRIG]"), std::string::npos);
-    program->table[0].settings.TrigLevel = program->table[1].settings.TrigLevel = 9;
-    Tick();
     EXPECT_EQ(program->table[0].logicalName, "B");
     EXPECT_EQ(program->table[0].settings.TrigLevel, -2);
     Plug("");

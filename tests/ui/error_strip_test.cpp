@@ -65,7 +65,8 @@ TEST_F(ErrorStripTest, ARefusedHandleIsRecoveredFromOnceInAStart) {
             for (const char* name : {"psdrv_chan_reset", "psdrv_init", "psdrv_close"})
                 EXPECT_EQ(driver.Count(name), transfers) << message << start << name;
             EXPECT_EQ(driver.Count("psdrv_chans_initiate") > 0, transfers == 1) << message;
-            EXPECT_EQ(Notice().starts_with("The driver session was lost"),
+            EXPECT_EQ(Notice().starts_with("Sensor A had lost its session. The measurement has ended. "
+                                           "The sensor answers again."),
                       transfers == 2 && !always);
             EXPECT_TRUE(program->forms.mdiMain.StartIt.enabled);
         }
