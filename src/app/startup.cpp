@@ -7,6 +7,8 @@
 
 #include "app/kelvra.h"
 #include "measure/notice.h"
+#include "sensors/settings_fields.h"
+#include "ui/setup_rows.h"
 #include "util/number_text.h"
 #include "util/text.h"
 
@@ -38,6 +40,8 @@ void Kelvra::Start() {
     host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
     forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();
+    ui::ShowSettings(forms.setupForm, sensors::DefaultSettings());
+    ui::ShowScaling(forms.setupForm, {});
     LayOutGrids();
     mainWindow.PlaceWindows();
     for (int slot = 0; slot < table.Slots(); ++slot)
