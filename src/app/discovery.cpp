@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <string>
 
-#include "ui/command_buttons.h"
 #include "ui/connection_label.h"
 #include "util/number_text.h"
 
@@ -41,6 +40,7 @@ void Discovery::Tick() {
     }
     p_.windows.lists.Refresh();
     p_.windows.errorStrip.Refresh();
+    p_.windows.enabling.Refresh();
 }
 
 bool Discovery::Rests() const {
@@ -91,7 +91,6 @@ void Discovery::SizeTable() {
 }
 
 void Discovery::RealSensors() {
-    ui::OfferSensorCommands(p_.forms.setupForm, true);
     if (p_.table.simulationMode) {
         for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
         p_.table.deviceTableChanged = true;
@@ -155,7 +154,6 @@ void Discovery::NameSensor(int slot, const driver::DeviceListEntry& device) {
 }
 
 void Discovery::Simulation() {
-    ui::OfferSensorCommands(p_.forms.setupForm, false);
     if (!p_.table.simulationMode || !p_.table[0].present) EnterSimulation();
     for (int slot = 2; slot < p_.table.Slots(); ++slot) {
         SensorEntry& entry = p_.table[slot];

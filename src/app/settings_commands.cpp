@@ -14,8 +14,9 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   measure::Modes& modes, platform::Host& host)
-    : table_(table), modes_(modes), host_(host) {
+                                   measure::Modes& modes, ui::Enabling& enabling,
+                                   platform::Host& host)
+    : table_(table), modes_(modes), enabling_(enabling), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -34,9 +35,11 @@ void SettingsCommands::Load(const std::string& path) {
     const std::int32_t mode = entry.settings.Mode;
     sensors::TransferSettings(entry.settings, file.Text(), Stem, sensors::Transfer::Read);
     entry.settingsChanged = true;
-    if (entry.settings.Mode == mode) return;
-    sensors::ChangeMode(table_, table_.currentSensor);
-    modes_.Find();
+    if (entry.settings.Mode != mode) {
+        sensors::ChangeMode(table_, table_.currentSensor);
+        modes_.Find();
+    }
+    enabling_.Refresh();
 }
 
 void SettingsCommands::SaveSensorSettings() {

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "app/kelvra.h"
+#include "sensors/settings_fields.h"
+#include "ui/setup_rows.h"
 #include "util/number_text.h"
 #include "util/text.h"
 
@@ -37,6 +39,8 @@ void Kelvra::Start() {
     host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
     forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();
+    ui::ShowSettings(forms.setupForm, sensors::DefaultSettings());
+    ui::ShowScaling(forms.setupForm, {});
     LayOutGrids();
     windows.mainWindow.PlaceWindows();
     for (int slot = 0; slot < table.Slots(); ++slot)

@@ -15,17 +15,20 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       marks(forms.statusForm, table, host.events),
       calcGrid(forms.mdiMain, table, host),
       speed(forms.mdiMain, host),
-      runButtons(forms, cycle),
+      enabling(forms, table, selection),
       recordMenu(forms.mdiMain),
       displayLists(forms, table),
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
-      sensorName({forms.setupForm, table, host.computer, results, selection, lists, notice}) {}
+      sensorName({forms.setupForm, table, host.computer, results, selection, lists, notice}) {
+    forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
+    forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
+}
 
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
-             &runButtons, &sensorName, &lists, &results, &errorStrip, &displayLists, &mainWindow,
+             &enabling, &sensorName, &lists, &results, &errorStrip, &displayLists, &mainWindow,
              &speed, &calcGrid, &notice, &recordMenu, &startMessages})
         news.measurement.Add(*listener);
     news.slot.Add(marks);

@@ -8,6 +8,7 @@
 #include "console/dump.h"
 #include "console/evaluate.h"
 #include "console/print.h"
+#include "controls/visit.h"
 #include "util/number_reading.h"
 #include "util/text.h"
 
@@ -40,21 +41,20 @@ std::optional<double> RealNumber(std::string_view text) {
     return read.value;
 }
 
-// A control that a command names; `member` is an option of a group.
+// A control that a command names.
 struct Target {
     Control* control = nullptr;
-    int member = -1;
     CommandError error;
 };
 
 Target FindTarget(CommandContext& c, std::string_view& rest) {
     const std::string name(TakeWord(rest));
-    if (name.empty()) return {nullptr, -1, "the name of a control is missing"};
+    if (name.empty()) return {nullptr, "the name of a control is missing"};
     const forms::Found found = c.kelvra.forms.Find(name);
     if (found.result == forms::Lookup::NotUnique)
-        return {nullptr, -1, "several windows have a " + name};
-    if (!found) return {nullptr, -1, "there is no control " + name};
-    return {found.control, found.member, std::nullopt};
+        return {nullptr, "several windows have a " + name};
+    if (!found) return {nullptr, "there is no control " + name};
+    return {found.control, std::nullopt};
 }
 
 // The same for a command that acts like a person: the control must be within reach, and the person
@@ -72,31 +72,45 @@ Target ReachTarget(CommandContext& c, std::string_view& rest) {
     return target;
 }
 
+std::string NotFor(const Control& control) {
+    return "not for a " + std::string(KindName(control.GetKind()));
+}
+
 template <class T>
 T* TargetAs(Target& target) {
-    auto* control = dynamic_cast<T*>(target.control);
-    if (control == nullptr && !target.error)
-        target.error = "not for a " + std::string(KindName(target.control->GetKind()));
+    T* control = controls::As<T>(*target.control);
+    if (control == nullptr) target.error = NotFor(*target.control);
     return control;
 }
 
-CommandError Click(CommandContext& c, std::string_view rest) {
-    Target target = ReachTarget(c, rest);
-    if (target.error) return target.error;
-    if (auto* group = dynamic_cast<controls::OptionGroup*>(target.control)) {
-        if (target.member < 0) return "an option is named like " + group->Options().front().name;
-        group->Select(target.member);
-    } else if (auto* box = dynamic_cast<controls::CheckBox*>(target.control)) {
-        box->Toggle();
-    } else if (auto* button = dynamic_cast<controls::Button*>(target.control)) {
-        button->Press();
-    } else if (auto* label = dynamic_cast<controls::Label*>(target.control)) {
-        label->Press();
-    } else if (auto* item = TargetAs<controls::MenuItem>(target)) {
-        if (item->IsSeparator()) return "a separator can't be clicked";
-        item->Press();
+// Presses what can be pressed, toggles a check box.
+struct Clicking {
+    template <class Pressable>
+    CommandError operator()(Pressable& control) const {
+        if constexpr (requires { control.Press(); }) {
+            control.Press();
+            return std::nullopt;
+        } else {
+            return NotFor(control);
+        }
     }
-    return target.error;
+    CommandError operator()(controls::CheckBox& box) const {
+        box.Toggle();
+        return std::nullopt;
+    }
+    CommandError operator()(controls::MenuItem& item) const {
+        if (item.IsSeparator()) return "a separator can't be clicked";
+        item.Press();
+        return std::nullopt;
+    }
+    CommandError operator()(controls::OptionGroup& group) const {
+        return "an option is named like " + group.At(0).Name();
+    }
+};
+
+CommandError Click(CommandContext& c, std::string_view rest) {
+    const Target target = ReachTarget(c, rest);
+    return target.error ? target.error : controls::Visit(*target.control, Clicking{});
 }
 
 CommandError Choose(CommandContext& c, std::string_view rest) {
@@ -132,21 +146,18 @@ CommandError Type(CommandContext& c, std::string_view rest) {
 }
 
 CommandError Press(CommandContext& c, std::string_view rest) {
-    Target target = ReachTarget(c, rest);
+    const Target target = ReachTarget(c, rest);
     const controls::Key key(TakeWord(rest));
     if (target.error) return target.error;
     if (key.empty()) return "the key is missing";
-    if (auto* group = dynamic_cast<controls::OptionGroup*>(target.control))
-        group->keyDown.Raise(std::max(target.member, 0), key);
-    else if (auto* box = dynamic_cast<controls::TextBox*>(target.control))
-        box->Press(key);
-    else if (auto* check = dynamic_cast<controls::CheckBox*>(target.control))
-        check->keyDown.Raise(key);
-    else if (auto* button = dynamic_cast<controls::Button*>(target.control))
-        button->keyDown.Raise(key);
-    else if (auto* list = TargetAs<controls::List>(target))
-        list->keyDown.Raise(key);
-    return target.error;
+    return controls::Visit(*target.control, [&](auto& control) -> CommandError {
+        if constexpr (requires { control.PressKey(key); }) {
+            control.PressKey(key);
+            return std::nullopt;
+        } else {
+            return NotFor(control);
+        }
+    });
 }
 
 CommandError ClickCell(CommandContext& c, std::string_view rest) {
@@ -158,9 +169,9 @@ CommandError ClickCell(CommandContext& c, std::string_view rest) {
     const auto column = WholeNumber(TakeWord(rest), 0, grid->Columns() - 1);
     const std::string_view act = TakeWord(rest);
     if (!row || !column) return "the grid has no such cell";
-    if (!act.empty() && act != "press") return "what is " + std::string(act) + "?";
-    grid->mouseDown.Raise(*row, *column);
-    if (act.empty()) grid->click.Raise(*row, *column);
+    if (!act.empty() && act != "press") return "after the cell comes press or nothing";
+    grid->PressCell(*row, *column);
+    if (act.empty()) grid->ClickCell(*row, *column);
     return std::nullopt;
 }
 
@@ -244,7 +255,7 @@ CommandError Wait(CommandContext& c, std::string_view rest) {
 CommandError Print(CommandContext& c, std::string_view rest) {
     const Target target = FindTarget(c, rest);
     if (target.error) return target.error;
-    for (const std::string& line : PrintLines(*target.control, target.member)) c.output.Line(line);
+    for (const std::string& line : PrintLines(*target.control)) c.output.Line(line);
     return std::nullopt;
 }
 
@@ -256,7 +267,7 @@ CommandError Dump(CommandContext& c, std::string_view rest) {
     }
     const Target target = FindTarget(c, rest);
     if (target.error) return target.error;
-    c.output.Line(DumpControl(*target.control, target.member));
+    c.output.Line(DumpControl(*target.control));
     return std::nullopt;
 }
 

@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "console/dump.h"
 #include "console/json_line.h"
-#include "controls/graph.h"
-#include "controls/grid.h"
-#include "controls/kinds.h"
-#include "controls/list.h"
+#include "controls/visit.h"
 
 namespace kelvra::console {
 
 namespace {
 
 using namespace controls;
-
-template <class T>
-const T& As(const Control& control) {
-    return static_cast<const T&>(control);
-}
 
 void OptionalColour(JsonLine& json, const char* key, const std::optional<Colour>& colour) {
     if (colour) json.Key(key).Colour(*colour);
@@ -89,74 +81,58 @@ void GraphMembers(JsonLine& json, const Graph& graph) {
 }
 
 // What comes before the colours, by kind.
-void OwnMembers(JsonLine& json, const Control& control, int member) {
-    switch (control.GetKind()) {
-        case Kind::Label:
-            json.Member("caption", As<Label>(control).caption.Get());
-            break;
-        case Kind::Button: {
-            const auto& button = As<Button>(control);
-            json.Member("caption", button.caption.Get()).Member("picture", button.picture.Get());
-            json.Member("tag", button.tag.Get());
-            break;
-        }
-        case Kind::MenuItem: {
-            const auto& item = As<MenuItem>(control);
-            json.Member("caption", item.caption.Get()).Member("checked", item.checked.Get());
-            break;
-        }
-        case Kind::TextBox:
-            json.Member("text", As<TextBox>(control).Text());
-            break;
-        case Kind::CheckBox: {
-            const auto& box = As<CheckBox>(control);
-            json.Member("caption", box.caption.Get()).Member("checked", box.Checked());
-            break;
-        }
-        case Kind::OptionGroup: {
-            const auto& group = As<OptionGroup>(control);
-            if (member < 0) {
-                json.Member("selected", group.Selected());
-                break;
-            }
-            json.Member("caption", group.Options()[static_cast<std::size_t>(member)].caption);
-            json.Member("checked", group.Selected() == member);
-            break;
-        }
-        case Kind::Picture: {
-            const auto& picture = As<Picture>(control);
-            json.Member("picture", picture.image.Get()).Member("tag", picture.tag.Get());
-            break;
-        }
-        case Kind::Frame:
-            json.Member("caption", As<Frame>(control).caption.Get());
-            break;
-        default:
-            break;
+struct OwnMembers {
+    JsonLine& json;
+
+    void operator()(const Label& label) const { Caption(label); }
+    void operator()(const Frame& frame) const { Caption(frame); }
+    void operator()(const Button& button) const {
+        Caption(button).Member("picture", button.picture.Get()).Member("tag", button.tag.Get());
     }
-}
+    void operator()(const MenuItem& item) const {
+        Caption(item).Member("checked", item.checked.Get());
+    }
+    void operator()(const TextBox& box) const { json.Member("text", box.Text()); }
+    void operator()(const CheckBox& box) const { Caption(box).Member("checked", box.Checked()); }
+    void operator()(const Option& option) const {
+        Caption(option).Member("checked", option.Checked());
+    }
+    void operator()(const OptionGroup& group) const { json.Member("selected", group.Selected()); }
+    void operator()(const Picture& picture) const {
+        json.Member("picture", picture.image.Get()).Member("tag", picture.tag.Get());
+    }
+    void operator()(const Control&) const {}
+
+private:
+    template <class Captioned>
+    JsonLine& Caption(const Captioned& control) const {
+        return json.Member("caption", control.caption.Get());
+    }
+};
 
 // What comes at the end, by kind.
-void ContentMembers(JsonLine& json, const Control& control) {
-    switch (control.GetKind()) {
-        case Kind::Frame:
-            Place(json, As<Frame>(control).place);
-            break;
-        case Kind::RichText:
-            json.Member("rtf", As<RichText>(control).rtf.Get());
-            break;
-        case Kind::List:
-            ListMembers(json, As<List>(control));
-            break;
-        case Kind::Grid:
-            GridMembers(json, As<Grid>(control));
-            break;
-        case Kind::Graph:
-            GraphMembers(json, As<Graph>(control));
-            break;
-        default:
-            break;
-    }
+struct ContentMembers {
+    JsonLine& json;
+
+    void operator()(const Frame& frame) const { Place(json, frame.place); }
+    void operator()(const RichText& text) const { json.Member("rtf", text.rtf.Get()); }
+    void operator()(const List& list) const { ListMembers(json, list); }
+    void operator()(const Grid& grid) const { GridMembers(json, grid); }
+    void operator()(const Graph& graph) const { GraphMembers(json, graph); }
+    void operator()(const Control&) const {}
+};
+
+// Any kind but a window.
+std::string DumpInside(const Control& control) {
+    JsonLine json;
+    json.BeginObject().Member("name", control.Name()).Member("kind", KindName(control.GetKind()));
+    json.Member("enabled", control.enabled.Get()).Member("visible", control.visible.Get());
+    Visit(control, OwnMembers{json});
+    OptionalColour(json, "back", control.back);
+    OptionalColour(json, "fore", control.fore);
+    if (!control.tooltip->empty()) json.Member("tooltip", control.tooltip.Get());
+    Visit(control, ContentMembers{json});
+    return json.EndObject().Text();
 }
 
 std::string DumpWindow(const Window& window) {
@@ -170,22 +146,9 @@ std::string DumpWindow(const Window& window) {
 
 }  // namespace
 
-std::string DumpControl(const Control& control, int member) {
-    if (control.GetKind() == Kind::Window) return DumpWindow(As<Window>(control));
-    const bool isMember = control.GetKind() == Kind::OptionGroup && member >= 0;
-    JsonLine json;
-    json.BeginObject();
-    json.Member("name",
-                isMember ? As<OptionGroup>(control).Options()[static_cast<std::size_t>(member)].name
-                         : control.Name());
-    json.Member("kind", isMember ? "option" : KindName(control.GetKind()));
-    json.Member("enabled", control.enabled.Get()).Member("visible", control.visible.Get());
-    OwnMembers(json, control, member);
-    OptionalColour(json, "back", control.back);
-    OptionalColour(json, "fore", control.fore);
-    if (!control.tooltip->empty()) json.Member("tooltip", control.tooltip.Get());
-    ContentMembers(json, control);
-    return json.EndObject().Text();
+std::string DumpControl(const Control& control) {
+    const auto* window = As<const Window>(control);
+    return window != nullptr ? DumpWindow(*window) : DumpInside(control);
 }
 
 }  // namespace kelvra::console

@@ -2,19 +2,11 @@
 #include "console/print.h"
 
 #include "console/output.h"
-#include "controls/graph.h"
-#include "controls/grid.h"
-#include "controls/kinds.h"
-#include "controls/list.h"
+#include "controls/visit.h"
 
 namespace kelvra::console {
 
 namespace {
-
-template <class T>
-const T& As(const controls::Control& control) {
-    return static_cast<const T&>(control);
-}
 
 // A TAB in a cell must not look like the next cell.
 std::string OneCell(std::string_view text) {
@@ -43,45 +35,29 @@ std::vector<std::string> ListLines(const controls::List& list) {
     return lines;
 }
 
-// The member, or the selected one for the whole group.
-std::string OptionCaption(const controls::OptionGroup& group, int member) {
-    const int option = member >= 0 ? member : group.Selected();
-    return group.Options()[static_cast<std::size_t>(option)].caption;
-}
+struct Lines {
+    using Result = std::vector<std::string>;
+
+    // A label, a button ... shows its caption.
+    template <class Captioned>
+    Result operator()(const Captioned& control) const {
+        return {OneLine(control.caption.Get())};
+    }
+    Result operator()(const controls::TextBox& box) const { return {OneLine(box.Text())}; }
+    Result operator()(const controls::OptionGroup& group) const {
+        return (*this)(group.At(group.Selected()));
+    }
+    Result operator()(const controls::List& list) const { return ListLines(list); }
+    Result operator()(const controls::Grid& grid) const { return GridLines(grid); }
+    Result operator()(const controls::Graph&) const { return {}; }  // its content is for dump
+    Result operator()(const controls::RichText& text) const { return {OneLine(text.rtf.Get())}; }
+    Result operator()(const controls::Picture& picture) const { return {picture.image.Get()}; }
+};
 
 }  // namespace
 
-std::vector<std::string> PrintLines(const controls::Control& control, int member) {
-    using namespace controls;
-    switch (control.GetKind()) {
-        case Kind::Grid:
-            return GridLines(As<Grid>(control));
-        case Kind::List:
-            return ListLines(As<List>(control));
-        case Kind::Label:
-            return {OneLine(As<Label>(control).caption.Get())};
-        case Kind::Button:
-            return {OneLine(As<Button>(control).caption.Get())};
-        case Kind::MenuItem:
-            return {OneLine(As<MenuItem>(control).caption.Get())};
-        case Kind::TextBox:
-            return {OneLine(As<TextBox>(control).Text())};
-        case Kind::CheckBox:
-            return {OneLine(As<CheckBox>(control).caption.Get())};
-        case Kind::OptionGroup:
-            return {OptionCaption(As<OptionGroup>(control), member)};
-        case Kind::RichText:
-            return {OneLine(As<RichText>(control).rtf.Get())};
-        case Kind::Picture:
-            return {As<Picture>(control).image.Get()};
-        case Kind::Frame:
-            return {OneLine(As<Frame>(control).caption.Get())};
-        case Kind::Window:
-            return {OneLine(As<Window>(control).caption.Get())};
-        case Kind::Graph:
-            break;  // its content is for dump
-    }
-    return {};
+std::vector<std::string> PrintLines(const controls::Control& control) {
+    return controls::Visit(control, Lines{});
 }
 
 }  // namespace kelvra::console

@@ -7,14 +7,18 @@ namespace kelvra::controls {
 
 const char* KindName(Kind kind) {
     constexpr const char* names[] = {
-        "label", "button", "menu item", "text box", "check box", "option group", "list",
-        "grid",  "graph",  "rich text", "picture",  "frame",     "window",
+        "label", "button", "menu item", "text box",  "check box", "option group", "option",
+        "list",  "grid",   "graph",     "rich text", "picture",   "frame",        "window",
     };
     return names[static_cast<int>(kind)];
 }
 
-Control::Control(Kind kind, Control& parent, std::string name)
-    : kind_(kind), name_(std::move(name)), parent_(&parent), changes_(parent.changes_) {
+Control::Control(Kind kind, Control& parent, std::string name, Access declared)
+    : access(std::move(declared)),
+      kind_(kind),
+      name_(std::move(name)),
+      parent_(&parent),
+      changes_(parent.changes_) {
     parent.children_.push_back(this);
 }
 

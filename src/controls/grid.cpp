@@ -5,8 +5,8 @@
 
 namespace kelvra::controls {
 
-Grid::Grid(Control& parent, std::string name, int rows, int columns)
-    : Control(Kind::Grid, parent, std::move(name)),
+Grid::Grid(Control& parent, std::string name, int rows, int columns, Access declared)
+    : Control(Kind::Grid, parent, std::move(name), std::move(declared)),
       rows_(rows),
       columns_(columns),
       cells_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)),

@@ -15,8 +15,8 @@ void TextBox::Type(std::string text) {
     change.Raise();
 }
 
-void TextBox::Press(const Key& key) {
-    keyDown.Raise(key);
+void TextBox::PressKey(const Key& key) {
+    Focusable::PressKey(key);
     if (key == "Enter") RaiseCommit();
 }
 
@@ -35,36 +35,6 @@ void CheckBox::SetChecked(bool checked) {
 
 void CheckBox::Toggle() {
     checked_.Set(!checked_.Get());
-    click.Raise();
-}
-
-namespace {
-
-std::vector<OptionGroup::Option> NumberedOptions(const std::string& name,
-                                                 const std::vector<std::string>& captions) {
-    std::vector<OptionGroup::Option> options;
-    options.reserve(captions.size());
-    for (const std::string& caption : captions)
-        options.push_back({name + "(" + std::to_string(options.size()) + ")", caption});
-    return options;
-}
-
-}  // namespace
-
-OptionGroup::OptionGroup(Control& parent, const std::string& name,
-                         const std::vector<std::string>& captions)
-    : OptionGroup(parent, name, NumberedOptions(name, captions)) {}
-
-OptionGroup::OptionGroup(Control& parent, std::string name, std::vector<Option> options)
-    : Control(Kind::OptionGroup, parent, std::move(name)), options_(std::move(options)) {}
-
-void OptionGroup::SetSelected(int option) {
-    if (option < 0 || option >= static_cast<int>(options_.size())) return;
-    if (selected_.Set(option)) click.Raise();
-}
-
-void OptionGroup::Select(int option) {
-    selected_.Set(option);
     click.Raise();
 }
 

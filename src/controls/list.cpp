@@ -16,8 +16,10 @@ int FirstIndex(const std::vector<List::Item>& items, Test test) {
 
 }  // namespace
 
-List::List(Control& parent, std::string name, std::vector<Item> items, int index)
-    : Control(Kind::List, parent, std::move(name)), items_(std::move(items)), index_(index) {}
+List::List(Control& parent, std::string name, std::vector<Item> items, int index, Access declared)
+    : Focusable(Kind::List, parent, std::move(name), std::move(declared)),
+      items_(std::move(items)),
+      index_(index) {}
 
 std::string List::Text() const {
     return index_ < 0 ? std::string{} : items_[static_cast<std::size_t>(index_)].text;

@@ -64,6 +64,14 @@ void SetOwnTooltip(QWidget& widget, const QString& text) {
     widget.setProperty(OwnTooltip, text);
 }
 
+QString MarkedText(const controls::Control& control, const std::string& caption) {
+    const std::string& text = caption.empty() ? control.access.name : caption;
+    const std::size_t place = controls::MnemonicPlace(text, control.access.mnemonic);
+    if (place == std::string::npos) return Shown(text).replace('&', "&&");
+    return Shown(text.substr(0, place)).replace('&', "&&") + '&' +
+           Shown(text.substr(place)).replace('&', "&&");
+}
+
 void Describe(QWidget& widget, const QString& name) {
     widget.setAccessibleName(name);
 }

@@ -55,10 +55,10 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     connect(this, &QTableWidget::cellPressed, [this](int row, int column) {
-        if (!Selects()) grid_.mouseDown.Raise(row + 1, column);
+        if (!Selects()) grid_.PressCell(row + 1, column);
     });
     connect(this, &QTableWidget::cellClicked, [this](int row, int column) {
-        if (!Selects()) grid_.click.Raise(row + 1, column);
+        if (!Selects()) grid_.ClickCell(row + 1, column);
     });
     // The second of two quick clicks.
     connect(this, &QTableWidget::cellDoubleClicked, [this](int row, int column) {
@@ -84,8 +84,8 @@ bool GridWidget::Selects() {
 
 void GridWidget::Activate(int row, int column) {
     if (row < 0 || column < 0) return;
-    grid_.mouseDown.Raise(row + 1, column);
-    grid_.click.Raise(row + 1, column);
+    grid_.PressCell(row + 1, column);
+    grid_.ClickCell(row + 1, column);
 }
 
 int GridWidget::MostColumnWidth() const {

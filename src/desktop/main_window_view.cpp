@@ -8,9 +8,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "controls/visit.h"
 #include "desktop/common.h"
 #include "desktop/focus_ring.h"
 #include "desktop/icons.h"
+#include "desktop/qt_text.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -50,41 +52,25 @@ void MainWindowView::MirrorFrame() {
 }
 
 void MainWindowView::BuildMenus() {
-    const struct {
-        controls::MenuItem& item;
-        const char* text;
-        const char* shortcut;
-        bool checkable;
-    } entries[] = {
-        {form_.MFile, "&File", "", false},
-        {form_.Load_Sensor_Settings, "&Load sensor settings", "Ctrl+O", false},
-        {form_.Save_Sensor_Settings, "&Save sensor settings", "Ctrl+S", false},
-        {form_.line1, "-", "", false},
-        {form_.FileSaveData, "&Record Data...", "Ctrl+R", false},
-        {form_.line2, "-", "", false},
-        {form_.MFileExit, "E&xit", "Ctrl+Q", false},
-        {form_.MenueWindow, "&Window", "", false},
-        {form_.SettingAlwaysOnTop, "Settings always on &top", "", true},
-        {form_.MHelp, "&Help", "", false},
-        {form_.Helpfunction, "&Help", "F1", false},
-        {form_.MHelpAbout, "&About", "", false},
-    };
-    QMenu* menu = nullptr;
-    for (const auto& entry : entries) {
-        if (entry.item.Parent() == &form_) {
-            menu = widget_.menuBar()->addMenu(entry.text);
-            if (&entry.item == &form_.MenueWindow) windowMenu_ = menu;
-            continue;
-        }
-        if (entry.item.IsSeparator()) {
-            menu->addSeparator();
-            continue;
-        }
-        QAction* action = menu->addAction(entry.text);
-        action->setShortcut(QKeySequence(entry.shortcut));
-        action->setCheckable(entry.checkable);
-        mirror_.Add(entry.item, std::make_unique<MenuItemAdapter>(entry.item, *action));
+    for (controls::Control* control : form_.Children()) {
+        const auto* item = controls::As<controls::MenuItem>(*control);
+        if (item == nullptr) continue;
+        QMenu* menu = widget_.menuBar()->addMenu(MarkedText(*item, item->caption));
+        if (item == &form_.MenueWindow) windowMenu_ = menu;
+        for (controls::Control* entry : item->Children())
+            AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
     }
+}
+
+void MainWindowView::AddEntry(QMenu& menu, controls::MenuItem& item) {
+    if (item.IsSeparator()) {
+        menu.addSeparator();
+        return;
+    }
+    QAction* action = menu.addAction(QString());
+    action->setShortcut(QKeySequence(Shown(item.access.shortcut)));
+    action->setCheckable(item.checkable);
+    mirror_.Add(item, std::make_unique<MenuItemAdapter>(item, *action));
 }
 
 QWidget* MainWindowView::BuildTools() {
@@ -99,17 +85,18 @@ QWidget* MainWindowView::BuildTools() {
     return tools;
 }
 
-QPushButton* MainWindowView::MakeButton(controls::Button& button, const char* text,
-                                        const char* shortcut) {
-    auto* widget = new QPushButton(text);
+QPushButton* MainWindowView::MakeButton(controls::Button& button) {
+    auto* widget = new QPushButton;
     widget->setIconSize({ToolIcon, ToolIcon});
     widget->setObjectName(QString::fromStdString(button.Name()));
-    if (*shortcut != '\0') {
+    const QString name = Shown(button.access.name);
+    const QString shortcut = Shown(button.access.shortcut);
+    if (!shortcut.isEmpty()) {
         // Beside the underlined letter, which the button's own shortcut would replace.
         new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->click(); });
-        SetOwnTooltip(*widget, QString(text).remove('&') + " (" + shortcut + ")");
+        SetOwnTooltip(*widget, name + " (" + shortcut + ")");
     }
-    Describe(*widget, QString(text).remove('&'));
+    Describe(*widget, name);
     mirror_.Add(button, std::make_unique<ButtonAdapter>(button, *widget));
     return widget;
 }
@@ -121,22 +108,22 @@ QLabel* MainWindowView::MakeLabel(const controls::Label& label) {
     return widget;
 }
 
-QWidget* MainWindowView::MakeList(controls::List& list, const char* name) {
+QWidget* MainWindowView::MakeList(controls::List& list) {
     auto* widget = new ListWidget;
     widget->setObjectName(QString::fromStdString(list.Name()));
     widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    Describe(*widget, name);
+    Describe(*widget, Shown(list.access.name));
     mirror_.Add(list, std::make_unique<ListAdapter>(list, *widget));
     return widget;
 }
 
 QHBoxLayout* MainWindowView::BuildButtons() {
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeButton(form_.StartIt, "&Start", "F5"));
-    row->addWidget(MakeButton(form_.StopIt, "S&top", "Shift+F5"));
-    row->addWidget(MakeButton(form_.Show_Settings, "S&ettings", ""));
+    row->addWidget(MakeButton(form_.StartIt));
+    row->addWidget(MakeButton(form_.StopIt));
+    row->addWidget(MakeButton(form_.Show_Settings));
     auto* busy = new QLabel;
-    Describe(*busy, "Activity");
+    Describe(*busy, Shown(form_.BusySign.access.name));
     mirror_.Add(form_.BusySign, std::make_unique<PictureAdapter>(form_.BusySign, *busy, ToolIcon));
     row->addWidget(busy);
     row->addWidget(MakeLabel(form_.MeasSpeedInfo));
@@ -146,9 +133,9 @@ QHBoxLayout* MainWindowView::BuildButtons() {
 
 QHBoxLayout* MainWindowView::BuildChoices() {
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeList(form_.SensSyncMode, "Synchronisation"));
+    row->addWidget(MakeList(form_.SensSyncMode));
     row->addWidget(MakeLabel(form_.SensorLabel));
-    row->addWidget(MakeList(form_.TimeSensor_select_new, "Sensor"));
+    row->addWidget(MakeList(form_.TimeSensor_select_new));
     row->addStretch();
     return row;
 }
@@ -156,7 +143,7 @@ QHBoxLayout* MainWindowView::BuildChoices() {
 QHBoxLayout* MainWindowView::BuildConnection() {
     auto* row = new QHBoxLayout;
     auto* picture = new QLabel;
-    Describe(*picture, "Connection");
+    Describe(*picture, Shown(form_.picConnected.access.name));
     mirror_.Add(form_.picConnected,
                 std::make_unique<PictureAdapter>(form_.picConnected, *picture, IndicatorIcon));
     row->addWidget(picture);
@@ -204,7 +191,7 @@ QWidget* MainWindowView::BuildFormulas() {
     formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->setObjectName("CalcGrid");
-    Describe(*formulas_, "Calculated values");
+    Describe(*formulas_, Shown(form_.CalcGrid.access.name));
     innerLayout->addWidget(formulas_);
     mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
     mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));

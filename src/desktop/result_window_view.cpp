@@ -7,6 +7,7 @@
 
 #include "desktop/common.h"
 #include "desktop/icons.h"
+#include "desktop/qt_text.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -18,7 +19,7 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(table_);
     table_->setObjectName("ResultGrid");
-    Describe(*table_, "Results");
+    Describe(*table_, Shown(form.ResultGrid.access.name));
     window_->setWidget(frame);
     // Without buttons: nothing would bring it back, and a maximised one would write into the title
     // of the program.

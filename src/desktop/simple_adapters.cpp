@@ -30,13 +30,15 @@ ButtonAdapter::ButtonAdapter(controls::Button& button, QPushButton& widget)
 }
 
 void ButtonAdapter::Update() {
-    if (!button_.caption->empty()) widget_.setText(Shown(button_.caption.Get()));
+    // Only another text: the toolkit sets up the key of its letter anew each time.
+    const QString text = MarkedText(button_, button_.caption);
+    if (widget_.text() != text) widget_.setText(text);
     if (!button_.picture->empty()) widget_.setIcon(Icon(button_.picture));
     UpdateCommon(widget_, button_);
 }
 
 MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
-    : item_(item), action_(action), shownCaption_(item.caption.Get()) {
+    : item_(item), action_(action) {
     QObject::connect(&action_, &QAction::triggered, [this] {
         item_.Press();
         Update();  // the mark is the record's, whatever the action has ticked by itself
@@ -44,11 +46,8 @@ MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
 }
 
 void MenuItemAdapter::Update() {
-    if (item_.caption.Get() != shownCaption_) {
-        shownCaption_ = item_.caption.Get();
-        action_.setText(Shown(shownCaption_));
-    }
     const QSignalBlocker quiet(action_);
+    action_.setText(MarkedText(item_, item_.caption));
     action_.setEnabled(item_.enabled);
     action_.setVisible(item_.visible);
     if (action_.isCheckable()) action_.setChecked(item_.checked);

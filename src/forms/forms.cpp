@@ -5,19 +5,14 @@ namespace kelvra::forms {
 
 namespace {
 
-void Note(Found& found, controls::Control& control, int member) {
+void Note(Found& found, controls::Control& control) {
     const Lookup result = found.result == Lookup::Unknown ? Lookup::Found : Lookup::NotUnique;
-    found = result == Lookup::Found ? Found{result, &control, member} : Found{result};
+    found = result == Lookup::Found ? Found{result, &control} : Found{result};
 }
 
 // Looks at the control and all below it.
 void Search(controls::Control& control, std::string_view name, Found& found) {
-    if (control.Name() == name) Note(found, control, -1);
-    if (const auto* group = dynamic_cast<const controls::OptionGroup*>(&control)) {
-        const auto& options = group->Options();
-        for (int i = 0; i < static_cast<int>(options.size()); ++i)
-            if (options[static_cast<std::size_t>(i)].name == name) Note(found, control, i);
-    }
+    if (control.Name() == name) Note(found, control);
     for (controls::Control* child : control.Children()) Search(*child, name, found);
 }
 

@@ -84,6 +84,11 @@ void ChangeMode(SensorTable& table, int slot) {
     PrepareWorkArrays(table, slot);
 }
 
+std::string_view TypeOf(const SensorPresence& sensor) {
+    const std::string_view id = sensor.sensorId.empty() ? sensor.resourceName : sensor.sensorId;
+    return id.substr(0, id.find(';'));
+}
+
 void SensorEntry::Begin(SensorPresence presence) {
     presence.slotStats.assign(slotStats.size(), {});
     static_cast<SensorPresence&>(*this) = std::move(presence);

@@ -10,11 +10,6 @@ namespace kelvra::ui {
 
 void ApplySensorCapabilities(forms::SetupForm& dialog, const sensors::SensorEntry& entry) {
     const driver::Capabilities group = driver::CapabilitiesOf(entry.sensorId);
-    if (group == driver::Capabilities::TimeResolving) {
-        dialog.TriggerFrame.enabled = true;
-        dialog.AdvancedFrame.enabled = true;
-    }
-    if (group == driver::Capabilities::AverageOnly) dialog.SensAvgSlot.enabled = false;
     if (group != driver::Capabilities::Unknown) {
         std::vector<controls::List::Item> items;
         for (const driver::ModeEntry& mode : driver::ModesOf(group))

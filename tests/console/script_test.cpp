@@ -139,7 +139,10 @@ TEST(Script, TakesAnyBytesLineByLine) {
 }
 
 TEST(Script, EndsAtTheFirstCommandThatFails) {
-    const std::pair<std::string, std::string> cases[] = {
+    const struct {
+        std::string command;
+        std::string why;
+    } cases[] = {
         {"fly", "there is no command fly"},
         {"\xff\x01", "there is no command \ufffd\x01"},
         {"click", "the name of a control is missing"},
@@ -152,8 +155,12 @@ TEST(Script, EndsAtTheFirstCommandThatFails) {
         {"choose SensSyncMode Never", "the list has no entry Never"},
         {"choose SensSyncMode #3", "the list has no entry #3"},
         {"press StartIt", "the key is missing"},
+        {"press MeasSpeedInfo F1", "not for a label"},
+        {"click SensSyncMode", "not for a list"},
+        {"click line1", "a separator can't be clicked"},
+        {"click PageSelect", "an option is named like Option1"},
         {"cell ResultGrid 1 6", "the grid has no such cell"},
-        {"cell ResultGrid 1 0 twice", "what is twice?"},
+        {"cell ResultGrid 1 0 twice", "after the cell comes press or nothing"},
         {"drag Scope 0 1", "there is no control Scope"},
         {"resize Nowhere 1 1", "there is no such window"},
         {"resize MDIMain 1 x", "width and height are whole numbers of twips"},

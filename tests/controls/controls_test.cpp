@@ -4,6 +4,7 @@
 #include "controls/grid.h"
 #include "controls/kinds.h"
 #include "controls/list.h"
+#include "controls/option_group.h"
 
 namespace kelvra::controls {
 namespace {
@@ -13,16 +14,23 @@ struct Sample : Window {
 
     Frame outer{*this, "outer"};
     Frame inner{outer, "inner"};
-    TextBox text{inner, "text", "1"};
+    TextBox text{inner, "text"};
     CheckBox check{inner, "check", "Check"};
     OptionGroup options{inner, "options", std::vector<std::string>{"a", "b", "c"}};
     List list{inner, "list", {{"x", 7}, {"y", 8}, {"z", 9}}, 0};
     Grid grid{inner, "grid", 2, 2};
 };
 
+struct Step {
+    const char* what;
+    std::function<void()> act;
+    int events;
+};
+
 class Controls : public testing::Test {
 protected:
     Controls() {
+        window_.text.SetText("1");
         window_.text.change.Connect([this] { ++raised_; });
         window_.check.click.Connect([this] { ++raised_; });
         window_.options.click.Connect([this] { ++raised_; });
@@ -38,7 +46,7 @@ protected:
 TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
     Sample& w = window_;
     // clang-format off
-    const std::tuple<const char*, std::function<void()>, int> steps[] = {
+    const Step steps[] = {
         {"same text", [&] { w.text.SetText("1"); }, 0},
         {"other text", [&] { w.text.SetText("2"); }, 1},
         {"typed the same", [&] { w.text.Type("2"); }, 1},
@@ -48,7 +56,7 @@ TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
         {"same option", [&] { w.options.SetSelected(0); }, 0},
         {"other option", [&] { w.options.SetSelected(2); }, 1},
         {"no such option", [&] { w.options.SetSelected(3); }, 0},
-        {"selected the same", [&] { w.options.Select(2); }, 1},
+        {"selected the same", [&] { w.options.At(2).Press(); }, 1},
         {"same index", [&] { w.list.SetIndex(0); }, 0},
         {"other index", [&] { w.list.SetIndex(1); }, 1},
         {"index beyond", [&] { w.list.SetIndex(3); }, 1},
@@ -61,10 +69,10 @@ TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
         {"resized by a person", [&] { w.PersonResizes(5, 6); }, 1},
     };
     // clang-format on
-    for (const auto& [what, act, expected] : steps) {
+    for (const Step& step : steps) {
         raised_ = 0;
-        act();
-        EXPECT_EQ(raised_, expected) << what;
+        step.act();
+        EXPECT_EQ(raised_, step.events) << step.what;
     }
     EXPECT_EQ(w.place.Get(), (Geometry{1, 2, 5, 6}));
 }
@@ -73,18 +81,18 @@ TEST_F(Controls, TextIsCommittedByEnterOrByLeavingAfterAnEdit) {
     int commits = 0;
     TextBox& text = window_.text;
     text.commit.Connect([&] { ++commits; });
-    const std::tuple<const char*, std::function<void()>, int> steps[] = {
+    const Step steps[] = {
         {"left unedited", [&] { text.Leave(); }, 0},
         {"written by the program", [&] { text.SetText("9"), text.Leave(); }, 0},
-        {"typed, another key", [&] { text.Type("5"), text.Press("F1"); }, 0},
+        {"typed, another key", [&] { text.Type("5"), text.PressKey("F1"); }, 0},
         {"left after typing", [&] { text.Leave(); }, 1},
         {"left again", [&] { text.Leave(); }, 0},
-        {"entered, left", [&] { text.Type("6"), text.Press("Enter"), text.Leave(); }, 1},
+        {"entered, left", [&] { text.Type("6"), text.PressKey("Enter"), text.Leave(); }, 1},
     };
-    for (const auto& [what, act, expected] : steps) {
+    for (const Step& step : steps) {
         commits = 0;
-        act();
-        EXPECT_EQ(commits, expected) << what;
+        step.act();
+        EXPECT_EQ(commits, step.events) << step.what;
     }
 }
 
@@ -136,6 +144,40 @@ TEST_F(Controls, ChangedControlIsListedOnceUntilTaken) {
     window_.text.SetText("3");
     EXPECT_EQ(changes_.Take(), (std::vector<Control*>{&window_.text}));
     EXPECT_EQ(firsts, 2);
+}
+
+TEST_F(Controls, OptionIsReachedAndMarkedAloneAndThroughItsGroup) {
+    OptionGroup& group = window_.options;
+    Option& option = group.At(1);
+    std::string keys;
+    option.keyDown.Connect([&](const Key& key) { keys += key; });
+    group.PressKey("F1");  // option 0 has the focus
+    changes_.Take();
+    option.Press();
+    EXPECT_EQ(changes_.Take(), (std::vector<Control*>{&group.At(0), &option, &group}));
+    EXPECT_TRUE(option.Checked() && !group.At(0).Checked());
+    group.PressKey("F2");
+    EXPECT_EQ(keys, "F2");
+    option.enabled = false;
+    EXPECT_TRUE(!option.EffectivelyEnabled() && group.At(0).EffectivelyEnabled());
+    group.enabled = false;
+    EXPECT_FALSE(group.At(0).EffectivelyEnabled());
+}
+
+TEST(Access, MnemonicIsTheStartOfAWordWhereOneBeginsWithIt) {
+    const struct {
+        const char* text;
+        char mnemonic;
+        std::size_t place;
+    } cases[] = {
+        {"Start", 'S', 0},
+        {"Stop", 't', 1},
+        {"Settings always on top", 't', 19},
+        {"Exit", 'X', 1},
+        {"Zero", 'q', std::string::npos},
+        {"Zero", 0, std::string::npos},
+    };
+    for (const auto& c : cases) EXPECT_EQ(MnemonicPlace(c.text, c.mnemonic), c.place) << c.text;
 }
 
 TEST_F(Controls, FramesAroundDisableAndHideButWindowsDoNot) {

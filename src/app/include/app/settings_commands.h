@@ -11,13 +11,14 @@
 #include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/enabling.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
     SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
-                     platform::Host& host);
+                     ui::Enabling& enabling, platform::Host& host);
 
     // The settings are replaced, which counts as an edit: they reach the sensor before its next
     // measurement. A file that can't be read leaves them as they were, and a message says so.
@@ -37,6 +38,7 @@ private:
 
     sensors::SensorTable& table_;
     measure::Modes& modes_;
+    ui::Enabling& enabling_;
     platform::Host& host_;
 };
 

@@ -12,12 +12,12 @@
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
 #include "ui/display_lists.h"
+#include "ui/enabling.h"
 #include "ui/error_strip.h"
 #include "ui/main_window.h"
 #include "ui/notice.h"
 #include "ui/record_menu.h"
 #include "ui/result_table.h"
-#include "ui/run_buttons.h"
 #include "ui/selection_lists.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
@@ -39,7 +39,7 @@ struct Windows {
     ui::StatusMarks marks;
     ui::CalcGrid calcGrid;
     ui::SpeedLabel speed;
-    ui::RunButtons runButtons;
+    ui::Enabling enabling;
     ui::RecordMenu recordMenu;
     ui::DisplayLists displayLists;
     ui::MainWindow mainWindow;

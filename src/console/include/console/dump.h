@@ -11,8 +11,7 @@
 
 namespace kelvra::console {
 
-// `member` is an option of a group, or -1.
-std::string DumpControl(const controls::Control& control, int member);
+std::string DumpControl(const controls::Control& control);
 
 // "Sensors", "Scaling", "SlotReadings", "Flags"; nothing for another name.
 std::optional<std::string> DumpTable(const app::Kelvra& kelvra, std::string_view name);

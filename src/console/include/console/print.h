@@ -10,6 +10,6 @@
 namespace kelvra::console {
 
 // Grids as rows of cells separated by TABs, lists an entry a line, others their text or caption.
-std::vector<std::string> PrintLines(const controls::Control& control, int member);
+std::vector<std::string> PrintLines(const controls::Control& control);
 
 }  // namespace kelvra::console

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "controls/access.h"
 #include "controls/changes.h"
 #include "controls/colours.h"
 
@@ -20,6 +21,7 @@ enum class Kind {
     TextBox,
     CheckBox,
     OptionGroup,
+    Option,
     List,
     Grid,
     Graph,
@@ -33,6 +35,7 @@ enum class Kind {
 const char* KindName(Kind kind);
 
 class Control;
+class Field;
 
 // A value whose change marks its control. Writing the same value again costs a comparison.
 template <class T>
@@ -62,7 +65,7 @@ private:
 
 class Control {
 public:
-    Control(Kind kind, Control& parent, std::string name);
+    Control(Kind kind, Control& parent, std::string name, Access declared = {});
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
     virtual ~Control() = default;
@@ -72,8 +75,11 @@ public:
     Control* Parent() const { return parent_; }
     const std::vector<Control*>& Children() const { return children_; }
 
+    // The control with its labels; null for what is no field.
+    virtual const Field* AsField() const { return nullptr; }
+
     // What a person meets: a control is disabled or hidden when its own flag or that of a frame
-    // around it says so. That its window is hidden does not count.
+    // or group around it says so. That its window is hidden does not count.
     bool EffectivelyEnabled() const;
     bool EffectivelyVisible() const;
 
@@ -84,6 +90,7 @@ public:
     Property<std::string> tooltip{*this, {}};
     Property<std::optional<Colour>> back{*this, std::nullopt};
     Property<std::optional<Colour>> fore{*this, std::nullopt};
+    Access access;  // from the declaration
 
 protected:
     // A window: it has no parent.

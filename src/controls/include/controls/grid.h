@@ -35,7 +35,7 @@ public:
     };
 
     // Row 0 is the heading.
-    Grid(Control& parent, std::string name, int rows, int columns);
+    Grid(Control& parent, std::string name, int rows, int columns, Access declared = {});
 
     int Rows() const { return rows_; }
     int Columns() const { return columns_; }
@@ -61,6 +61,9 @@ public:
     // again.
     Event<int, int> mouseDown;
     Event<int, int> click;
+    // What a person does to a cell: a press, and for a whole click the click after it.
+    void PressCell(int row, int column) { mouseDown.Raise(row, column); }
+    void ClickCell(int row, int column) { click.Raise(row, column); }
 
     Property<std::optional<Colour>> fixedBack{*this, std::nullopt};  // heading cells
     Property<std::optional<Colour>> emptyBack{*this, std::nullopt};  // where there are no cells

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "controls/control.h"
 #include "controls/event.h"
@@ -22,6 +21,15 @@ struct Geometry {
 // A key by its usual name: "F1", "Enter".
 using Key = std::string;
 
+// A control that takes the keyboard's focus.
+class Focusable : public Control {
+public:
+    using Control::Control;
+
+    Event<const Key&> keyDown;
+    virtual void PressKey(const Key& key) { keyDown.Raise(key); }
+};
+
 class Label : public Control {
 public:
     Label(Control& parent, std::string name, std::string captionText = {})
@@ -33,16 +41,15 @@ public:
     Property<std::string> caption;
 };
 
-class Button : public Control {
+class Button : public Focusable {
 public:
     Button(Control& parent, std::string name, std::string captionText = {},
-           std::string pictureName = {})
-        : Control(Kind::Button, parent, std::move(name)),
+           std::string pictureName = {}, Access declared = {})
+        : Focusable(Kind::Button, parent, std::move(name), std::move(declared)),
           caption(*this, std::move(captionText)),
           picture(*this, std::move(pictureName)) {}
 
     Event<> click;
-    Event<const Key&> keyDown;
     void Press() { click.Raise(); }
 
     Property<std::string> caption;
@@ -53,8 +60,8 @@ public:
 // A menu, an entry of it, or a line between entries. Entries are children of their menu.
 class MenuItem : public Control {
 public:
-    MenuItem(Control& parent, std::string name, std::string captionText)
-        : Control(Kind::MenuItem, parent, std::move(name)),
+    MenuItem(Control& parent, std::string name, std::string captionText, Access declared = {})
+        : Control(Kind::MenuItem, parent, std::move(name), std::move(declared)),
           caption(*this, std::move(captionText)) {}
 
     Event<> click;
@@ -62,13 +69,14 @@ public:
     bool IsSeparator() const { return caption.Get() == "-"; }
 
     Property<std::string> caption;
+    bool checkable = false;  // whether it has a place for a mark
     Property<bool> checked{*this, false};
 };
 
-class TextBox : public Control {
+class TextBox : public Focusable {
 public:
-    TextBox(Control& parent, std::string name, std::string text = {})
-        : Control(Kind::TextBox, parent, std::move(name)), text_(*this, std::move(text)) {}
+    TextBox(Control& parent, std::string name)
+        : Focusable(Kind::TextBox, parent, std::move(name)) {}
 
     const std::string& Text() const { return text_.Get(); }
     // The program's own write: raises Change for another text.
@@ -76,67 +84,37 @@ public:
 
     Event<> change;
     Event<> commit;  // Enter, or the person turns to another control after an edit
-    Event<const Key&> keyDown;
 
     void Type(std::string text);
     // Enter commits; every key is reported.
-    void Press(const Key& key);
+    void PressKey(const Key& key) override;
     // The person turns to another control: commits what was typed since the last commit.
     void Leave();
 
 private:
     void RaiseCommit();
 
-    Property<std::string> text_;
+    Property<std::string> text_{*this, {}};
     bool edited_ = false;
 };
 
-class CheckBox : public Control {
+class CheckBox : public Focusable {
 public:
-    CheckBox(Control& parent, std::string name, std::string captionText, bool checked = false)
-        : Control(Kind::CheckBox, parent, std::move(name)),
-          caption(*this, std::move(captionText)),
-          checked_(*this, checked) {}
+    CheckBox(Control& parent, std::string name, std::string captionText)
+        : Focusable(Kind::CheckBox, parent, std::move(name)),
+          caption(*this, std::move(captionText)) {}
 
     bool Checked() const { return checked_.Get(); }
     // The program's own write: raises Click for another state.
     void SetChecked(bool checked);
 
     Event<> click;
-    Event<const Key&> keyDown;
     void Toggle();
 
     Property<std::string> caption;
 
 private:
-    Property<bool> checked_;
-};
-
-// Options of which one is selected. A member is addressed as NAME(i), or by a name of its own.
-class OptionGroup : public Control {
-public:
-    struct Option {
-        std::string name;
-        std::string caption;
-    };
-
-    // Members named NAME(0), NAME(1), ...
-    OptionGroup(Control& parent, const std::string& name, const std::vector<std::string>& captions);
-    // Members with names of their own.
-    OptionGroup(Control& parent, std::string name, std::vector<Option> options);
-
-    const std::vector<Option>& Options() const { return options_; }
-    int Selected() const { return selected_.Get(); }
-    // The program's own write: raises Click for another option. Others than 0 .. n-1 are ignored.
-    void SetSelected(int option);
-
-    Event<> click;
-    Event<int, const Key&> keyDown;
-    void Select(int option);
-
-private:
-    std::vector<Option> options_;
-    Property<int> selected_{*this, 0};
+    Property<bool> checked_{*this, false};
 };
 
 class RichText : public Control {
@@ -149,8 +127,9 @@ public:
 
 class Picture : public Control {
 public:
-    Picture(Control& parent, std::string name, std::string pictureName = {})
-        : Control(Kind::Picture, parent, std::move(name)), image(*this, std::move(pictureName)) {}
+    Picture(Control& parent, std::string name, std::string pictureName = {}, Access declared = {})
+        : Control(Kind::Picture, parent, std::move(name), std::move(declared)),
+          image(*this, std::move(pictureName)) {}
 
     Property<std::string> image;  // by name
     Property<std::string> tag{*this, {}};

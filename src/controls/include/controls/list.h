@@ -12,7 +12,7 @@
 
 namespace kelvra::controls {
 
-class List : public Control {
+class List : public Focusable {
 public:
     struct Item {
         std::string text;
@@ -20,7 +20,8 @@ public:
         bool operator==(const Item&) const = default;
     };
 
-    List(Control& parent, std::string name, std::vector<Item> items = {}, int index = -1);
+    List(Control& parent, std::string name, std::vector<Item> items = {}, int index = -1,
+         Access declared = {});
 
     const std::vector<Item>& Items() const { return items_; }
     int Count() const { return static_cast<int>(items_.size()); }
@@ -46,7 +47,6 @@ public:
 
     Event<> click;
     Event<> dropDown;
-    Event<const Key&> keyDown;
     void Choose(int index);
     void Open() { dropDown.Raise(); }
 

@@ -26,6 +26,10 @@ QString TooltipText(const std::string& text);
 // The tooltip while the control has none.
 void SetOwnTooltip(QWidget& widget, const QString& text);
 
+// The control's caption, or its name where it has none, with the mnemonic marked as the toolkit
+// wants it.
+QString MarkedText(const controls::Control& control, const std::string& caption);
+
 // For screen readers: what the control is, in words, where its caption doesn't say it.
 void Describe(QWidget& widget, const QString& name);
 

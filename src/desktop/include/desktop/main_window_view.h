@@ -33,15 +33,16 @@ public:
 
 private:
     void BuildMenus();
+    void AddEntry(QMenu& menu, controls::MenuItem& item);
     QWidget* BuildTools();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();
     QHBoxLayout* BuildConnection();
     QWidget* BuildFormulas();
     void KeepResultsInSight();
-    QPushButton* MakeButton(controls::Button& button, const char* text, const char* shortcut);
+    QPushButton* MakeButton(controls::Button& button);
     QLabel* MakeLabel(const controls::Label& label);
-    QWidget* MakeList(controls::List& list, const char* name);
+    QWidget* MakeList(controls::List& list);
 
     forms::MDIMain& form_;
     Mirror& mirror_;

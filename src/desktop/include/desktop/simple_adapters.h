@@ -34,8 +34,6 @@ private:
     QPushButton& widget_;
 };
 
-// The text of the action is the front end's own, with a mnemonic; a caption that changes replaces
-// it.
 class MenuItemAdapter final : public Adapter {
 public:
     MenuItemAdapter(controls::MenuItem& item, QAction& action);
@@ -44,7 +42,6 @@ public:
 private:
     controls::MenuItem& item_;
     QAction& action_;
-    std::string shownCaption_;
 };
 
 // A list that the wheel turns only when it has the focus: a page may be scrolled over it.

@@ -17,7 +17,8 @@ struct TimeForm : controls::Window {
     controls::Label lblRecText{Frame1, "lblRecText", "Record data every"};
     controls::TextBox TimeIntervalBox{Frame1, "TimeIntervalBox"};
     controls::Label Label2{Frame1, "Label2", "seconds"};
-    controls::Button SubmitTimeButton{Frame1, "SubmitTimeButton", "", "submitTimePic"};
+    controls::Button SubmitTimeButton{
+        Frame1, "SubmitTimeButton", "", "submitTimePic", {.name = "Record"}};
 };
 
 struct AboutForm : controls::Window {

@@ -16,7 +16,7 @@ struct ScopeDisp : controls::Window {
 
     controls::Label lblSensor{*this, "lblSensor", "Sensor"};
     controls::List Scope_Sensorselect{*this, "Scope_Sensorselect"};
-    controls::Button Scope_Zoom_Button{*this, "Scope_Zoom_Button", "", "zoomPic"};
+    controls::Button Scope_Zoom_Button{*this, "Scope_Zoom_Button", "", "zoomPic", {.name = "Zoom"}};
     controls::CheckBox ShowTSlotMarkers{*this, "ShowTSlotMarkers", "Show timeslot markers"};
     controls::CheckBox chkAddBoundingBox{*this, "chkAddBoundingBox", "Add bounding box"};
     controls::Graph Display{*this, "Display"};
@@ -39,7 +39,7 @@ struct TimeSlotTabForm : controls::Window {
     controls::Label lblNumberOfSamples{MainFrame, "lblNumberOfSamples", "Number of samples:"};
     controls::Label NumberOfSamples{MainFrame, "NumberOfSamples", "0"};
     controls::Button ResetStat{MainFrame, "ResetStat", "Reset statistics"};
-    controls::Grid TimeSlots{MainFrame, "TimeSlots", 9, 6};
+    controls::Grid TimeSlots{MainFrame, "TimeSlots", 9, 6, {.name = "Time slots"}};
 };
 
 }  // namespace kelvra::forms

@@ -20,7 +20,6 @@ enum class Lookup { Found, Unknown, NotUnique };
 struct Found {
     Lookup result = Lookup::Unknown;
     controls::Control* control = nullptr;  // null unless found
-    int member = -1;                       // the option meant, where the name is a member's
 
     explicit operator bool() const { return result == Lookup::Found; }
 };
@@ -44,7 +43,7 @@ struct Forms {
     controls::Window* FindFormByName(std::string_view name);
 
     // NAME where only one control has that name, or WINDOW.NAME. A window is found by its own name,
-    // an option by its member's name: "Option3", "SensAvgMode(1)". Upper and lower case are told
+    // an option by its own name: "Option3", "SensAvgMode(1)". Upper and lower case are told
     // apart.
     Found Find(std::string_view name);
 };

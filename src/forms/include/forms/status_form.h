@@ -17,7 +17,7 @@ struct StatusForm : controls::Window {
     }
 
     controls::Frame SensorFrame{*this, "SensorFrame", "", {0, 0, 5520, 4200}};
-    controls::Grid ResultGrid{SensorFrame, "ResultGrid", 9, 6};
+    controls::Grid ResultGrid{SensorFrame, "ResultGrid", 9, 6, {.name = "Results"}};
 };
 
 }  // namespace kelvra::forms

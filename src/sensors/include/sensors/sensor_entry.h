@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "sensors/reading_ring.h"
@@ -37,6 +38,9 @@ struct SensorPresence {
     std::string lastErrorText{};
     bool triggerNowRequest = false;
 };
+
+// The model, "PS-101": of a simulated sensor, which has no id, its resource says it.
+std::string_view TypeOf(const SensorPresence& sensor);
 
 struct SensorEntry : SensorPresence {
     SensorSettings settings = DefaultSettings();  // until the next sensor's are read

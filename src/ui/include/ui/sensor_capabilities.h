@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the setup dialog offers for a sensor's model.
+// The modes that the setup dialog offers for a sensor's model; what it enables is in
+// enable_states.h.
 #pragma once
 
 #include "forms/setup_form.h"
@@ -8,8 +9,7 @@
 namespace kelvra::ui {
 
 // Fills the mode list for the model and selects the sensor's mode (or leaves the selection when the
-// list doesn't have it); enables the trigger and advanced pages, or disables the averaging slot. An
-// unknown model leaves list and controls as they are.
+// list doesn't have it). An unknown model leaves the list as it is.
 void ApplySensorCapabilities(forms::SetupForm& dialog, const sensors::SensorEntry& entry);
 
 }  // namespace kelvra::ui

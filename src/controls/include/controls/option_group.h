@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Options of which one is selected. Each is a small control of its own inside the group: it has a
+// name, a tooltip, and can be disabled alone.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/kinds.h"
+
+namespace kelvra::controls {
+
+class OptionGroup;
+
+// An option as a form declares it.
+struct OptionMember {
+    std::string name;
+    std::string caption;
+    int helpTopic = 0;
+};
+
+class Option : public Focusable {
+public:
+    Option(OptionGroup& group, int number, OptionMember member);
+
+    bool Checked() const;
+    void Press();  // a person selects it
+
+    Property<std::string> caption;
+
+private:
+    OptionGroup& group_;
+    int number_;
+};
+
+class OptionGroup : public Control {
+public:
+    // Members named NAME(0), NAME(1), ...
+    OptionGroup(Control& parent, const std::string& name, const std::vector<std::string>& captions);
+    // Members with names of their own.
+    OptionGroup(Control& parent, std::string name, std::vector<OptionMember> members);
+
+    int Count() const { return static_cast<int>(options_.size()); }
+    Option& At(int option) { return *options_[static_cast<std::size_t>(option)]; }
+    const Option& At(int option) const { return *options_[static_cast<std::size_t>(option)]; }
+
+    int Selected() const { return selected_; }
+    // The program's own write: raises Click for another option. Others than 0 .. n-1 are ignored.
+    void SetSelected(int option);
+
+    Event<> click;
+    void Select(int option);
+    // The selected option has the focus.
+    void PressKey(const Key& key) { At(selected_).PressKey(key); }
+
+private:
+    bool Change(int option);
+
+    std::vector<std::unique_ptr<Option>> options_;
+    int selected_ = 0;
+};
+
+}  // namespace kelvra::controls

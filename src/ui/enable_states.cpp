@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/enable_states.h"
+
+#include <initializer_list>
+
+namespace kelvra::ui {
+
+namespace {
+
+constexpr int ExternalTrigger = 1;
+
+void Enable(std::initializer_list<controls::Control*> controls, bool enabled) {
+    for (controls::Control* control : controls) control->enabled = enabled;
+}
+
+// The group and each of its options.
+void Enable(controls::OptionGroup& group, bool enabled) {
+    group.enabled = enabled;
+    for (int option = 0; option < group.Count(); ++option) group.At(option).enabled = enabled;
+}
+
+void EnableCommands(forms::SetupForm& dialog, bool enabled) {
+    const struct {
+        controls::Button& button;
+        const char* picture;
+        const char* disabledPicture;
+    } commands[] = {
+        {dialog.SensorZero, "zeroSensPic", "zeroSensDisPic"},
+        {dialog.cmdZeroAll, "zeroSensAllPic", "zeroSensAllDisPic"},
+        {dialog.SensSelfTest, "selfTestPic", "selfTestDisPic"},
+        {dialog.SensInfo, "sensInfoPic", "sensInfoDisPic"},
+    };
+    dialog.ActionFrame.enabled = enabled;
+    for (const auto& command : commands)
+        command.button.picture = enabled ? command.picture : command.disabledPicture;
+}
+
+}  // namespace
+
+EnableStates FindEnableStates(const Situation& situation) {
+    const Activity activity = situation.activity;
+    const sensors::SensorSettings& settings = situation.settings;
+    const bool averageOnly = situation.model == driver::Capabilities::AverageOnly;
+    const bool started = activity == Activity::Opening || activity == Activity::Measuring ||
+                         activity == Activity::Held;
+    const bool busy = activity == Activity::Measuring || activity == Activity::Command;
+    return {
+        .start = activity == Activity::Idle,
+        .stop = started,
+        .commands = !busy && !situation.simulation,
+        .averaging = settings.AvgEnable,
+        .averagingSlot = settings.AvgEnable && settings.Mode == sensors::TimeSlot && !averageOnly,
+        .traceAveraging = settings.ScopeAVGEnable,
+        .dutyCycle = settings.Mode == sensors::ContinuousAverage,
+        .triggerPage = !averageOnly,
+        .advancedPage = !averageOnly,
+        .triggerLevel = settings.TrigSource != ExternalTrigger,
+    };
+}
+
+void ApplyEnableStates(forms::Forms& forms, const EnableStates& states) {
+    forms::SetupForm& dialog = forms.setupForm;
+    // What becomes enabled comes first: the focus goes from the one to the other.
+    forms::MDIMain& main = forms.mdiMain;
+    if (states.stop) main.StopIt.enabled = true;
+    main.StartIt.enabled = states.start;
+    main.StopIt.enabled = states.stop;
+    EnableCommands(dialog, states.commands);
+
+    Enable({&dialog.MovingAveraging, &dialog.SensAvgResValue, &dialog.SensAvgSNRValue,
+            &dialog.SensAvgMaxTime, &dialog.SensAvgCount},
+           states.averaging);
+    Enable(dialog.SensAvgMode, states.averaging);
+    dialog.SensAvgSlot.enabled = states.averagingSlot;
+    Enable({&dialog.ScopeMovingAveraging, &dialog.ScopeAvgResValue, &dialog.ScopeAvgSNRValue,
+            &dialog.ScopeAvgMaxTime, &dialog.ScopeAvgCount},
+           states.traceAveraging);
+    Enable(dialog.ScopeAvgMode, states.traceAveraging);
+    Enable({&dialog.CorrDutyEnable, &dialog.CorrDutyValue}, states.dutyCycle);
+    dialog.TriggerFrame.enabled = states.triggerPage;
+    dialog.AdvancedFrame.enabled = states.advancedPage;
+    dialog.SensTriggerLevel.enabled = states.triggerLevel;
+}
+
+}  // namespace kelvra::ui

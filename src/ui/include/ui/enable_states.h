@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Which controls of the main window and the setup dialog can be used: one function that finds it
+// from what there is, and one writer. Nothing else enables or disables these controls.
+#pragma once
+
+#include "driver/catalogue.h"
+#include "forms/forms.h"
+#include "sensors/sensor_settings.h"
+
+namespace kelvra::ui {
+
+// What Kelvra is doing.
+enum class Activity {
+    Idle,
+    Opening,    // Start opens the sensors and sends their settings
+    Measuring,  // passes run
+    Held,       // Start has failed; Stop leaves this
+    Command,    // zeroing, a self test, or a look at the information entries runs
+};
+
+struct Situation {
+    Activity activity = Activity::Idle;
+    bool simulation = false;
+    // Of the current sensor.
+    driver::Capabilities model = driver::Capabilities::Unknown;
+    sensors::SensorSettings settings;
+};
+
+struct EnableStates {
+    bool start = false;
+    bool stop = false;
+    bool commands = false;   // zero, zero all, self test, information: frame and pictures
+    bool averaging = false;  // what belongs to averaging, its switch excepted
+    bool averagingSlot = false;
+    bool traceAveraging = false;  // the same of the trace mode
+    bool dutyCycle = false;
+    bool triggerPage = false;
+    bool advancedPage = false;
+    bool triggerLevel = false;
+
+    bool operator==(const EnableStates&) const = default;
+};
+
+EnableStates FindEnableStates(const Situation& situation);
+
+void ApplyEnableStates(forms::Forms& forms, const EnableStates& states);
+
+}  // namespace kelvra::ui

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/setup_rows.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "util/number_reading.h"
+#include "util/number_text.h"
+
+namespace kelvra::ui {
+
+using controls::CheckBox;
+using controls::List;
+using controls::OptionGroup;
+using controls::TextBox;
+using forms::SetupForm;
+using sensors::SensorSettings;
+
+namespace {
+
+constexpr int SingleTrigger = 0;
+
+constexpr SetupUnit One{};
+constexpr SetupUnit Ms{1e3, 1};
+constexpr SetupUnit Us{1e6, 1};
+constexpr SetupUnit Mhz{1, 1e6};
+
+// clang-format off
+constexpr SetupRow Rows[] = {
+    {&SetupForm::SensMode,             &SensorSettings::Mode,                One, SetupRule::ItemData},
+    {&SetupForm::SensContAVTime,       &SensorSettings::ContAVAper,          Ms},
+    {&SetupForm::SensContAVSmooth,     &SensorSettings::ContAvSmooth},
+    {&SetupForm::SensBuffAVSize,       &SensorSettings::BuffAVBuffer},
+    {&SetupForm::SensBurstDropOut,     &SensorSettings::BurstAVDropTol,      Us},
+    {&SetupForm::SensSlotCount,        &SensorSettings::TSlotCount},
+    {&SetupForm::SensSlotWidth,        &SensorSettings::TSlotWidth,          Ms},
+    {&SetupForm::SensSlotExclStart,    &SensorSettings::TSlotExclStart,      Ms},
+    {&SetupForm::SensSlotExclStop,     &SensorSettings::TSlotExclStop,       Ms},
+    {&SetupForm::ShowExclInTSlot,      &SensorSettings::TSlotExclDispInSlot, One, SetupRule::NearestEntry},
+    {&SetupForm::ScopePoints,          &SensorSettings::ScopePoints},
+    {&SetupForm::ScopeTime,            &SensorSettings::ScopeTime,           Ms},
+    {&SetupForm::ScopeTimeOffset,      &SensorSettings::ScopeOffset,         Ms},
+    {&SetupForm::ScopeRealtime,        &SensorSettings::ScopeRealtime},
+    {&SetupForm::ScopeAVGState,        &SensorSettings::ScopeAVGEnable},
+    {&SetupForm::ScopeAvgMode,         &SensorSettings::ScopeAvgMode},
+    {&SetupForm::ScopeAvgResValue,     &SensorSettings::ScopeAVGNormVal},
+    {&SetupForm::ScopeAvgSNRValue,     &SensorSettings::ScopeAVGSNVal},
+    {&SetupForm::ScopeAvgCount,        &SensorSettings::ScopeAVGManCount},
+    {&SetupForm::ScopeAvgMaxTime,      &SensorSettings::ScopeAVGMaxSetTime},
+    {&SetupForm::ScopeMovingAveraging, &SensorSettings::ScopeAVGMoving},
+    {&SetupForm::SensAVGState,         &SensorSettings::AvgEnable},
+    {&SetupForm::SensAvgMode,          &SensorSettings::AvgMode},
+    {&SetupForm::SensAvgResValue,      &SensorSettings::AvgNormVal},
+    {&SetupForm::SensAvgSNRValue,      &SensorSettings::AvgSNVal},
+    {&SetupForm::SensAvgCount,         &SensorSettings::AvgManCount},
+    {&SetupForm::SensAvgMaxTime,       &SensorSettings::AvgMaxSetTime},
+    {&SetupForm::SensAvgSlot,          &SensorSettings::AvgSlotNum},
+    {&SetupForm::MovingAveraging,      &SensorSettings::AvgMoving},
+    {&SetupForm::SensTrigger,          &SensorSettings::TrigSource},
+    {&SetupForm::SensTriggerSlope,     &SensorSettings::TrigSlope},
+    {&SetupForm::SensTriggerCount,     &SensorSettings::TrigCount},
+    {&SetupForm::SensTriggerDelay,     &SensorSettings::TrigDelay,           Ms,  SetupRule::Thousandths},
+    {&SetupForm::SensTriggerLevel,     &SensorSettings::TrigLevel},
+    {&SetupForm::SensTriggerHyst,      &SensorSettings::TrigHyster},
+    {&SetupForm::SensTriggerHoldOff,   &SensorSettings::TrigHoldOff,         Ms},
+    {&SetupForm::CorrFreqEnable,       &SensorSettings::CorrFreq,            One, SetupRule::AlwaysChecked},
+    {&SetupForm::CorrFreqValue,        &SensorSettings::CorrFreqVal,         Mhz},
+    {&SetupForm::CorrOffsetEnable,     &SensorSettings::CorrOffset},
+    {&SetupForm::CorrOffsetValue,      &SensorSettings::CorrOffsetVal},
+    {&SetupForm::CorrGammaEnabled,     &SensorSettings::CorrGamma},
+    {&SetupForm::CorrGammaAmp,         &SensorSettings::CorrGammaAmp},
+    {&SetupForm::CorrGammaPhase,       &SensorSettings::CorrGammaPha},
+    {&SetupForm::CorrDutyEnable,       &SensorSettings::CorrDuty},
+    {&SetupForm::CorrDutyValue,        &SensorSettings::CorrDutyVal},
+    {&SetupForm::CorrSParaEnabled,     &SensorSettings::CorrSParaCor},
+    {&SetupForm::SensRange,            &SensorSettings::RangeAuto,           One, SetupRule::TrueIsFirst},
+    {&SetupForm::SensRangeXOver,       &SensorSettings::RangeCross},
+    {&SetupForm::SensRangeValue,       &SensorSettings::RangePath},
+    {&SetupForm::SensSampFreq,         &SensorSettings::FreqHigh,            One, SetupRule::TrueIsFirst},
+    {&SetupForm::SensInitCont,         &SensorSettings::ContMeas},
+};
+// clang-format on
+
+std::string ShownNumber(double value) {
+    return util::GeneralText(value, {});
+}
+
+void Show(TextBox& box, double stored, const SetupRow& row) {
+    double shown = stored * row.unit.shown / row.unit.stored;
+    if (row.rule == SetupRule::Thousandths) shown = std::nearbyint(shown * 1e3) / 1e3;
+    box.SetText(ShownNumber(shown));
+}
+
+void Show(CheckBox& box, double stored, const SetupRow& row) {
+    box.SetChecked(stored != 0 || row.rule == SetupRule::AlwaysChecked);
+}
+
+void Show(List& list, double stored, const SetupRow& row) {
+    int index = static_cast<int>(stored);
+    if (row.rule == SetupRule::ItemData) index = list.IndexOfData(index);
+    if (row.rule == SetupRule::NearestEntry) index = std::min(std::max(index, 0), list.Count() - 1);
+    list.SetIndex(index);
+}
+
+void Show(OptionGroup& group, double stored, const SetupRow& row) {
+    const int option = static_cast<int>(stored);
+    group.SetSelected(row.rule == SetupRule::TrueIsFirst ? 1 - option : option);
+}
+
+void FillSlotNumbers(SetupForm& form) {
+    const auto count = util::RoundToInt16(util::ReadNumber(form.SensSlotCount.Text()));
+    std::vector<List::Item> numbers;
+    for (int slot = 1; slot <= count.value_or(0); ++slot)
+        numbers.push_back({util::TrimmedNumberText(std::int64_t{slot})});
+    form.ShowExclInTSlot.Fill(std::move(numbers));
+}
+
+}  // namespace
+
+std::span<const SetupRow> SetupRows() {
+    return Rows;
+}
+
+void ShowSettings(SetupForm& form, const SensorSettings& settings) {
+    FillSlotNumbers(form);
+    for (const SetupRow& row : Rows)
+        std::visit(
+            [&](auto field, auto member) {
+                Show(form.*field, static_cast<double>(settings.*member), row);
+            },
+            row.field, row.member);
+    form.SensTriggerNow.visible = settings.TrigSource == SingleTrigger;
+}
+
+void ShowScaling(SetupForm& form, const sensors::DisplayScaling& scaling) {
+    form.chkAutoScaleScope.SetChecked(scaling.autoScaleScope);
+    form.chkAutoScaleTime.SetChecked(scaling.autoScaleTime);
+    form.txtMinScope.SetText(ShownNumber(scaling.minScope));
+    form.txtMaxScope.SetText(ShownNumber(scaling.maxScope));
+    form.txtMinTime.SetText(ShownNumber(scaling.minTime));
+    form.txtMaxTime.SetText(ShownNumber(scaling.maxTime));
+}
+
+}  // namespace kelvra::ui

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/setup_rows.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace kelvra::ui {
+namespace {
+
+class SetupRowsTest : public testing::Test {
+protected:
+    void Show() { ShowSettings(form_, settings_); }
+
+    controls::Changes changes_;
+    forms::SetupForm form_{changes_};
+    sensors::SensorSettings settings_ = sensors::DefaultSettings();
+};
+
+const controls::Control* FieldOf(const forms::SetupForm& form, const SetupRow& row) {
+    return std::visit([&](auto field) -> const controls::Control* { return &(form.*field); },
+                      row.field);
+}
+
+// The two that decide what is displayed have no control.
+TEST_F(SetupRowsTest, EverySettingButTwoHasOneFieldOfItsOwn) {
+    std::vector<const controls::Control*> fields;
+    for (const SetupRow& row : SetupRows()) fields.push_back(FieldOf(form_, row));
+    std::sort(fields.begin(), fields.end());
+    EXPECT_EQ(std::adjacent_find(fields.begin(), fields.end()), fields.end());
+    for (const sensors::SettingsField& setting : sensors::SettingsFields()) {
+        const std::string_view name = setting.name;
+        const auto rows =
+            std::count_if(SetupRows().begin(), SetupRows().end(),
+                          [&](const SetupRow& row) { return row.member == setting.member; });
+        EXPECT_EQ(rows, name == "TSlotGraph" || name == "TSlotTable" ? 0 : 1) << name;
+    }
+}
+
+TEST_F(SetupRowsTest, NumbersAreShownInTheUnitOfTheDialog) {
+    settings_.ContAVAper = 0.0123;
+    settings_.BurstAVDropTol = 0.0000015;
+    settings_.CorrFreqVal = 1234567890;
+    settings_.TrigDelay = -0.0012345678;
+    settings_.TrigHoldOff = 0.0012345678;
+    settings_.AvgSNVal = 0.25;
+    settings_.TrigCount = -7;
+    Show();
+    const struct {
+        const controls::TextBox& box;
+        const char* text;
+    } cases[] = {
+        {form_.SensContAVTime, "12.3"},          {form_.SensBurstDropOut, "1.5"},
+        {form_.CorrFreqValue, "1234.56789"},     {form_.SensTriggerDelay, "-1.235"},
+        {form_.SensTriggerHoldOff, "1.2345678"}, {form_.SensAvgSNRValue, "0.25"},
+        {form_.SensTriggerCount, "-7"},          {form_.SensTriggerLevel, "-30"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.box.Text(), c.text) << c.box.Name();
+}
+
+TEST_F(SetupRowsTest, MarksOptionsAndEntriesFollowTheirSettings) {
+    Show();
+    EXPECT_TRUE(form_.CorrFreqEnable.Checked());  // the setting says no
+    EXPECT_FALSE(form_.CorrOffsetEnable.Checked());
+    EXPECT_EQ(form_.SensRange.Selected(), 0);
+    EXPECT_FALSE(form_.SensTriggerNow.visible);
+    settings_.CorrOffset = true;
+    settings_.RangeAuto = settings_.FreqHigh = false;
+    settings_.TrigSlope = 1;
+    settings_.TrigSource = 0;
+    settings_.Mode = sensors::Trace;
+    form_.SensMode.Fill({{"Scope", sensors::Trace}, {"Cont Avg", sensors::ContinuousAverage}});
+    Show();
+    EXPECT_TRUE(form_.CorrOffsetEnable.Checked());
+    EXPECT_EQ(form_.SensRange.Selected(), 1);
+    EXPECT_EQ(form_.SensSampFreq.Selected(), 1);
+    EXPECT_EQ(form_.SensTriggerSlope.Selected(), 1);
+    EXPECT_EQ(form_.SensTrigger.Text(), "Single");
+    EXPECT_EQ(form_.SensMode.Index(), 0);
+    EXPECT_TRUE(form_.SensTriggerNow.visible);
+}
+
+TEST_F(SetupRowsTest, SlotOfTheExclusionIsOneThatIsListed) {
+    const struct {
+        const char* shownCount;
+        std::int16_t stored;
+        const char* selected;
+    } cases[] = {{"4", 2, "3"}, {"4", -1, "1"}, {"4", 4, "4"}, {"", 0, ""}, {"-3", 1, ""}};
+    for (const auto& c : cases) {
+        form_.SensSlotCount.SetText(c.shownCount);
+        settings_.TSlotExclDispInSlot = c.stored;
+        Show();
+        EXPECT_EQ(form_.ShowExclInTSlot.Text(), c.selected) << c.shownCount << c.stored;
+        EXPECT_EQ(form_.SensSlotCount.Text(), "8");
+    }
+}
+
+}  // namespace
+}  // namespace kelvra::ui
