@@ -183,7 +183,7 @@ void Discovery::Simulation() {
 }
 
 void Discovery::EnterSimulation() {
-    p_.notices.ShowSensorError(false, 0, "", false);  // whose error it was has gone
+    p_.notices.SensorIsWell(0);  // the sensors have gone, and their errors with them
     const struct {
         const char* name;
         const char* resource;

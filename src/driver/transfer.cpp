@@ -50,16 +50,16 @@ void SendAveraging(SettingsSender& send, InstrumentOperations& op, const SensorS
     switch (s.AvgMode) {
         case sensors::ByResolution:
             send(op.psdrv_avg_setAutoEnabled, "Average Auto Enabled", On);
-            send.Send(LogForm::TypeNormal, op.psdrv_avg_setAutoType, "Average Type Normal",
+            send.Send(log_form::TypeNormal, op.psdrv_avg_setAutoType, "Average Type Normal",
                       TypeNormal);
             send(op.psdrv_avg_setAutoResolution, "Average Resolution", Resolution(s.AvgNormVal));
-            send.Send(LogForm::BlankAfterName, op.psdrv_avg_setAutoMaxMeasuringTime,
+            send.Send(log_form::SpaceAfterName, op.psdrv_avg_setAutoMaxMeasuringTime,
                       "Average Max MeasTime", s.AvgMaxSetTime);
             sendReferenceSlot();
             break;
         case sensors::ByNoise:
             send(op.psdrv_avg_setAutoEnabled, "Average Auto Enabled", On);
-            send.Send(LogForm::TypeNoise, op.psdrv_avg_setAutoType, "Average Type SN", TypeNoise);
+            send.Send(log_form::TypeNoise, op.psdrv_avg_setAutoType, "Average Type SN", TypeNoise);
             send(op.psdrv_avg_setAutoNoiseSignalRatio, "Average SN Value", s.AvgSNVal);
             send(op.psdrv_avg_setAutoMaxMeasuringTime, "Average Max MeasTime", s.AvgMaxSetTime);
             sendReferenceSlot();
@@ -83,7 +83,7 @@ void SendCorrections(SettingsSender& send, InstrumentOperations& op, const Senso
     } else {
         send(op.psdrv_corr_setOffsetEnabled, "Correction Offset OFF", Off);
     }
-    send.Send(LogForm::ArgumentsAgain, op.psdrv_corr_setSParamDeviceEnabled,
+    send.Send(log_form::ArgumentsAgain, op.psdrv_corr_setSParamDeviceEnabled,
               "Correction S parameter", SwitchOf(s.CorrSParaCor));
     if (s.CorrGamma) {
         send(op.psdrv_chan_setSourceGammaCorrEnabled, "Correction Gamma ON", On);
@@ -118,7 +118,7 @@ void SendRange(SettingsSender& send, InstrumentOperations& op, const SensorSetti
 void SendTrigger(SettingsSender& send, InstrumentOperations& op, const SensorSettings& s) {
     send(op.psdrv_trigger_setSource, "Trigger Source", std::int32_t{s.TrigSource});
     send(op.psdrv_trigger_setSlope, "Trigger Slope", std::int32_t{s.TrigSlope});
-    send.Send(LogForm::NameAlone, op.psdrv_trigger_setDelay, "Trigger Delay", s.TrigDelay);
+    send.Send(log_form::NameAlone, op.psdrv_trigger_setDelay, "Trigger Delay", s.TrigDelay);
     send(op.psdrv_trigger_setCount, "Trigger Count", s.TrigCount);
     send(op.psdrv_trigger_setLevel, "Trigger Level", util::DbmToW(s.TrigLevel));
     send(op.psdrv_trigger_setHysteresis, "Trigger Hysteresis", s.TrigHyster);
@@ -131,7 +131,7 @@ void SendTraceAveraging(SettingsSender& send, InstrumentOperations& op, const Se
     switch (s.ScopeAvgMode) {
         case sensors::ByResolution:
             send(op.psdrv_scope_setAutoEnabled, "Scope Average Auto ON", On);
-            send.Send(LogForm::TypeNormal, op.psdrv_scope_setAutoType, "Scope Average Type Normal",
+            send.Send(log_form::TypeNormal, op.psdrv_scope_setAutoType, "Scope Average Type Normal",
                       TypeNormal);
             send(op.psdrv_scope_setAutoResolution, "Scope Average Normal Resolution",
                  Resolution(s.ScopeAVGNormVal));
@@ -140,7 +140,7 @@ void SendTraceAveraging(SettingsSender& send, InstrumentOperations& op, const Se
             break;
         case sensors::ByNoise:
             send(op.psdrv_scope_setAutoEnabled, Unchecked, On);
-            send.Send(LogForm::TypeNoise, op.psdrv_scope_setAutoType, Unchecked, TypeNoise);
+            send.Send(log_form::TypeNoise, op.psdrv_scope_setAutoType, Unchecked, TypeNoise);
             send(op.psdrv_scope_setAutoNoiseSignalRatio, Unchecked, s.ScopeAVGSNVal);
             send(op.psdrv_scope_setAutoMaxMeasuringTime, Unchecked, s.ScopeAVGMaxSetTime);
             break;
@@ -202,16 +202,6 @@ std::string LogHeader(Handle handle, int slot) {
     return header;
 }
 
-void ResetChannel(Session& session, int slot) {
-    if (session.log.enabled)
-        session.log.Write("psdrv_chan_reset(" +
-                          util::TrimmedNumberText(std::int64_t{session.state.instrumentHandle}) +
-                          ", " + util::TrimmedNumberText(std::int64_t{ChannelOf(slot)}) +
-                          ") STARTING");
-    session.operations.psdrv_chan_reset(session.state.instrumentHandle, ChannelOf(slot));
-    session.log.Write("psdrv_chan_reset -> FINISHED");
-}
-
 }  // namespace
 
 void ConfigurationTransfer::ConfigureSensor(int slot) {
@@ -220,12 +210,13 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         sensors::SensorEntry& entry = table_[slot];
         session_.state.configRunning = true;
         marks_.TransferBegins(slot);
-        ResetChannel(session_, slot);
+        InstrumentOperations& op = session_.operations;
+        FramedCall(session_.log, log_form::Reset, op.psdrv_chan_reset,
+                   session_.state.instrumentHandle, ChannelOf(slot));
         entry.lastErrorText.clear();
         session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
 
         SettingsSender send(session_, slot);
-        InstrumentOperations& op = session_.operations;
         const bool withoutRange =
             util::UpperCase(entry.logicalName).find("PS-102") != std::string::npos;
         const bool averageOnly = entry.logicalName.find("102") != std::string::npos;
@@ -238,11 +229,19 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         }
 
         session_.log.header.clear();
-        notices_.ShowSensorError(!entry.lastErrorText.empty(), slot, entry.lastErrorText, false);
+        ReportOutcome(slot);
         entry.settingsChanged = false;
         session_.state.configRunning = false;
     }
     marks_.TransferEnds(slot);
+}
+
+void ConfigurationTransfer::ReportOutcome(int slot) {
+    const std::string& errors = table_[slot].lastErrorText;
+    if (errors.empty())
+        notices_.SensorIsWell(slot);
+    else
+        notices_.SensorFailed(slot, std::string(util::TrimLineBreaks(errors)));
 }
 
 }  // namespace kelvra::driver

@@ -94,12 +94,9 @@ void Cycle::Configure(int slot) {
 
 void Cycle::Initiate() {
     if (p_.table.simulationMode) return;
-    driver::DebugLog& log = p_.session.log;
-    const driver::Handle handle = p_.session.state.instrumentHandle;
-    if (log.enabled)
-        log.Write("psdrv_chans_initiate( " + driver::ArgumentText(handle) + " ) STARTING");
-    p_.session.operations.psdrv_chans_initiate(handle);
-    log.Write("psdrv_chans_initiate -> TeskSession FINISHED");
+    driver::FramedCall(p_.session.log, driver::log_form::Initiating,
+                       p_.session.operations.psdrv_chans_initiate,
+                       p_.session.state.instrumentHandle);
 }
 
 // One reading of the clock serves a round, and the first round has that of the pass.
@@ -136,26 +133,25 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     const driver::Handle handle = p_.session.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     if (p_.table[slot].triggerNowRequest) {
-        driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger,
+        driver::FramedCall(log, driver::log_form::General, op.psdrv_meass_sendSoftwareTrigger,
                            handle, channel);
         p_.table[slot].triggerNowRequest = false;
     }
-    const std::string name = log.enabled ? op.psdrv_chan_isMeasurementComplete.name : "";
     driver::Switch complete = 0;
-    if (log.enabled)
-        log.Write(name + "( " + driver::ArgumentText(handle, channel, complete) + " ) STARTING");
-    const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
-    if (log.enabled)
-        log.Write(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
-    ShowWaiting(slot, status, now);
+    const driver::CallFrame frame(log, driver::log_form::Polling,
+                                  op.psdrv_chan_isMeasurementComplete, handle, channel, complete);
+    const driver::CallResult result =
+        op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
+    frame.Finish(complete);
+    ShowWaiting(slot, result, now);
     return complete != 0;
 }
 
-void Cycle::ShowWaiting(int slot, driver::Status status, platform::Duration now) {
+void Cycle::ShowWaiting(int slot, const driver::CallResult& result, platform::Duration now) {
     if (now - lastNotice_ <= WaitingNoticeAfter || p_.session.state.errorShown) return;
     std::string text = "Waiting for a trigger signal at sensor " +
                        util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
-    if (status != 0) text += ": " + p_.session.MessageFor(status);
+    if (result.Failed()) text += ": " + p_.session.MessageFor(result);
     ShowNotice(p_.forms.mdiMain, std::move(text));
     lastNotice_ = now;
 }

@@ -23,7 +23,7 @@ void AddToDisplay(controls::List& list, const std::string& name, int slot) {
 Cycle::Cycle(const CycleParts& parts)
     : p_(parts),
       speed_(parts.forms.mdiMain, parts.host),
-      pacing_(parts.state, parts.host, parts.notices) {
+      pacing_(parts.state, parts.host, parts.showDelay) {
     p_.forms.mdiMain.StartIt.click.Connect([this] { Start(); });
     p_.forms.mdiMain.StopIt.click.Connect([this] { Stop(); });
 }

@@ -16,7 +16,6 @@ namespace {
 constexpr auto Pause = milliseconds(1);
 // A pass that began this much behind the last deadline has lost the spacing.
 constexpr auto Slack = milliseconds(50);
-constexpr int NoSlot = 0;  // general messages name no sensor
 
 }  // namespace
 
@@ -51,9 +50,7 @@ void Pacing::WaitForDeadline() {
 
 void Pacing::ShowDelay(platform::Duration left) {
     const auto whole = std::chrono::ceil<seconds>(left).count();
-    notices_.ShowSensorError(
-        true, NoSlot, "Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}) + "    ",
-        true);
+    showDelay_("Delaying ... " + util::TrimmedNumberText(std::int64_t{whole}));
 }
 
 }  // namespace kelvra::measure

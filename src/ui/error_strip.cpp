@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/error_strip.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "measure/notice.h"
-#include "util/text.h"
 
 namespace kelvra::ui {
 
@@ -13,15 +11,9 @@ namespace {
 
 constexpr int OpenHeight = 2835;  // twips, of the dialog's header with the strip
 constexpr int ClosedHeight = forms::SetupForm::HeaderHeight;
-constexpr std::size_t GeneralTail = 4;
 
 // The driver's complaint about its first parameter, the session handle.
 constexpr std::string_view HandleComplaint = "arameter 1 out of";
-
-std::string ShownPart(const std::string& text, bool isGeneral) {
-    if (isGeneral) return text.substr(0, text.size() - std::min(text.size(), GeneralTail));
-    return std::string(util::TrimLineBreaks(text));
-}
 
 void SetHeaderHeight(controls::Frame& header, int height) {
     controls::Geometry place = header.place;
@@ -31,22 +23,22 @@ void SetHeaderHeight(controls::Frame& header, int height) {
 
 }  // namespace
 
-void ErrorStrip::ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) {
+void ErrorStrip::SensorFailed(int slot, const std::string& text) {
     if (table_.simulationMode) return;
-    if (isError)
-        Show(slot, ShownPart(text, isGeneral), isGeneral);
-    else
-        Clear();
+    const std::string named = table_[slot].logicalName + ": " + text;
+    session_.errorShown = true;
+    measure::ShowNotice(forms_.mdiMain, named);
+    forms_.setupForm.lblInputError.caption = named;
+    SetHeaderHeight(forms_.setupForm.Frame1, OpenHeight);
     if (text.find(HandleComplaint) != std::string::npos) handleRefused_ = true;
 }
 
-void ErrorStrip::Show(int slot, const std::string& text, bool isGeneral) {
-    if (isGeneral && session_.errorShown) return;  // an error stays to be read
-    const std::string named = table_[slot].logicalName + ": " + text;
-    if (!isGeneral) session_.errorShown = true;
-    measure::ShowNotice(forms_.mdiMain, isGeneral ? text : named);
-    forms_.setupForm.lblInputError.caption = named;
-    SetHeaderHeight(forms_.setupForm.Frame1, OpenHeight);
+void ErrorStrip::SensorIsWell(int /*slot*/) {
+    if (!table_.simulationMode) Clear();
+}
+
+void ErrorStrip::OpeningFailed(int /*slot*/, const std::string& text) {
+    dialogs_.Message({}, text, platform::MessageIcon::Exclamation);
 }
 
 void ErrorStrip::Clear() {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A session over a fake driver, with eight slots, its log in a file, and what it tells noted.
+// A session over a fake driver, with eight slots, its log in a file, and its notices noted.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -30,8 +30,12 @@ protected:
         }
     }
 
-    void ShowSensorError(bool isError, int slot, const std::string& text, bool) override {
-        shown_.push_back((isError ? "show " : "clear ") + std::to_string(slot) + " " + text);
+    void SensorFailed(int slot, const std::string& text) override {
+        notices_.push_back("failed " + std::to_string(slot) + ": " + text);
+    }
+    void SensorIsWell(int slot) override { notices_.push_back("well " + std::to_string(slot)); }
+    void OpeningFailed(int slot, const std::string& text) override {
+        notices_.push_back("not opened " + std::to_string(slot) + ": " + text);
     }
     void TransferBegins(int slot) override { marks_.push_back("begins " + std::to_string(slot)); }
     void TransferEnds(int slot) override { marks_.push_back("ends " + std::to_string(slot)); }
@@ -59,9 +63,9 @@ protected:
     InstrumentOperations operations_;
     sensors::SensorTable table_;
     DebugLog log_{*files_, fake_.clock, fake_.computer.numbers};
-    Session session_{state_, operations_, log_, table_, fake_.host, *this};
+    Session session_{state_, operations_, log_, table_, fake_.clock, *this};
     ConfigurationTransfer transfer_{session_, table_, *this, *this};
-    Lines shown_;
+    Lines notices_;
     Lines marks_;
 };
 

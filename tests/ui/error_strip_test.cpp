@@ -14,27 +14,22 @@ protected:
 
 TEST_F(ErrorStripTest, ShowsAnErrorWithItsSensorUntilItIsCleared) {
     StartWith(2);
-    const std::tuple<std::string, bool, std::string, std::string, bool> cases[] = {
-        {"Count\r\n  bad\r\n", false, "B: Count\r\n  bad", "B: Count\r\n  bad", true},
-        {"\r\n", false, "B: ", "B: ", true},
-        {"Delaying ... 2    ", true, "B: Delaying ... 2", "Delaying ... 2", false},
-        {"abc", true, "B: ", "", false},
-    };
-    for (const auto& [text, general, strip, notice, error] : cases) {
-        program->errorStrip.ShowSensorError(true, 1, text, general);
-        EXPECT_EQ(Strip(), strip);
-        EXPECT_EQ(Notice(), notice);
-        EXPECT_EQ(program->session.errorShown, error);
-        EXPECT_EQ(Height(), 2835);
-        EXPECT_TRUE(NoticeVisible());
-        program->errorStrip.ShowSensorError(false, 1, "", false);
-        EXPECT_EQ(Strip(), "");
-        EXPECT_FALSE(program->session.errorShown);
-        EXPECT_EQ(Height(), 1935);
-        EXPECT_FALSE(NoticeVisible());
-    }
+    driver::SensorNotices& notices = program->errorStrip;
+    notices.SensorFailed(1, "Count\r\n  bad");
+    EXPECT_EQ(Strip(), "B: Count\r\n  bad");
+    EXPECT_EQ(Notice(), "B: Count\r\n  bad");
+    EXPECT_TRUE(program->session.errorShown);
+    EXPECT_EQ(Height(), 2835);
+    EXPECT_TRUE(NoticeVisible());
+    notices.SensorIsWell(1);
+    EXPECT_EQ(Strip(), "");
+    EXPECT_FALSE(program->session.errorShown);
+    EXPECT_EQ(Height(), 1935);
+    EXPECT_FALSE(NoticeVisible());
+    notices.OpeningFailed(1, "words");
+    EXPECT_EQ(fake.dialogs.messages, (std::vector<test::FakeDialogs::Shown>{{"", "words"}}));
     program->table.simulationMode = true;  // shows nothing
-    program->errorStrip.ShowSensorError(true, 1, "error", false);
+    notices.SensorFailed(1, "error");
     EXPECT_EQ(Strip(), "");
     EXPECT_FALSE(program->session.errorShown);
 }

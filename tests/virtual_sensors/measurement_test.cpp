@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <utility>
 #include <vector>
 
 #include "scenario_reader.h"
@@ -12,7 +11,11 @@
 namespace kelvra::virtual_sensors {
 namespace {
 
-using Changes = std::vector<std::pair<Setting, double>>;
+struct Change {
+    Setting setting;
+    double value;
+};
+using Changes = std::vector<Change>;
 
 SettingValues With(const Changes& changes) {
     SettingValues settings;
@@ -29,7 +32,10 @@ Scenario OneSensor(const std::string& noise) {
 }
 
 TEST(Corrections, MultiplyThePower) {
-    const std::pair<Changes, double> cases[] = {
+    const struct {
+        Changes changes;
+        double factor;
+    } cases[] = {
         {{}, 1},
         {{{Setting::psdrv_corr_setOffset, 10}}, 1},  // not switched on
         {{{Setting::psdrv_corr_setOffset, 10}, {Setting::psdrv_corr_setOffsetEnabled, 1}}, 10},
@@ -44,8 +50,10 @@ TEST(Corrections, MultiplyThePower) {
 
 TEST(Measurement, CompletesAfterItsTriggerOnly) {
     constexpr double never = 1e9;
-    // When it completes after a start at 1 s and a software trigger at 2 s.
-    const std::pair<Changes, double> cases[] = {
+    const struct {
+        Changes changes;
+        double time;  // of completion, after a start at 1 s and a software trigger at 2 s
+    } cases[] = {
         {{}, 1.04},
         {{{Setting::psdrv_trigger_setDelay, 0.5}}, 1.54},
         {{{Setting::psdrv_trigger_setSource, 2}}, 2.04},

@@ -25,8 +25,10 @@ TEST(ScenarioReader, ReadsEveryStatement) {
     ASSERT_EQ(result.error, "");
     EXPECT_EQ(s.seed, 7U);
     EXPECT_FALSE(s.computerTime);
-    EXPECT_EQ(std::tuple(s.pollStep, s.lockStep, s.fixedDuration, s.externalPeriod),
-              std::tuple(0.002, 3, 0, 0.005));
+    EXPECT_EQ(s.pollStep, 0.002);
+    EXPECT_EQ(s.lockStep, 3);
+    EXPECT_EQ(s.fixedDuration, 0);
+    EXPECT_EQ(s.externalPeriod, 0.005);
     EXPECT_DOUBLE_EQ(s.zeroDuration, 1e-5);
     ASSERT_EQ(s.sensors.size(), 2U);
     EXPECT_EQ(s.sensors[0].name, "left # one");
@@ -48,7 +50,9 @@ TEST(ScenarioReader, ReadsEveryStatement) {
 
 TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
     const std::string start = "source g 0 dBm\nsensor PS-101 1\n";
-    const std::pair<std::string, std::string> cases[] = {
+    const struct {
+        std::string line, error;
+    } cases[] = {
         {"beep", "unknown statement 'beep'"},
         {"sensor PS-101", "the serial number is missing"},
         {"sensor PS-102 1", "this serial number is there already"},

@@ -81,6 +81,7 @@ public:
     Discovery discovery;
 
 private:
+    void ShowDelay(const std::string& text);
     void StartDebugLog();
     std::string Title();
     void CreateTable();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the driver room tells upwards. The windows' rules plug in here.
+// The driver's news of its sensors. Whoever shows them plugs in here.
 #pragma once
 
 #include <string>
@@ -10,10 +10,13 @@ class SensorNotices {
 public:
     virtual ~SensorNotices() = default;
 
-    // Shows an error text of a slot's sensor, or clears what is shown. A general message is one of
-    // the program's own and gets no sensor name in front.
-    virtual void ShowSensorError(bool isError, int slot, const std::string& text,
-                                 bool isGeneral) = 0;
+    // A call for the slot's sensor has failed; `text` has all that the sensor's current transfer
+    // (or opening) has met so far, without a line break at its end.
+    virtual void SensorFailed(int slot, const std::string& text) = 0;
+    // Its settings were sent without an error, or it has gone: what was reported of it is over.
+    virtual void SensorIsWell(int slot) = 0;
+    // Its channel could not be opened, and the session will be closed; the driver's words.
+    virtual void OpeningFailed(int slot, const std::string& text) = 0;
 };
 
 class TransferMarks {

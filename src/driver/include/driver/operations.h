@@ -25,21 +25,14 @@ using Channel = std::int32_t;  // slot index + 1
 using Switch = std::uint16_t;  // 0 or 1
 constexpr Status MissingFunction = -1;
 
-class OperationList;
+class OperationBase;
 
-class OperationBase {
-public:
-    OperationBase(OperationList& list, const char* name);
+// How a call ended.
+struct CallResult {
+    Status status = 0;
+    const OperationBase* missing = nullptr;  // the operation, if the library lacks its function
 
-    const char* const name;
-    void* address = nullptr;  // null: not there
-
-protected:
-    // Notes which function the last call missed, if any.
-    bool IsThere() const;
-
-private:
-    OperationList& list_;
+    bool Failed() const { return status != 0; }
 };
 
 // The operations of one library.
@@ -49,28 +42,27 @@ public:
     std::string libraryFile;  // as it was looked for
     bool libraryLoaded = false;
     std::string whyNotLoaded;
-    const OperationBase* missing = nullptr;  // set while the last call was of one that isn't there
 };
 
-inline OperationBase::OperationBase(OperationList& list, const char* operationName)
-    : name(operationName), list_(list) {
-    list.all.push_back(this);
-}
+class OperationBase {
+public:
+    OperationBase(OperationList& list, const char* operationName) : name(operationName) {
+        list.all.push_back(this);
+    }
 
-inline bool OperationBase::IsThere() const {
-    list_.missing = address == nullptr ? this : nullptr;
-    return address != nullptr;
-}
+    const char* const name;
+    void* address = nullptr;  // null: not there
+};
 
 template <class... Arguments>
 class Operation : public OperationBase {
 public:
     using OperationBase::OperationBase;
 
-    Status operator()(Arguments... arguments) const {
+    CallResult operator()(Arguments... arguments) const {
         using Function = Status(KELVRA_DRIVER_CALL*)(Arguments...);
-        if (!IsThere()) return MissingFunction;
-        return reinterpret_cast<Function>(address)(arguments...);
+        if (address == nullptr) return {MissingFunction, this};
+        return {reinterpret_cast<Function>(address)(arguments...)};
     }
 };
 

@@ -17,16 +17,16 @@ public:
     template <class... Parameters, class... Values>
     void operator()(const Operation<Handle, Channel, Parameters...>& operation, const char* label,
                     Values... values) {
-        Send(LogForm::General, operation, label, values...);
+        Send(log_form::General, operation, label, values...);
     }
 
     template <class... Parameters, class... Values>
-    void Send(LogForm form, const Operation<Handle, Channel, Parameters...>& operation,
+    void Send(const LogForm& form, const Operation<Handle, Channel, Parameters...>& operation,
               const char* label, Values... values) {
-        const Status status =
+        const CallResult result =
             FramedCall(session_.log, form, operation, session_.state.instrumentHandle,
                        ChannelOf(slot_), values...);
-        if (label != Unchecked) session_.ReportError(status, slot_, label);
+        if (label != Unchecked) session_.ReportError(result, slot_, label);
     }
 
 private:

@@ -13,12 +13,14 @@ public:
                           TransferMarks& marks)
         : session_(session), table_(table), notices_(notices), marks_(marks) {}
 
-    // Sends the slot's settings and clears its SettingsChanged, whatever the driver said; at the
-    // end the errors of the transfer are shown, or the error strip is cleared. Never in simulation
-    // mode.
+    // Sends the slot's settings and clears its settingsChanged, even if calls fail. At the end the
+    // errors of the transfer are reported once more, or that the sensor is well. Never in
+    // simulation mode.
     void ConfigureSensor(int slot);
 
 private:
+    void ReportOutcome(int slot);
+
     Session& session_;
     sensors::SensorTable& table_;
     SensorNotices& notices_;

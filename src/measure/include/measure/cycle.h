@@ -5,6 +5,8 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "driver/session.h"
@@ -31,7 +33,7 @@ struct CycleParts {
     platform::Host& host;
     driver::Session& session;
     driver::ConfigurationTransfer& transfer;
-    driver::SensorNotices& notices;
+    std::function<void(const std::string&)> showDelay;  // of the pacing
     SensorSelection& selection;
     ResultTable& results;
     Readings& readings;
@@ -74,7 +76,7 @@ private:
     void Poll(platform::Duration began);
     bool PollSlot(int slot, platform::Duration now);
     bool AskWhetherComplete(int slot, platform::Duration now);
-    void ShowWaiting(int slot, driver::Status status, platform::Duration now);
+    void ShowWaiting(int slot, const driver::CallResult& result, platform::Duration now);
     void Fetch();
     void FetchSlot(int slot);
     void Close();

@@ -4,9 +4,11 @@
 // anew. Goes by the monotonic clock, so midnight and a clock that is set don't matter.
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <string>
+#include <utility>
 
-#include "driver/notices.h"
 #include "measure/state.h"
 #include "platform/host.h"
 
@@ -14,8 +16,10 @@ namespace kelvra::measure {
 
 class Pacing {
 public:
-    Pacing(MeasureState& state, platform::Host& host, driver::SensorNotices& notices)
-        : state_(state), host_(host), notices_(notices) {}
+    // What is left of a wait is shown by showDelay.
+    Pacing(MeasureState& state, platform::Host& host,
+           std::function<void(const std::string&)> showDelay)
+        : state_(state), host_(host), showDelay_(std::move(showDelay)) {}
 
     // A measurement starts: no deadline yet.
     void Reset() { lastDeadline_.reset(); }
@@ -31,7 +35,7 @@ private:
 
     MeasureState& state_;
     platform::Host& host_;
-    driver::SensorNotices& notices_;
+    std::function<void(const std::string&)> showDelay_;
     platform::Duration passBegan_{};
     std::optional<platform::Duration> lastDeadline_;
 };

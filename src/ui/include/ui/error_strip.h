@@ -19,8 +19,9 @@ namespace kelvra::ui {
 
 class ErrorStrip final : public driver::SensorNotices {
 public:
-    ErrorStrip(forms::Forms& forms, sensors::SensorTable& table, driver::SessionState& session)
-        : forms_(forms), table_(table), session_(session) {}
+    ErrorStrip(forms::Forms& forms, sensors::SensorTable& table, driver::SessionState& session,
+               platform::Dialogs& dialogs)
+        : forms_(forms), table_(table), session_(session), dialogs_(dialogs) {}
 
     // What the recovery works with; these need the strip themselves, so they come later.
     struct Recovery {
@@ -32,9 +33,11 @@ public:
     };
     void Connect(const Recovery& recovery) { recovery_.emplace(recovery); }
 
-    // Nothing is shown in simulation mode. Line breaks at the end of the text are left out, of a
-    // general message its four last characters (blanks); a general message is no error.
-    void ShowSensorError(bool isError, int slot, const std::string& text, bool isGeneral) override;
+    // Strip and notice; neither changes in simulation mode.
+    void SensorFailed(int slot, const std::string& text) override;
+    void SensorIsWell(int slot) override;
+    // In a message box.
+    void OpeningFailed(int slot, const std::string& text) override;
 
     // Complaints from here on are this transfer's.
     void TransferBegins() { handleRefused_ = false; }
@@ -44,12 +47,12 @@ public:
 
 private:
     bool Reopen(int slot);
-    void Show(int slot, const std::string& text, bool isGeneral);
     void Clear();
 
     forms::Forms& forms_;
     sensors::SensorTable& table_;
     driver::SessionState& session_;
+    platform::Dialogs& dialogs_;
     std::optional<Recovery> recovery_;
     bool handleRefused_ = false;  // in the transfer that runs, or ran last
     std::int64_t recoveredInStart_ = 0;
