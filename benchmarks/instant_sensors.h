@@ -33,7 +33,8 @@ inline void PlugInSettings(driver::InstrumentOperations& op) {
 #undef X
 }
 
-// Measurements that are complete when first asked for, or never; each reading is another one.
+// Measurements that are complete when first asked for, or never. Each reading differs from the
+// last.
 inline void PlugInMeasuring(driver::InstrumentOperations& op, bool complete) {
     Plug(
         op.psdrv_init, +[](const char*, std::int32_t, std::int32_t, Handle* opened) -> Status {
@@ -62,7 +63,7 @@ inline void PlugInMeasuring(driver::InstrumentOperations& op, bool complete) {
         });
 }
 
-// A list of so many devices, with serial numbers and no names.
+// A list of that many devices, each with a serial number and a name.
 template <int Sensors>
 void PlugInDevices(driver::DeviceListOperations& op) {
     Succeed(op.TeskLockDeviceList);

@@ -26,7 +26,7 @@ int32_t OnChannel(Operation operation, uint32_t h, int32_t ch, Body body) noexce
     });
 }
 
-// Sets both or, when either is refused, the first only.
+// Sets the first, then the second unless the first was refused.
 int32_t SetTwo(Operation operation, uint32_t h, int32_t ch, Setting first, double firstValue,
                Setting second, double secondValue) noexcept {
     return OnChannel(operation, h, ch, [&](VirtualBench&, Channel& channel, const Twist&) {

@@ -34,7 +34,8 @@ std::int32_t TerminalControl(bool moving) {
     return moving ? 0 : 1;
 }
 
-// The resolution as the driver's whole number; the driver refuses what no one could mean.
+// The resolution as the driver's whole number. One too large for that becomes the largest, which
+// the driver refuses.
 std::int32_t Resolution(double value) {
     using Limits = std::numeric_limits<std::int32_t>;
     return util::RoundToInt32(value).value_or(value > 0 ? Limits::max() : Limits::min());

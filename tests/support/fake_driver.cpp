@@ -38,7 +38,7 @@ void Note(std::string& list, Argument argument) {
         list += util::ShortestNumberText(static_cast<double>(argument));
 }
 
-// What the functions give back, told apart by what they take.
+// What the functions give back, chosen by their parameters.
 struct Answers {
     template <class... Arguments>
     static void Give(Arguments...) {}
