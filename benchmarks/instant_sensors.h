@@ -26,18 +26,15 @@ void Succeed(driver::Operation<Arguments...>& operation) {
     Plug(operation, [](Arguments...) -> Status { return 0; });
 }
 
-// What the settings of a sensor that only averages need.
 inline void PlugInSettings(driver::InstrumentOperations& op) {
-    const auto succeed = [](auto&... operations) { (Succeed(operations), ...); };
-    succeed(op.psdrv_chan_reset, op.psdrv_avg_setEnabled, op.psdrv_avg_setAutoEnabled,
-            op.psdrv_avg_setAutoType, op.psdrv_avg_setAutoResolution,
-            op.psdrv_avg_setAutoMaxMeasuringTime, op.psdrv_avg_setTerminalControl,
-            op.psdrv_chan_setCorrectionFrequency, op.psdrv_corr_setOffsetEnabled,
-            op.psdrv_corr_setSParamDeviceEnabled, op.psdrv_chan_setSourceGammaCorrEnabled,
-            op.psdrv_corr_setDutyCycleEnabled);
+    Succeed(op.psdrv_chan_reset);
+#define X(name, type) Succeed(op.name);
+    KELVRA_DRIVER_SETTERS(X)
+#undef X
 }
 
-// Measurements that are complete when first asked for, or never; each reading is another one.
+// Measurements that are complete when first asked for, or never. Each reading differs from the
+// last.
 inline void PlugInMeasuring(driver::InstrumentOperations& op, bool complete) {
     Plug(
         op.psdrv_init, +[](const char*, std::int32_t, std::int32_t, Handle* opened) -> Status {
@@ -66,7 +63,7 @@ inline void PlugInMeasuring(driver::InstrumentOperations& op, bool complete) {
         });
 }
 
-// A list of so many devices, with serial numbers and no names.
+// A list of that many devices, each with a serial number and a name.
 template <int Sensors>
 void PlugInDevices(driver::DeviceListOperations& op) {
     Succeed(op.TeskLockDeviceList);

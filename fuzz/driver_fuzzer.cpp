@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A driver and a device list that answer whatever the input says, under a run of the whole program:
-// sensors come and go, measurements start, go on for a few rounds and end.
+// A run of the whole program over a driver and a device list that take their answers from the
+// input: sensors come and go, measurements start, go on for a few rounds and end.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // Mostly well; an input that is used up is a driver that works.
+    // Mostly success; once the input is used up, always.
     driver::Status Status() {
         return input_.Take<std::uint8_t>() % 16 == 1 ? input_.Take<driver::Status>() : 0;
     }
@@ -116,7 +116,7 @@ private:
     Input& input_;
 };
 
-// A person who does something now and then.
+// The user does something now and then.
 void Act(app::Kelvra& kelvra, Input& input) {
     sensors::SensorTable& table = kelvra.table;
     sensors::SensorEntry& entry = table[input.Take<std::uint8_t>() % table.Slots()];
@@ -129,19 +129,19 @@ void Act(app::Kelvra& kelvra, Input& input) {
             window.StartIt.Press();
             break;
         case 3:
-            entry.SettingsChanged = true;
+            entry.settingsChanged = true;
             break;
         case 4:
-            entry.TriggerNowRequest = true;
+            entry.triggerNowRequest = true;
             break;
         case 5:
-            entry.Settings.Mode = input.Take<std::int32_t>() % 6;
+            entry.settings.Mode = input.Take<std::int32_t>() % 6;
             break;
         case 6:
-            entry.Settings.TSlotCount = input.Take<std::int16_t>();
+            entry.settings.TSlotCount = input.Take<std::int16_t>();
             break;
         case 7:
-            kelvra.forms.statusForm.ResultGrid.Click.Raise(input.Take<std::uint8_t>() % 12, 0);
+            kelvra.forms.statusForm.ResultGrid.click.Raise(input.Take<std::uint8_t>() % 12, 0);
             break;
         default:
             break;

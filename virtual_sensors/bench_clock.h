@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bench's own time in seconds from its first use. It follows the computer's, or it advances
-// by a fixed step at each poll and at each look at the device list, so that runs repeat exactly.
+// by a fixed step at each poll and at each lock of the device list, so that runs repeat exactly.
 #pragma once
 
 #include <chrono>
@@ -35,7 +35,7 @@ private:
     bool computer_;
     double pollStep_;
     double lockStep_;
-    double polls_ = 0;  // counted, for steps that are added up would drift
+    double polls_ = 0;  // counted, because a sum of steps would drift
     double locks_ = 0;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t TextSize = 128;
 
-// The driver library's bench when that library stands in this library's folder, else one of its
-// own. Holds the driver library loaded for as long as this one is.
+// The bench of the driver library in this library's folder, or one of its own if there is none.
+// Keeps the driver library loaded as long as this one is.
 class BenchAccess {
 public:
     BenchAccess() {
@@ -52,18 +52,20 @@ VirtualBench& TheBench() {
     return access.Bench();
 }
 
-}  // namespace kelvra::virtual_sensors
+// NOLINTBEGIN(readability-identifier-naming): the names are the exported functions' own
 
-using namespace kelvra::virtual_sensors;
+#define X(name, parameters) KELVRA_VIRTUAL_EXPORT int32_t name parameters;
+KELVRA_DEVICE_LIST_FUNCTIONS(X)
+#undef X
 
-KELVRA_VIRTUAL_EXPORT int32_t TeskLockDeviceList() {
+int32_t TeskLockDeviceList() {
     return Call(Operation::TeskLockDeviceList, 0, [](VirtualBench& bench, const Twist&) {
         bench.LockList();
         return Outcome{};
     });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceListLength(int32_t* count) {
+int32_t TeskGetDeviceListLength(int32_t* count) {
     return Call(Operation::TeskGetDeviceListLength, 0,
                 [&](VirtualBench& bench, const Twist& twist) {
                     return PutWhole(count, static_cast<int32_t>(bench.List().size()), twist);
@@ -71,8 +73,7 @@ KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceListLength(int32_t* count) {
 }
 
 // An index without a sensor gives empty texts and "not connected".
-KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceInfo(int32_t index, char* name, char* type, char* serial,
-                                                int32_t* connected) {
+int32_t TeskGetDeviceInfo(int32_t index, char* name, char* type, char* serial, int32_t* connected) {
     const int64_t channel = int64_t{index} + 1;
     return Call(
         Operation::TeskGetDeviceInfo, channel, [&](VirtualBench& bench, const Twist& twist) {
@@ -92,9 +93,13 @@ KELVRA_VIRTUAL_EXPORT int32_t TeskGetDeviceInfo(int32_t index, char* name, char*
         });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t TeskCloseDriver() {
+int32_t TeskCloseDriver() {
     return Call(Operation::TeskCloseDriver, 0, [](VirtualBench& bench, const Twist&) {
         bench.ReleaseList();
         return Outcome{};
     });
 }
+
+// NOLINTEND(readability-identifier-naming)
+
+}  // namespace kelvra::virtual_sensors

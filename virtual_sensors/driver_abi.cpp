@@ -26,7 +26,7 @@ int32_t OnChannel(Operation operation, uint32_t h, int32_t ch, Body body) noexce
     });
 }
 
-// Sets both or, when either is refused, the first only.
+// Sets the first, then the second unless the first was refused.
 int32_t SetTwo(Operation operation, uint32_t h, int32_t ch, Setting first, double firstValue,
                Setting second, double secondValue) noexcept {
     return OnChannel(operation, h, ch, [&](VirtualBench&, Channel& channel, const Twist&) {
@@ -44,18 +44,21 @@ Outcome FindResult(VirtualBench& bench, Channel& channel, bool asArray) {
 }
 
 }  // namespace
-}  // namespace kelvra::virtual_sensors
 
-using namespace kelvra::virtual_sensors;
+// NOLINTBEGIN(readability-identifier-naming): the names are the exported functions' own
 
-#define X(name, type, ...)                                                                  \
-    KELVRA_VIRTUAL_EXPORT int32_t psdrv_##name(uint32_t h, int32_t ch, type value) {        \
-        return OnChannel(Operation::psdrv_##name, h, ch,                                    \
+#define X(name, parameters) KELVRA_VIRTUAL_EXPORT int32_t name parameters;
+KELVRA_DRIVER_FUNCTIONS(X)
+#undef X
+
+#define X(name, type)                                                                       \
+    KELVRA_VIRTUAL_EXPORT int32_t name(uint32_t h, int32_t ch, type value) {                \
+        return OnChannel(Operation::name, h, ch,                                            \
                          [&](VirtualBench&, Channel& channel, const Twist&) {               \
                              return channel.Set(Setting::name, static_cast<double>(value)); \
                          });                                                                \
     }
-KELVRA_VIRTUAL_SETTINGS(X)
+KELVRA_DRIVER_SETTERS(X)
 #undef X
 
 KELVRA_VIRTUAL_EXPORT VirtualBench* KelvraSharedBench() {
@@ -67,8 +70,7 @@ KELVRA_VIRTUAL_EXPORT VirtualBench* KelvraSharedBench() {
     }
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_init(const char* resource, int32_t /*idQuery*/,
-                                         int32_t /*reset*/, uint32_t* h) {
+int32_t psdrv_init(const char* resource, int32_t /*idQuery*/, int32_t /*reset*/, uint32_t* h) {
     return Call(Operation::psdrv_init, 1, [&](VirtualBench& bench, const Twist& twist) {
         if (h == nullptr) return Outcome{Status::MissingPointer};
         uint32_t handle = 0;
@@ -77,26 +79,26 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_init(const char* resource, int32_t /*idQuery
     });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_AddSensor(uint32_t h, int32_t ch, const char* resource,
-                                              int32_t /*idQuery*/, int32_t /*reset*/) {
+int32_t psdrv_AddSensor(uint32_t h, int32_t ch, const char* resource, int32_t /*idQuery*/,
+                        int32_t /*reset*/) {
     return Call(Operation::psdrv_AddSensor, ch, [&](VirtualBench& bench, const Twist&) {
         return bench.AddSensor(h, ch, TextOf(resource));
     });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_close(uint32_t h) {
+int32_t psdrv_close(uint32_t h) {
     return Call(Operation::psdrv_close, 0,
                 [&](VirtualBench& bench, const Twist&) { return bench.Close(h); });
 }
 
 // Both error functions answer with any handle, so that a failed opening can be explained.
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_error_message(uint32_t /*h*/, int32_t status, char* text) {
+int32_t psdrv_error_message(uint32_t /*h*/, int32_t status, char* text) {
     return Call(Operation::psdrv_error_message, 0, [&](VirtualBench& bench, const Twist& twist) {
         return PutText(text, TextSize, bench.Message(status), twist);
     });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_error_query(uint32_t /*h*/, int32_t* code, char* text) {
+int32_t psdrv_error_query(uint32_t /*h*/, int32_t* code, char* text) {
     return Call(Operation::psdrv_error_query, 0, [&](VirtualBench& bench, const Twist& twist) {
         if (code == nullptr || text == nullptr) return Outcome{Status::MissingPointer};
         const QueuedError error = bench.NextError();
@@ -105,7 +107,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_error_query(uint32_t /*h*/, int32_t* code, c
     });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_reset(uint32_t h, int32_t ch) {
+int32_t psdrv_chan_reset(uint32_t h, int32_t ch) {
     return OnChannel(Operation::psdrv_chan_reset, h, ch,
                      [](VirtualBench&, Channel& channel, const Twist&) {
                          channel.Reset();
@@ -113,24 +115,22 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_reset(uint32_t h, int32_t ch) {
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_tslot_configureTimeSlot(uint32_t h, int32_t ch, int32_t count,
-                                                            double width) {
-    return SetTwo(Operation::psdrv_tslot_configureTimeSlot, h, ch, Setting::slotCount, count,
-                  Setting::slotWidth, width);
+int32_t psdrv_tslot_configureTimeSlot(uint32_t h, int32_t ch, int32_t count, double width) {
+    return SetTwo(Operation::psdrv_tslot_configureTimeSlot, h, ch, Setting::SlotCount, count,
+                  Setting::SlotWidth, width);
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_timing_configureExclude(uint32_t h, int32_t ch, double start,
-                                                            double stop) {
-    return SetTwo(Operation::psdrv_timing_configureExclude, h, ch, Setting::excludeStart, start,
-                  Setting::excludeStop, stop);
+int32_t psdrv_timing_configureExclude(uint32_t h, int32_t ch, double start, double stop) {
+    return SetTwo(Operation::psdrv_timing_configureExclude, h, ch, Setting::ExcludeStart, start,
+                  Setting::ExcludeStop, stop);
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chans_initiate(uint32_t h) {
+int32_t psdrv_chans_initiate(uint32_t h) {
     return Call(Operation::psdrv_chans_initiate, 0,
                 [&](VirtualBench& bench, const Twist&) { return bench.Initiate(h); });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_sendSoftwareTrigger(uint32_t h, int32_t ch) {
+int32_t psdrv_meass_sendSoftwareTrigger(uint32_t h, int32_t ch) {
     return OnChannel(Operation::psdrv_meass_sendSoftwareTrigger, h, ch,
                      [](VirtualBench& bench, Channel& channel, const Twist&) {
                          channel.measurement.Trigger(bench.Now());
@@ -138,8 +138,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_sendSoftwareTrigger(uint32_t h, int32_
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isMeasurementComplete(uint32_t h, int32_t ch,
-                                                               uint16_t* complete) {
+int32_t psdrv_chan_isMeasurementComplete(uint32_t h, int32_t ch, uint16_t* complete) {
     return OnChannel(Operation::psdrv_chan_isMeasurementComplete, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          const bool done =
@@ -148,7 +147,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isMeasurementComplete(uint32_t h, int32
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchMeasurement(uint32_t h, int32_t ch, double* value) {
+int32_t psdrv_meass_fetchMeasurement(uint32_t h, int32_t ch, double* value) {
     return OnChannel(Operation::psdrv_meass_fetchMeasurement, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          if (value == nullptr) return Outcome{Status::MissingPointer};
@@ -159,9 +158,8 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchMeasurement(uint32_t h, int32_t c
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchBufferMeasurement(uint32_t h, int32_t ch,
-                                                                 int32_t size, double* values,
-                                                                 int32_t* count) {
+int32_t psdrv_meass_fetchBufferMeasurement(uint32_t h, int32_t ch, int32_t size, double* values,
+                                           int32_t* count) {
     return OnChannel(Operation::psdrv_meass_fetchBufferMeasurement, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          if (values == nullptr || count == nullptr)
@@ -177,7 +175,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_meass_fetchBufferMeasurement(uint32_t h, int
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_avg_getCount(uint32_t h, int32_t ch, int32_t* count) {
+int32_t psdrv_avg_getCount(uint32_t h, int32_t ch, int32_t* count) {
     return OnChannel(Operation::psdrv_avg_getCount, h, ch,
                      [&](VirtualBench&, Channel& channel, const Twist& twist) {
                          const int32_t used = AverageCount(channel.settings, *channel.sensor);
@@ -185,7 +183,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_avg_getCount(uint32_t h, int32_t ch, int32_t
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_zero(uint32_t h, int32_t ch) {
+int32_t psdrv_chan_zero(uint32_t h, int32_t ch) {
     return OnChannel(Operation::psdrv_chan_zero, h, ch,
                      [](VirtualBench& bench, Channel& channel, const Twist&) {
                          channel.zeroEnd = bench.Now() + bench.Plan().zeroDuration;
@@ -194,8 +192,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_zero(uint32_t h, int32_t ch) {
 }
 
 // True also when no zeroing has been started.
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch,
-                                                        uint16_t* complete) {
+int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch, uint16_t* complete) {
     return OnChannel(Operation::psdrv_chan_isZeroComplete, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {
                          const bool done = bench.Now() >= channel.zeroEnd;
@@ -203,14 +200,14 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch,
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_selfTest(uint32_t h, int32_t ch, char* text) {
+int32_t psdrv_chan_selfTest(uint32_t h, int32_t ch, char* text) {
     return OnChannel(Operation::psdrv_chan_selfTest, h, ch,
                      [&](VirtualBench&, Channel& channel, const Twist& twist) {
                          return PutText(text, TextSize, channel.sensor->SelfTest(), twist);
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infosCount(uint32_t h, int32_t ch, int32_t* count) {
+int32_t psdrv_chan_infosCount(uint32_t h, int32_t ch, int32_t* count) {
     return OnChannel(Operation::psdrv_chan_infosCount, h, ch,
                      [&](VirtualBench&, Channel&, const Twist& twist) {
                          const auto number = static_cast<int32_t>(VirtualSensor::InfoCount);
@@ -218,8 +215,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infosCount(uint32_t h, int32_t ch, int3
                      });
 }
 
-KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infoHeader(uint32_t h, int32_t ch, int32_t index,
-                                                    int32_t size, char* text) {
+int32_t psdrv_chan_infoHeader(uint32_t h, int32_t ch, int32_t index, int32_t size, char* text) {
     return OnChannel(Operation::psdrv_chan_infoHeader, h, ch,
                      [&](VirtualBench&, Channel& channel, const Twist& twist) {
                          if (size < 1) return Outcome{Status::ValueOutOfRange, "buffer size"};
@@ -230,3 +226,7 @@ KELVRA_VIRTUAL_EXPORT int32_t psdrv_chan_infoHeader(uint32_t h, int32_t ch, int3
                                         channel.sensor->Info(item), twist);
                      });
 }
+
+// NOLINTEND(readability-identifier-naming)
+
+}  // namespace kelvra::virtual_sensors

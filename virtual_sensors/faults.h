@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Counts the calls of the functions and tells which of the scenario's faults and events a call
-// meets. Carrying them out is left to the bench and to the exported functions.
+// Counts the calls of each function and finds the faults and events of the scenario that apply to
+// a call. Carrying them out is left to the bench and to the exported functions.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ public:
     // The next call of a function. The channel is 0 where there is none.
     Twist Meet(Operation operation, int64_t channel);
 
-    // The events that are due after Meet, in the order of the scenario; each is given out once.
+    // The events that are due after Meet, in the order of the scenario; each is returned once.
     std::vector<Event> TakeEvents(double now);
 
 private:

@@ -23,31 +23,31 @@ double FromDb(double db) {
 struct AveragingSettings {
     Setting enabled, automatic, type, resolution, ratio, maxTime, count;
 };
-constexpr AveragingSettings OfReadings{Setting::avg_setEnabled,
-                                       Setting::avg_setAutoEnabled,
-                                       Setting::avg_setAutoType,
-                                       Setting::avg_setAutoResolution,
-                                       Setting::avg_setAutoNoiseSignalRatio,
-                                       Setting::avg_setAutoMaxMeasuringTime,
-                                       Setting::avg_setCount};
-constexpr AveragingSettings OfTraces{Setting::scope_setAverageEnabled,
-                                     Setting::scope_setAutoEnabled,
-                                     Setting::scope_setAutoType,
-                                     Setting::scope_setAutoResolution,
-                                     Setting::scope_setAutoNoiseSignalRatio,
-                                     Setting::scope_setAutoMaxMeasuringTime,
-                                     Setting::scope_setAverageCount};
+constexpr AveragingSettings OfReadings{Setting::psdrv_avg_setEnabled,
+                                       Setting::psdrv_avg_setAutoEnabled,
+                                       Setting::psdrv_avg_setAutoType,
+                                       Setting::psdrv_avg_setAutoResolution,
+                                       Setting::psdrv_avg_setAutoNoiseSignalRatio,
+                                       Setting::psdrv_avg_setAutoMaxMeasuringTime,
+                                       Setting::psdrv_avg_setCount};
+constexpr AveragingSettings OfTraces{Setting::psdrv_scope_setAverageEnabled,
+                                     Setting::psdrv_scope_setAutoEnabled,
+                                     Setting::psdrv_scope_setAutoType,
+                                     Setting::psdrv_scope_setAutoResolution,
+                                     Setting::psdrv_scope_setAutoNoiseSignalRatio,
+                                     Setting::psdrv_scope_setAutoMaxMeasuringTime,
+                                     Setting::psdrv_scope_setAverageCount};
 
 enum class TriggerSource : uint8_t { Single, External, Hold, Immediate, Internal };
 
 int32_t PointCount(const SettingValues& settings) {
     switch (ModeOf(settings)) {
         case Mode::Buffered:
-            return static_cast<int32_t>(settings[Setting::chan_setContAvBufferSize]);
+            return static_cast<int32_t>(settings[Setting::psdrv_chan_setContAvBufferSize]);
         case Mode::Slots:
-            return static_cast<int32_t>(settings[Setting::slotCount]);
+            return static_cast<int32_t>(settings[Setting::SlotCount]);
         case Mode::Trace:
-            return static_cast<int32_t>(settings[Setting::scope_setPoints]);
+            return static_cast<int32_t>(settings[Setting::psdrv_scope_setPoints]);
         default:
             return 1;
     }
@@ -56,7 +56,7 @@ int32_t PointCount(const SettingValues& settings) {
 // When the trigger comes; nothing when it never does or when software gives it.
 std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSensor& sensor,
                                   const Scenario& scenario, double now) {
-    switch (static_cast<TriggerSource>(settings[Setting::trigger_setSource])) {
+    switch (static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource])) {
         case TriggerSource::Immediate:
             return now;
         case TriggerSource::External: {
@@ -64,7 +64,7 @@ std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSe
             return (std::floor(now / *scenario.externalPeriod) + 1) * *scenario.externalPeriod;
         }
         case TriggerSource::Internal:
-            if (sensor.SeenW() > settings[Setting::trigger_setLevel]) return now;
+            if (sensor.SeenW() > settings[Setting::psdrv_trigger_setLevel]) return now;
             return std::nullopt;
         default:
             return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSe
 }
 
 bool AwaitsSoftware(const SettingValues& settings) {
-    const auto source = static_cast<TriggerSource>(settings[Setting::trigger_setSource]);
+    const auto source = static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource]);
     return source == TriggerSource::Single || source == TriggerSource::Hold;
 }
 
@@ -92,7 +92,7 @@ bool SettingValues::Set(Setting setting, double value) {
 }
 
 Mode ModeOf(const SettingValues& settings) {
-    return static_cast<Mode>(settings[Setting::chan_mode]);
+    return static_cast<Mode>(settings[Setting::psdrv_chan_mode]);
 }
 
 bool GivesArray(Mode mode) {
@@ -113,7 +113,7 @@ int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor)
 }
 
 double Duration(const SettingValues& settings, int32_t count) {
-    const double aperture = 2 * settings[Setting::chan_setContAvAperture];
+    const double aperture = 2 * settings[Setting::psdrv_chan_setContAvAperture];
     const double points = PointCount(settings);
     switch (ModeOf(settings)) {
         case Mode::Average:
@@ -121,30 +121,33 @@ double Duration(const SettingValues& settings, int32_t count) {
         case Mode::Buffered:
             return aperture * count * points;
         case Mode::Slots:
-            return settings[Setting::slotWidth] * count * points;
+            return settings[Setting::SlotWidth] * count * points;
         case Mode::Burst:
-            return (BurstLength + settings[Setting::chan_setBurstDropoutTolerance]) * count;
+            return (BurstLength + settings[Setting::psdrv_chan_setBurstDropoutTolerance]) * count;
         case Mode::Trace:
             break;
     }
-    const double offset = std::max(settings[Setting::scope_setOffsetTime], 0.0);
-    return (settings[Setting::scope_setTime] + offset) * count;
+    const double offset = std::max(settings[Setting::psdrv_scope_setOffsetTime], 0.0);
+    return (settings[Setting::psdrv_scope_setTime] + offset) * count;
 }
 
 double CorrectionFactor(const SettingValues& settings) {
-    const double decades = std::log10(settings[Setting::chan_setCorrectionFrequency] / 5e7);
+    const double decades = std::log10(settings[Setting::psdrv_chan_setCorrectionFrequency] / 5e7);
     double factor = FromDb(FrequencySlope * std::max(decades, 0.0));
-    if (settings.IsOn(Setting::corr_setOffsetEnabled)) {
-        factor *= FromDb(settings[Setting::corr_setOffset]);
+    if (settings.IsOn(Setting::psdrv_corr_setOffsetEnabled)) {
+        factor *= FromDb(settings[Setting::psdrv_corr_setOffset]);
     }
-    if (settings.IsOn(Setting::corr_setDutyCycleEnabled)) {
-        factor /= settings[Setting::corr_setDutyCycle] / 100;
+    if (settings.IsOn(Setting::psdrv_corr_setDutyCycleEnabled)) {
+        factor /= settings[Setting::psdrv_corr_setDutyCycle] / 100;
     }
-    if (settings.IsOn(Setting::corr_setSParamDeviceEnabled)) factor *= FromDb(DeviceAttenuation);
-    if (settings.IsOn(Setting::chan_setSourceGammaCorrEnabled)) {
+    if (settings.IsOn(Setting::psdrv_corr_setSParamDeviceEnabled))
+        factor *= FromDb(DeviceAttenuation);
+    if (settings.IsOn(Setting::psdrv_chan_setSourceGammaCorrEnabled)) {
         // |1 - G1 G2|^2 of the two reflections
-        const double product = OwnReflection * settings[Setting::chan_setSourceGammaMagnitude];
-        const double phase = settings[Setting::chan_setSourceGammaPhase] * std::numbers::pi / 180;
+        const double product =
+            OwnReflection * settings[Setting::psdrv_chan_setSourceGammaMagnitude];
+        const double phase =
+            settings[Setting::psdrv_chan_setSourceGammaPhase] * std::numbers::pi / 180;
         factor *= 1 - 2 * product * std::cos(phase) + product * product;
     }
     return factor;
@@ -156,7 +159,7 @@ void Measurement::Start(const SettingValues& settings, const VirtualSensor& sens
     points_ = PointCount(settings);
     count_ = AverageCount(settings, sensor);
     factor_ = CorrectionFactor(settings);
-    const double planned = settings[Setting::trigger_setDelay] + Duration(settings, count_);
+    const double planned = settings[Setting::psdrv_trigger_setDelay] + Duration(settings, count_);
     afterTrigger_ =
         scenario.fixedDuration.value_or(std::max(planned, 0.0) * scenario.durationFactor);
     awaitsSoftware_ = AwaitsSoftware(settings);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One channel's measurement: what its settings mean for duration, averaging and result, and how
-// it goes from its start through the trigger to the result. Sessions start it, callers poll it.
+// One channel's measurement: what its settings mean for duration, averaging and result, and its
+// course from the start through the trigger to the result. Sessions start it, callers poll it.
 #pragma once
 
 #include <array>
@@ -44,11 +44,11 @@ double CorrectionFactor(const SettingValues& settings);
 
 class Measurement {
 public:
-    // Begins anew; the former result is gone. Times are the bench's, in s.
+    // Starts over; the former result is dropped. Times are the bench's, in s.
     void Start(const SettingValues& settings, const VirtualSensor& sensor, const Scenario& scenario,
                double now);
 
-    // A software trigger; means nothing to a measurement that does not wait for one.
+    // A software trigger; a measurement that does not wait for one ignores it.
     void Trigger(double now);
 
     // Whether it has ended. The result is drawn the first time that this is so.

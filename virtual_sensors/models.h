@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The sensor models that the bench can imitate and what tells them apart.
+// The sensor models that the bench can imitate and how they differ.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a scenario says about the bench: its sensors, what they see, and what goes wrong when.
-// Plain data; how it is written down is the reader's business, what it does is the bench's.
+// Plain data: scenario_reader reads it, the bench acts on it.
 #pragma once
 
 #include <cstddef>

@@ -67,11 +67,10 @@ void ReadSensor(Words& words, Scenario& scenario) {
     scenario.sensors.push_back(sensor);
 }
 
-// The sensor that the statements about "the sensor above" mean; one to write into when there is
-// none, after saying so.
+// The last sensor so far. Without one the line fails, and a new one takes what it says.
 SensorPlan& SensorAbove(Words& words, Scenario& scenario) {
     if (scenario.sensors.empty()) {
-        words.Fail("no sensor stands above");
+        words.Fail("no sensor above this line");
         scenario.sensors.emplace_back();
     }
     return scenario.sensors.back();
@@ -94,7 +93,7 @@ void ReadSees(Words& words, Scenario& scenario) {
     const auto& sources = scenario.sources;
     const auto found = std::find_if(sources.begin(), sources.end(),
                                     [&](const Source& source) { return source.name == name; });
-    if (found == sources.end()) return words.Fail("no source '" + name + "' stands above");
+    if (found == sources.end()) return words.Fail("no source '" + name + "' above this line");
     const double coupling = words.Level("the coupling", "dB");
     const auto source = static_cast<std::size_t>(found - sources.begin());
     SensorAbove(words, scenario).sees.push_back({source, coupling});
@@ -135,7 +134,7 @@ void ReadEvent(Words& words, Scenario& scenario) {
     const auto found = std::find_if(sensors.begin(), sensors.end(), [&](const SensorPlan& sensor) {
         return sensor.serial == serial;
     });
-    if (found == sensors.end()) return words.Fail("no sensor '" + serial + "' stands above");
+    if (found == sensors.end()) return words.Fail("no sensor '" + serial + "' above this line");
     event.sensor = static_cast<std::size_t>(found - sensors.begin());
     scenario.events.push_back(event);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads scenarios as docs/virtual_sensors.md describes them. Text of any origin is accepted: what
-// is wrong is named with its place, and then nothing of the scenario holds.
+// Reads scenarios as docs/virtual_sensors.md describes them. Any bytes may come. The first error is
+// reported with its line, and then the scenario is empty.
 #pragma once
 
 #include <optional>

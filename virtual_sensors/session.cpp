@@ -35,7 +35,7 @@ std::optional<uint32_t> HexNumber(std::string_view text) {
 }  // namespace
 
 Outcome Channel::Set(Setting setting, double value) {
-    const bool offered = sensor->Kind().timeResolving || setting != Setting::chan_mode;
+    const bool offered = sensor->Kind().timeResolving || setting != Setting::psdrv_chan_mode;
     if (!offered && value != 0) return {Status::ModeNotOffered, sensor->Plan().type};
     if (settings.Set(setting, value)) return {};
     const SettingLimits& limits = LimitsOf(setting);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A driver session: which channel stands for which sensor, and what each channel has been set to.
-// Handles, errors and faults are the bench's business.
+// A driver session: which sensor each channel has, and what the channel has been set to. Handles,
+// errors and faults are left to the bench.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@
 
 namespace kelvra::virtual_sensors {
 
-// How a call ended, and for the error queue what the message alone does not tell.
+// How a call ended. The detail, if any, takes the message's place in the error queue.
 struct Outcome {
     Status status = Status::Ok;
     std::string detail{};
@@ -48,7 +48,7 @@ class Session {
 public:
     static constexpr int32_t MaxChannel = 256;
 
-    // Opens the channel afresh, whatever it stood for before.
+    // Opens the channel; one that is open is opened again, with this sensor.
     Outcome Open(int32_t channel, VirtualSensor* sensor);
 
     // The open, connected channel; or says why there is none.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the device list reaches the sensors that the driver works on: a function that the driver
-// library exports beside its own, looked up by name in the library of the same folder.
+// How the device list shares the driver's sensors: the driver library in the same folder exports
+// one more function, which gives the bench.
 #pragma once
 
 #include "virtual_bench.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the virtual driver answers when it refuses a call: the codes and their plain texts.
+// The status codes of the virtual driver and their texts.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ enum class Status : int32_t {
     InternalFailure = -2014,
 };
 
-// Any code is answered; one that the driver does not know is "Unknown status" and its number.
+// A code that is not in the table gives "Unknown status" and its number.
 std::string MessageOf(int32_t status);
 
 }  // namespace kelvra::virtual_sensors

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bench as both libraries share it: sensors, sessions, device list, error queue and time. The
-// exported functions call it; how their arguments arrive and leave is not its business.
+// The bench that both libraries share: sensors, sessions, device list, error queue and time. The
+// exported functions call it and see to arguments and results themselves.
 #pragma once
 
 #include <cstdint>
@@ -73,8 +73,8 @@ private:
     std::vector<ListEntry> list_;
 };
 
-// The scenario that the environment variable KELVRA_BENCH names, or the built-in one. What is
-// wrong with it is said on the standard error output, and then there are no sensors.
+// The scenario that the environment variable KELVRA_BENCH names, or the built-in one. An error in
+// it is written to the standard error output, and then there are no sensors.
 Scenario ScenarioFromEnvironment();
 
 }  // namespace kelvra::virtual_sensors

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One sensor of the bench: whether it is plugged in, what it sees, and its noise. What a channel
-// has set (averaging, corrections, trigger) is not the sensor's business.
+// One sensor of the bench: whether it is plugged in, what it sees, and its noise. Averaging,
+// corrections and trigger belong to the channel.
 #pragma once
 
 #include <cstddef>
@@ -21,7 +21,7 @@ public:
     const Model& Kind() const { return model_; }
 
     bool Plugged() const { return plugged_; }
-    // Counts the times that the sensor was plugged in: a channel opened before is dead.
+    // How often the sensor was plugged in; a channel opened before the last time is dead.
     int64_t Plugging() const { return plugging_; }
     void Plug(bool plugged);
 

@@ -11,7 +11,7 @@
 namespace kelvra::virtual_sensors {
 namespace {
 
-constexpr std::string_view Blanks = " \t\r\v\f";
+constexpr std::string_view Spaces = " \t\r\v\f";
 
 // The whole word as a number, or nothing.
 template <class T>
@@ -27,7 +27,7 @@ std::optional<T> Convert(const std::string& word) {
 
 Words::Words(std::string_view line) {
     std::size_t at = 0;
-    while ((at = line.find_first_not_of(Blanks, at)) != std::string_view::npos) {
+    while ((at = line.find_first_not_of(Spaces, at)) != std::string_view::npos) {
         if (line[at] == '#') break;
         if (line[at] == '"') {
             const std::size_t close = line.find('"', at + 1);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One line of a scenario, taken apart from left to right. The first thing that is wrong is kept
-// and everything after it reads as empty or as the smallest value, so a statement is read without
-// looking for errors at each word. Any bytes may come.
+// One line of a scenario, read word by word. After the first error every word reads as empty or as
+// the smallest value, so that a statement need not check each word. Any bytes may come.
 #pragma once
 
 #include <cstddef>
@@ -25,7 +24,7 @@ struct Quantity {
 
 class Words {
 public:
-    // Splits at blanks; text between double quotes is one word, '#' outside quotes ends the line.
+    // Splits at white space. Text in double quotes is one word; '#' outside them ends the line.
     explicit Words(std::string_view line);
 
     bool AtEnd() const { return next_ == words_.size(); }

@@ -25,6 +25,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
 
 // The recovery comes last: the windows have shown what it acts on.
 void Kelvra::Subscribe() {
+    transfer.SetPace(cycle);
     windows.Subscribe(news, sessionNews);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);

@@ -5,27 +5,29 @@
 
 namespace kelvra::driver {
 
-LogFrame FrameFor(LogForm form, std::string_view name, std::string_view arguments) {
-    const std::string call(name);
-    const std::string list(arguments);
-    const std::string general = call + "( " + list + " ) STARTING";
-    const std::string finished = call + " -> FINISHED";
-    const auto withoutLast = [&] { return list.substr(0, list.rfind(',')); };
-    switch (form) {
-        case LogForm::General:
-            return {general, finished};
-        case LogForm::BlankAfterName:
-            return {call + " ( " + list + " ) STARTING", call + "  -> FINISHED"};
-        case LogForm::NameAlone:
-            return {call, finished};
-        case LogForm::ArgumentsAgain:
-            return {general, call + "( " + list + " ) FINISHED"};
-        case LogForm::TypeNormal:
-            return {call + "( " + withoutLast() + ", 0) STARTING", finished};
-        case LogForm::TypeNoise:
-            return {call + "( " + withoutLast() + ", 1 ) STARTING", finished};
+std::string CallFrame::Filled(std::string_view pattern, const std::string& result) const {
+    std::string line;
+    while (true) {
+        const auto open = pattern.find('{');
+        line += pattern.substr(0, open);
+        if (open == std::string_view::npos) return line;
+        const auto close = pattern.find('}', open);
+        line += Field(pattern.substr(open + 1, close - open - 1), result);
+        pattern.remove_prefix(close + 1);
     }
-    return {};
+}
+
+std::string CallFrame::Field(std::string_view field, const std::string& result) const {
+    if (field == "name") return name_;
+    if (field == "result") return result;
+    const bool trimmed = field == "trimmed";
+    if (!trimmed && field != "all") return arguments_.at(static_cast<std::size_t>(field[0] - '0'));
+    std::string list;
+    for (const std::string& argument : arguments_) {
+        if (!list.empty()) list += ", ";
+        list += trimmed ? util::TrimSpaces(argument) : argument;
+    }
+    return list;
 }
 
 }  // namespace kelvra::driver

@@ -19,10 +19,6 @@ constexpr auto OpeningPause = std::chrono::milliseconds(100);
 constexpr std::int32_t CheckIdentity = 1;
 constexpr std::int32_t ResetDevice = 1;
 
-std::string Trimmed(std::int64_t number) {
-    return util::TrimmedNumberText(number);
-}
-
 }  // namespace
 
 void Session::OpenSensor(int slot) {
@@ -37,108 +33,127 @@ void Session::OpenSensor(int slot) {
     const std::string resource = entry.resourceName;
     if (util::TrimSpaces(resource).empty()) return;
     if (slot != 0 && state.instrumentHandle == 0) return;
-    const Status status = slot == 0 ? OpenFirst(resource) : AddFurther(slot, resource);
+    const CallResult result = slot == 0 ? OpenFirst(resource) : AddFurther(slot, resource);
     if (state.instrumentHandle != 0) state.sessionClosed = false;
-    // Without a handle there is no session, whatever the status says.
-    if (CheckStatus(status, slot) || state.instrumentHandle == 0) return;
+    if (result.Failed()) {
+        GiveUpOpening(slot, result);
+        return;
+    }
+    state.reconnectPrompt = true;
+    // Without a handle there is no session, even if the status says that all is well.
+    if (state.instrumentHandle == 0) return;
     table_[slot].sessionOpen = true;
     table_[slot].waitTicks = 0;
 }
 
-Status Session::OpenFirst(const std::string& resource) {
-    if (log.enabled)
-        log.Write("psdrv_init(" + resource + ", 1, 1," +
-                  util::NumberText(std::int64_t{state.instrumentHandle}) + ") STARTING");
+CallResult Session::OpenFirst(const std::string& resource) {
+    const CallFrame frame(log, log_form::Opening, operations.psdrv_init, resource,
+                          state.instrumentHandle);
     Handle opened = 0;
-    const Status status =
+    const CallResult result =
         operations.psdrv_init(resource.c_str(), CheckIdentity, ResetDevice, &opened);
-    if (status == 0) state.instrumentHandle = opened;
+    if (!result.Failed()) state.instrumentHandle = opened;
     clock_.Sleep(OpeningPause);
-    ReportError(status, 0, "psdrv_init");
-    if (log.enabled)
-        log.Write("psdrv_init FINISHED -> instrumentHandle: " +
-                  util::NumberText(std::int64_t{state.instrumentHandle}));
-    return status;
+    ReportError(result, 0, "psdrv_init");
+    frame.Finish(state.instrumentHandle);
+    return result;
 }
 
-Status Session::AddFurther(int slot, const std::string& resource) {
-    if (log.enabled)
-        log.Write("psdrv_AddSensor(" + Trimmed(state.instrumentHandle) + ", " +
-                  Trimmed(ChannelOf(slot)) + ", " + resource + ", 1, 1) STARTING");
-    const Status status = operations.psdrv_AddSensor(state.instrumentHandle, ChannelOf(slot),
-                                                     resource.c_str(), CheckIdentity, ResetDevice);
+CallResult Session::AddFurther(int slot, const std::string& resource) {
+    const CallFrame frame(log, log_form::Adding, operations.psdrv_AddSensor, state.instrumentHandle,
+                          ChannelOf(slot), resource);
+    const CallResult result = operations.psdrv_AddSensor(
+        state.instrumentHandle, ChannelOf(slot), resource.c_str(), CheckIdentity, ResetDevice);
     clock_.Sleep(OpeningPause);
-    ReportError(status, slot, "psdrv_AddSensor");
-    log.Write("psdrv_AddSensor FINISHED");
-    if (status != 0) table_[slot].enabled = false;
-    return status;
+    ReportError(result, slot, "psdrv_AddSensor");
+    frame.Finish();
+    if (result.Failed()) table_[slot].enabled = false;
+    return result;
+}
+
+void Session::GiveUpOpening(int slot, const CallResult& failed) {
+    const std::string message = MessageFor(failed);
+    const CallFrame frame(log, log_form::General, operations.psdrv_error_query,
+                          state.instrumentHandle, failed.status);
+    const std::string query = CallQuery();
+    frame.Finish();
+    notices_.Tell(&SensorNotices::OpeningFailed, slot, message + "\r\n(" + query + ")");
+    Close();
+    state.reconnectPrompt = util::UpperCase(message).find("DESCRIPTOR") == std::string::npos;
 }
 
 void Session::Close() {
     if (!state.sessionClosed && state.instrumentHandle != 0)
-        FramedCall(log, LogForm::General, operations.psdrv_close, state.instrumentHandle);
+        FramedCall(log, log_form::General, operations.psdrv_close, state.instrumentHandle);
     state.sessionClosed = true;
     state.instrumentHandle = 0;
     for (sensors::SensorEntry& entry : table_.entries) entry.sessionOpen = false;
 }
 
-template <class Call>
-void Session::Framed(bool logged, const OperationBase& operation, Status status, Call call) {
-    const bool write = logged && log.enabled;
-    const std::string name(operation.name);
-    if (write)
-        log.Write(name + "( " + ArgumentText(state.instrumentHandle, status) + " ) STARTING");
-    call();
-    if (write) log.Write(name + " -> FINISHED");
+std::string Session::MessageFor(const CallResult& failed) {
+    const CallFrame frame(log, log_form::General, operations.psdrv_error_message,
+                          state.instrumentHandle, failed.status);
+    std::string message = CallMessage(failed);
+    frame.Finish();
+    return message;
 }
 
-std::string Session::Message(Status status, bool logged) {
-    // Who shows the same status next has to name what is missing too.
-    const OperationBase* missing = status == MissingFunction ? operations.missing : nullptr;
+std::string Session::CallMessage(const CallResult& failed) {
     TextBuffer message;
-    Framed(logged, operations.psdrv_error_message, status,
-           [&] { operations.psdrv_error_message(state.instrumentHandle, status, message.Data()); });
-    operations.missing = missing;
-    if (missing != nullptr) return MissingText(operations, *missing);
+    operations.psdrv_error_message(state.instrumentHandle, failed.status, message.Data());
+    if (failed.missing != nullptr) return MissingText(operations, *failed.missing);
     const std::string text = message.Text();
-    return text.empty() ? Trimmed(status) : text;
+    return text.empty() ? util::TrimmedNumberText(std::int64_t{failed.status}) : text;
 }
 
-std::string Session::Query(Status status, bool logged) {
-    const OperationBase* missing = operations.missing;
+std::string Session::CallQuery() {
     TextBuffer query;
     std::int32_t code = 0;
-    Framed(logged, operations.psdrv_error_query, status,
-           [&] { operations.psdrv_error_query(state.instrumentHandle, &code, query.Data()); });
-    operations.missing = missing;
+    operations.psdrv_error_query(state.instrumentHandle, &code, query.Data());
     return query.Text();
 }
 
-bool Session::CheckStatus(Status status, int slot) {
-    std::string message;
-    if (status != 0) {
-        message = Message(status, true);
-        const std::string query = Query(status, true);
-        notices_.Tell(&SensorNotices::OpeningFailed, slot, message + "\r\n(" + query + ")");
-        Close();
-    }
-    state.reconnectPrompt = util::UpperCase(message).find("DESCRIPTOR") == std::string::npos;
-    return status != 0;
-}
-
-void Session::ReportError(Status status, int slot, const char* context) {
-    if (status == 0) return;
+Session::Words Session::LogFailure(const CallResult& failed) {
     if (log.enabled)
         log.Write("   ERROR: Session " + util::NumberText(std::int64_t{state.instrumentHandle}) +
-                  ", Code " + util::NumberText(std::int64_t{status}) + "=0x" +
-                  util::HexText(static_cast<std::uint32_t>(status)));
-    const std::string message = Message(status, false);
-    log.Write("   error_message: " + message);
-    const std::string query = Query(status, false);
-    log.Write("   error_query: '" + query + "'");
-    std::string& text = table_[slot].lastErrorText;
-    text += std::string(context) + "\r\n  " + message + "\r\n  " + query + "\r\n";
-    notices_.Tell(&SensorNotices::SensorFailed, slot, text);
+                  ", Code " + util::NumberText(std::int64_t{failed.status}) + "=0x" +
+                  util::HexText(static_cast<std::uint32_t>(failed.status)));
+    Words words;
+    words.message = CallMessage(failed);
+    log.Write("   error_message: " + words.message);
+    words.query = CallQuery();
+    log.Write("   error_query: '" + words.query + "'");
+    return words;
+}
+
+void Session::ReportError(const CallResult& result, int slot, const char* context) {
+    if (!result.Failed()) return;
+    const Words words = LogFailure(result);
+    table_[slot].lastErrorText +=
+        std::string(context) + "\r\n  " + words.message + "\r\n  " + words.query + "\r\n";
+    TellFailed(slot);
+}
+
+void Session::ReportInitiate(const CallResult& result) {
+    ReportCall(result, 0, "Initiate: ", &sensors::SensorPresence::initiateError);
+}
+
+void Session::ReportFetch(const CallResult& result, int slot) {
+    ReportCall(result, slot, "Fetch: ", &sensors::SensorPresence::fetchError);
+}
+
+void Session::ReportCall(const CallResult& result, int slot, const char* what, ErrorMember error) {
+    if (result.Failed()) {
+        table_[slot].*error = what + LogFailure(result).message;
+        TellFailed(slot);
+    } else if (!(table_[slot].*error).empty()) {
+        (table_[slot].*error).clear();
+        notices_.Tell(&SensorNotices::SensorIsWell, slot);
+    }
+}
+
+void Session::TellFailed(int slot) {
+    notices_.Tell(&SensorNotices::SensorFailed, slot, sensors::ErrorOf(table_[slot]));
 }
 
 }  // namespace kelvra::driver

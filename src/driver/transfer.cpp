@@ -34,7 +34,8 @@ std::int32_t TerminalControl(bool moving) {
     return moving ? 0 : 1;
 }
 
-// The resolution as the driver's whole number; the driver refuses what no one could mean.
+// The resolution as the driver's whole number. One too large for that becomes the largest, which
+// the driver refuses.
 std::int32_t Resolution(double value) {
     using Limits = std::numeric_limits<std::int32_t>;
     return util::RoundToInt32(value).value_or(value > 0 ? Limits::max() : Limits::min());
@@ -50,16 +51,16 @@ void SendAveraging(SettingsSender& send, InstrumentOperations& op, const SensorS
     switch (s.AvgMode) {
         case sensors::ByResolution:
             send(op.psdrv_avg_setAutoEnabled, "Average Auto Enabled", On);
-            send.Send(LogForm::TypeNormal, op.psdrv_avg_setAutoType, "Average Type Normal",
+            send.Send(log_form::TypeNormal, op.psdrv_avg_setAutoType, "Average Type Normal",
                       TypeNormal);
             send(op.psdrv_avg_setAutoResolution, "Average Resolution", Resolution(s.AvgNormVal));
-            send.Send(LogForm::BlankAfterName, op.psdrv_avg_setAutoMaxMeasuringTime,
+            send.Send(log_form::SpaceAfterName, op.psdrv_avg_setAutoMaxMeasuringTime,
                       "Average Max MeasTime", s.AvgMaxSetTime);
             sendReferenceSlot();
             break;
         case sensors::ByNoise:
             send(op.psdrv_avg_setAutoEnabled, "Average Auto Enabled", On);
-            send.Send(LogForm::TypeNoise, op.psdrv_avg_setAutoType, "Average Type SN", TypeNoise);
+            send.Send(log_form::TypeNoise, op.psdrv_avg_setAutoType, "Average Type SN", TypeNoise);
             send(op.psdrv_avg_setAutoNoiseSignalRatio, "Average SN Value", s.AvgSNVal);
             send(op.psdrv_avg_setAutoMaxMeasuringTime, "Average Max MeasTime", s.AvgMaxSetTime);
             sendReferenceSlot();
@@ -83,7 +84,7 @@ void SendCorrections(SettingsSender& send, InstrumentOperations& op, const Senso
     } else {
         send(op.psdrv_corr_setOffsetEnabled, "Correction Offset OFF", Off);
     }
-    send.Send(LogForm::ArgumentsAgain, op.psdrv_corr_setSParamDeviceEnabled,
+    send.Send(log_form::ArgumentsAgain, op.psdrv_corr_setSParamDeviceEnabled,
               "Correction S parameter", SwitchOf(s.CorrSParaCor));
     if (s.CorrGamma) {
         send(op.psdrv_chan_setSourceGammaCorrEnabled, "Correction Gamma ON", On);
@@ -118,7 +119,7 @@ void SendRange(SettingsSender& send, InstrumentOperations& op, const SensorSetti
 void SendTrigger(SettingsSender& send, InstrumentOperations& op, const SensorSettings& s) {
     send(op.psdrv_trigger_setSource, "Trigger Source", std::int32_t{s.TrigSource});
     send(op.psdrv_trigger_setSlope, "Trigger Slope", std::int32_t{s.TrigSlope});
-    send.Send(LogForm::NameAlone, op.psdrv_trigger_setDelay, "Trigger Delay", s.TrigDelay);
+    send.Send(log_form::NameAlone, op.psdrv_trigger_setDelay, "Trigger Delay", s.TrigDelay);
     send(op.psdrv_trigger_setCount, "Trigger Count", s.TrigCount);
     send(op.psdrv_trigger_setLevel, "Trigger Level", util::DbmToW(s.TrigLevel));
     send(op.psdrv_trigger_setHysteresis, "Trigger Hysteresis", s.TrigHyster);
@@ -131,7 +132,7 @@ void SendTraceAveraging(SettingsSender& send, InstrumentOperations& op, const Se
     switch (s.ScopeAvgMode) {
         case sensors::ByResolution:
             send(op.psdrv_scope_setAutoEnabled, "Scope Average Auto ON", On);
-            send.Send(LogForm::TypeNormal, op.psdrv_scope_setAutoType, "Scope Average Type Normal",
+            send.Send(log_form::TypeNormal, op.psdrv_scope_setAutoType, "Scope Average Type Normal",
                       TypeNormal);
             send(op.psdrv_scope_setAutoResolution, "Scope Average Normal Resolution",
                  Resolution(s.ScopeAVGNormVal));
@@ -140,7 +141,7 @@ void SendTraceAveraging(SettingsSender& send, InstrumentOperations& op, const Se
             break;
         case sensors::ByNoise:
             send(op.psdrv_scope_setAutoEnabled, Unchecked, On);
-            send.Send(LogForm::TypeNoise, op.psdrv_scope_setAutoType, Unchecked, TypeNoise);
+            send.Send(log_form::TypeNoise, op.psdrv_scope_setAutoType, Unchecked, TypeNoise);
             send(op.psdrv_scope_setAutoNoiseSignalRatio, Unchecked, s.ScopeAVGSNVal);
             send(op.psdrv_scope_setAutoMaxMeasuringTime, Unchecked, s.ScopeAVGMaxSetTime);
             break;
@@ -202,50 +203,52 @@ std::string LogHeader(Handle handle, int slot) {
     return header;
 }
 
-void ResetChannel(Session& session, int slot) {
-    if (session.log.enabled)
-        session.log.Write("psdrv_chan_reset(" +
-                          util::TrimmedNumberText(std::int64_t{session.state.instrumentHandle}) +
-                          ", " + util::TrimmedNumberText(std::int64_t{ChannelOf(slot)}) +
-                          ") STARTING");
-    session.operations.psdrv_chan_reset(session.state.instrumentHandle, ChannelOf(slot));
-    session.log.Write("psdrv_chan_reset -> FINISHED");
-}
-
 }  // namespace
 
 void ConfigurationTransfer::ConfigureSensor(int slot) {
     {
         const sensors::TableLock lock(table_);
-        sensors::SensorEntry& entry = table_[slot];
         session_.state.configRunning = true;
         news_.marks.Tell(&TransferMarks::TransferBegins, slot);
-        ResetChannel(session_, slot);
+        FramedCall(session_.log, log_form::Reset, session_.operations.psdrv_chan_reset,
+                   session_.state.instrumentHandle, ChannelOf(slot));
+        sensors::SensorEntry& entry = table_[slot];
         entry.lastErrorText.clear();
+        entry.settingsChanged = false;  // an edit from here on counts again
         session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
-
-        SettingsSender send(session_, slot);
-        InstrumentOperations& op = session_.operations;
-        const bool withoutRange =
-            util::UpperCase(entry.logicalName).find("PS-102") != std::string::npos;
-        const bool averageOnly = entry.logicalName.find("102") != std::string::npos;
-        SendAveraging(send, op, entry.settings);
-        SendCorrections(send, op, entry.settings);
-        if (!withoutRange) SendRange(send, op, entry.settings);
-        if (!averageOnly) {
-            SendTrigger(send, op, entry.settings);
-            SendMode(send, op, entry.settings);
-        }
-
+        const bool complete = Send(slot);
         session_.log.header.clear();
-        if (entry.lastErrorText.empty())
-            news_.notices.Tell(&SensorNotices::SensorIsWell, slot);
+        if (complete)
+            ReportOutcome(slot);
         else
-            news_.notices.Tell(&SensorNotices::SensorFailed, slot, entry.lastErrorText);
-        entry.settingsChanged = false;
+            entry.settingsChanged = true;
         session_.state.configRunning = false;
     }
     news_.marks.Tell(&TransferMarks::TransferEnds, slot);
+}
+
+// The type decides what a sensor takes, not the name that the user has given it.
+bool ConfigurationTransfer::Send(int slot) {
+    SettingsSender send(session_, slot, pace_);
+    InstrumentOperations& op = session_.operations;
+    const sensors::SensorSettings& settings = table_[slot].settings;
+    const std::string_view type = sensors::TypeOf(table_[slot]);
+    const bool averageOnly = type.find("102") != std::string_view::npos;
+    SendAveraging(send, op, settings);
+    SendCorrections(send, op, settings);
+    if (util::UpperCase(type).find("PS-102") == std::string::npos) SendRange(send, op, settings);
+    if (!averageOnly) {
+        SendTrigger(send, op, settings);
+        SendMode(send, op, settings);
+    }
+    return send.Complete();
+}
+
+void ConfigurationTransfer::ReportOutcome(int slot) {
+    if (table_[slot].lastErrorText.empty())
+        news_.notices.Tell(&SensorNotices::SensorIsWell, slot);
+    else
+        news_.notices.Tell(&SensorNotices::SensorFailed, slot, sensors::ErrorOf(table_[slot]));
 }
 
 }  // namespace kelvra::driver

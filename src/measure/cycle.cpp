@@ -2,7 +2,6 @@
 #include "measure/cycle.h"
 
 #include "driver/call_log.h"
-#include "util/number_text.h"
 
 namespace kelvra::measure {
 
@@ -98,12 +97,9 @@ void Cycle::Configure(int slot) {
 
 void Cycle::Initiate() {
     if (p_.table.simulationMode) return;
-    driver::DebugLog& log = p_.session.log;
-    const driver::Handle handle = p_.session.state.instrumentHandle;
-    if (log.enabled)
-        log.Write("psdrv_chans_initiate( " + driver::ArgumentText(handle) + " ) STARTING");
-    p_.session.operations.psdrv_chans_initiate(handle);
-    log.Write("psdrv_chans_initiate -> TeskSession FINISHED");
+    p_.session.ReportInitiate(driver::FramedCall(p_.session.log, driver::log_form::Initiating,
+                                                 p_.session.operations.psdrv_chans_initiate,
+                                                 p_.session.state.instrumentHandle));
 }
 
 // One reading of the clock serves a round, and the first round has that of the pass.
@@ -142,26 +138,29 @@ bool Cycle::AskWhetherComplete(int slot, platform::Duration now) {
     const driver::Handle handle = p_.session.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     if (p_.table[slot].triggerNowRequest) {
-        driver::FramedCall(log, driver::LogForm::General, op.psdrv_meass_sendSoftwareTrigger,
+        driver::FramedCall(log, driver::log_form::General, op.psdrv_meass_sendSoftwareTrigger,
                            handle, channel);
         p_.table[slot].triggerNowRequest = false;
     }
-    const std::string name = log.enabled ? op.psdrv_chan_isMeasurementComplete.name : "";
     driver::Switch complete = 0;
-    if (log.enabled)
-        log.Write(name + "( " + driver::ArgumentText(handle, channel, complete) + " ) STARTING");
-    const driver::Status status = op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
-    if (log.enabled)
-        log.Write(name + " -> " + util::NumberText(std::int64_t{complete}) + " ) FINISHED");
-    TellAwaited(slot, status, now);
+    const driver::CallFrame frame(log, driver::log_form::Polling,
+                                  op.psdrv_chan_isMeasurementComplete, handle, channel, complete);
+    const driver::CallResult result =
+        op.psdrv_chan_isMeasurementComplete(handle, channel, &complete);
+    frame.Finish(complete);
+    if (now - run_.lastAwaited > AwaitedAfter) TellAwaited(slot, result, now);
     return complete != 0;
 }
 
-void Cycle::TellAwaited(int slot, driver::Status status, platform::Duration now) {
-    if (now - run_.lastAwaited <= AwaitedAfter) return;
+void Cycle::TellAwaited(int slot, const driver::CallResult& result, platform::Duration now) {
     run_.lastAwaited = now;
-    const std::string complaint = status == 0 ? std::string() : p_.session.MessageFor(status);
+    const std::string complaint = result.Failed() ? p_.session.MessageFor(result) : std::string();
     p_.news.measurement.Tell(&MeasurementListener::Awaited, slot, complaint);
+}
+
+bool Cycle::GoesOn() {
+    rounds_.AfterCall();
+    return !p_.state.Ending();
 }
 
 void Cycle::Fetch() {

@@ -2,39 +2,11 @@
 #include "measure/readings.h"
 
 #include <algorithm>
-#include <cmath>
-#include <string>
 
 #include "driver/call_log.h"
 #include "measure/simulation.h"
-#include "util/number_text.h"
 
 namespace kelvra::measure {
-
-namespace {
-
-std::string Number(std::int32_t value) {
-    return util::NumberText(std::int64_t{value});
-}
-std::string Number(std::int64_t value) {
-    return util::NumberText(value);
-}
-std::string Number(double value) {
-    return util::NumberText(value);
-}
-
-// The frame of a call that gives back a value: the value stands in both lines.
-template <class Value>
-void FramedFetch(driver::DebugLog& log, const char* name, driver::Handle handle,
-                 driver::Channel channel, const Value& value, auto call) {
-    if (log.enabled)
-        log.Write(std::string(name) + "( " + Number(std::int64_t{handle}) + "," +
-                  Number(std::int64_t{channel}) + ", " + Number(value) + " ) STARTING");
-    call();
-    if (log.enabled) log.Write(std::string(name) + " -> " + Number(value) + " ) FINISHED");
-}
-
-}  // namespace
 
 void Readings::GetSingleReading(int slot) {
     const sensors::TableLock lock(table_);
@@ -54,13 +26,18 @@ void Readings::FetchScalar(int slot) {
     const driver::Handle handle = session_.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
     sensors::SensorEntry& entry = table_[slot];
-    FramedFetch(
-        session_.log, "psdrv_meass_fetchMeasurement", handle, channel, entry.lastReading, [&] {
-            session_.operations.psdrv_meass_fetchMeasurement(handle, channel, &entry.lastReading);
-        });
-    std::int32_t& count = entry.avgCountRead;
-    FramedFetch(session_.log, "psdrv_avg_getCount", handle, channel, count,
-                [&] { session_.operations.psdrv_avg_getCount(handle, channel, &count); });
+    driver::InstrumentOperations& op = session_.operations;
+    const driver::CallFrame reading(session_.log, driver::log_form::Reading,
+                                    op.psdrv_meass_fetchMeasurement, handle, channel,
+                                    entry.lastReading);
+    const driver::CallResult result =
+        op.psdrv_meass_fetchMeasurement(handle, channel, &entry.lastReading);
+    reading.Finish(entry.lastReading);
+    session_.ReportFetch(result, slot);
+    const driver::CallFrame counting(session_.log, driver::log_form::Reading, op.psdrv_avg_getCount,
+                                     handle, channel, entry.avgCountRead);
+    op.psdrv_avg_getCount(handle, channel, &entry.avgCountRead);
+    counting.Finish(entry.avgCountRead);
 }
 
 void Readings::GetMultiReading(int slot) {
@@ -81,14 +58,15 @@ void Readings::GetMultiReading(int slot) {
 int Readings::FetchArray(int slot) {
     const driver::Handle handle = session_.state.instrumentHandle;
     const driver::Channel channel = driver::ChannelOf(slot);
-    const std::string name = session_.operations.psdrv_meass_fetchBufferMeasurement.name;
+    driver::InstrumentOperations& op = session_.operations;
     std::int32_t count = 0;
-    if (session_.log.enabled)
-        session_.log.Write(name + "( " + driver::ArgumentText(handle, channel, ArraySize, count) +
-                           " ) STARTING");
-    session_.operations.psdrv_meass_fetchBufferMeasurement(handle, channel, ArraySize,
-                                                           table_[slot].results.data(), &count);
-    if (session_.log.enabled) session_.log.Write(name + " -> " + Number(count) + " FINISHED");
+    const driver::CallFrame frame(session_.log, driver::log_form::ArrayReading,
+                                  op.psdrv_meass_fetchBufferMeasurement, handle, channel, ArraySize,
+                                  count);
+    const driver::CallResult result = op.psdrv_meass_fetchBufferMeasurement(
+        handle, channel, ArraySize, table_[slot].results.data(), &count);
+    frame.Finish(count);
+    session_.ReportFetch(result, slot);
     return count;
 }
 

@@ -17,7 +17,7 @@ void SessionRecovery::SensorFailed(int /*slot*/, const std::string& text) {
 }
 
 void SessionRecovery::TransferEnds(int slot) {
-    if (!handleRefused_ || recoveredInStart_ == p_.state.starts) return;
+    if (p_.state.exiting || !handleRefused_ || recoveredInStart_ == p_.state.starts) return;
     recoveredInStart_ = p_.state.starts;
     const bool recording = p_.state.recordInterval > 0;
     const bool answers = Reopen(slot);

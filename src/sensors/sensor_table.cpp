@@ -5,6 +5,8 @@
 #include <cassert>
 #include <utility>
 
+#include "util/text.h"
+
 namespace kelvra::sensors {
 
 void SensorTable::Resize(int slots) {
@@ -82,6 +84,13 @@ void ChangeMode(SensorTable& table, int slot) {
     entry.results.clear();
     entry.newSlotData = entry.newTraceData = false;
     PrepareWorkArrays(table, slot);
+}
+
+std::string ErrorOf(const SensorPresence& sensor) {
+    std::string all = sensor.lastErrorText;
+    for (const std::string& error : {sensor.initiateError, sensor.fetchError})
+        if (!error.empty()) all += error + "\r\n";
+    return std::string(util::TrimLineBreaks(all));
 }
 
 std::string_view TypeOf(const SensorPresence& sensor) {

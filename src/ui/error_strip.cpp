@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/error_strip.h"
 
-#include "util/text.h"
-
 namespace kelvra::ui {
 
 namespace {
@@ -20,10 +18,9 @@ void SetHeaderHeight(controls::Frame& header, int height) {
 
 void ErrorStrip::Refresh() {
     for (int slot = 0; slot < table_.Slots(); ++slot) {
-        const sensors::SensorEntry& entry = table_[slot];
-        if (table_.simulationMode || entry.lastErrorText.empty()) continue;
-        return Open(entry.logicalName + ": " +
-                    std::string(util::TrimLineBreaks(entry.lastErrorText)));
+        const std::string error = sensors::ErrorOf(table_[slot]);
+        if (!table_.simulationMode && !error.empty())
+            return Open(table_[slot].logicalName + ": " + error);
     }
     Close();
 }

@@ -38,7 +38,10 @@ protected:
 TEST_F(DeviceListTest, ReachesToItsLastConnectedDevice) {
     const std::string hundred(100, 'x');
     const std::string far = std::string(255, '.') + "z";
-    const std::tuple<std::string, std::string, int, int> cases[] = {
+    const struct {
+        std::string places, listed;
+        int connected, asked;
+    } cases[] = {
         {"", ".", 0, 2},
         {"a", "a", 1, 1},
         {"..", ".", 0, 2},
@@ -59,8 +62,10 @@ TEST_F(DeviceListTest, ReachesToItsLastConnectedDevice) {
 }
 
 TEST_F(DeviceListTest, IsNotBelievedBelowNothingNorAbove256) {
-    const std::pair<std::int32_t, int> cases[] = {
-        {-1, 2}, {INT32_MIN, 2}, {0, 2}, {300, 256}, {INT32_MAX, 256}};
+    const struct {
+        std::int32_t length;
+        int asked;
+    } cases[] = {{-1, 2}, {INT32_MIN, 2}, {0, 2}, {300, 256}, {INT32_MAX, 256}};
     for (const auto& [length, asked] : cases) {
         driver_.count.clear();
         driver_.listLength = length;
@@ -85,7 +90,10 @@ TEST_F(DeviceListTest, TextsEndInsideTheirBuffers) {
 
 TEST(Catalogue, KnowsTheProductIdAndTheModesOfAModel) {
     using enum Capabilities;
-    const std::tuple<std::string, std::string, Capabilities> models[] = {
+    const struct {
+        std::string type, id;
+        Capabilities capabilities;
+    } models[] = {
         {"PS-101", "0x003", TimeResolving}, {"PS-103", "0x018", AverageOnly},
         {"PS-108", "0x015", TimeResolving}, {"PS-110", "0x02c", Unknown},
         {"PS-115", "0x019", AverageOnly},   {"PS-116", "0x0b", Unknown},

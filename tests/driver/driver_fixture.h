@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A session over a fake driver, with eight slots, its log in a file, and what it tells noted.
+// A session over a fake driver, with eight slots, its log in a file, and its notices noted.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -33,11 +33,11 @@ protected:
     }
 
     void SensorFailed(int slot, const std::string& text) override {
-        told_.push_back("failed " + std::to_string(slot) + " " + text);
+        notices_.push_back("failed " + std::to_string(slot) + ": " + text);
     }
-    void SensorIsWell(int slot) override { told_.push_back("well " + std::to_string(slot)); }
+    void SensorIsWell(int slot) override { notices_.push_back("well " + std::to_string(slot)); }
     void OpeningFailed(int slot, const std::string& text) override {
-        told_.push_back("opening failed " + std::to_string(slot) + " " + text);
+        notices_.push_back("not opened " + std::to_string(slot) + ": " + text);
     }
     void TransferBegins(int slot) override { marks_.push_back("begins " + std::to_string(slot)); }
     void TransferEnds(int slot) override { marks_.push_back("ends " + std::to_string(slot)); }
@@ -68,7 +68,7 @@ protected:
     DebugLog log_{*files_, fake_.clock, fake_.computer.numbers};
     Session session_{state_, operations_, log_, table_, fake_.clock, news_.notices};
     ConfigurationTransfer transfer_{session_, table_, news_};
-    Lines told_;
+    Lines notices_;
     Lines marks_;
 };
 

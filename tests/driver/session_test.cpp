@@ -39,8 +39,8 @@ TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
     EXPECT_EQ(state_.instrumentHandle, 0U);
     EXPECT_FALSE(table_[0].sessionOpen);
     EXPECT_EQ(driver_.Count("psdrv_close"), 0);
-    EXPECT_EQ(told_, (Lines{"failed 0 psdrv_init\r\n  bad value\r\n  queue empty\r\n",
-                            "opening failed 0 bad value\r\n(queue empty)"}));
+    EXPECT_EQ(notices_, (Lines{"failed 0: psdrv_init\r\n  bad value\r\n  queue empty",
+                               "not opened 0: bad value\r\n(queue empty)"}));
     EXPECT_EQ(LogLines(),
               (Lines{"psdrv_init(USB::1, 1, 1, 0) STARTING",
                      "   ERROR: Session  0, Code -5=0xFFFFFFFB", "   error_message: bad value",
@@ -69,34 +69,42 @@ TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
     withoutInit.erase("psdrv_init");
     auto withoutMessage = whole;
     withoutMessage.erase("psdrv_error_message");
-    const std::tuple<test::FunctionTable, Status, std::string> cases[] = {
+    const struct {
+        test::FunctionTable functions;
+        Status status;
+        std::string words;
+    } cases[] = {
         {{}, 0, "The driver library libfake.so could not be loaded: no such file\r\n()"},
         {withoutInit, 0,
          "The driver library libfake.so has no function psdrv_init.\r\n(queue empty)"},
         {withoutMessage, -5, "-5\r\n(queue empty)"},
         {whole, MissingFunction, "bad value\r\n(queue empty)"},  // the driver's own -1
     };
-    for (const auto& [functions, status, text] : cases) {
+    for (const auto& [functions, status, words] : cases) {
         test::FakeDriver::PutInto(operations_, functions);
         operations_.libraryLoaded = !functions.empty();
         operations_.whyNotLoaded = "no such file";
         Fail("psdrv_init", status);
         session_.OpenSensor(0);
-        EXPECT_EQ(told_.back(), "opening failed 0 " + text);
+        EXPECT_EQ(notices_.back(), "not opened 0: " + words);
         EXPECT_FALSE(table_[0].sessionOpen);
     }
 }
 
 TEST_F(DriverTest, ATextOfTheDriverEndsInsideItsBuffer) {
     const std::string full(256, 'x');
-    const std::tuple<std::string, bool, std::string> cases[] = {
+    const struct {
+        std::string message;
+        bool terminated;
+        std::string shown;
+    } cases[] = {
         {full, false, full}, {"short", false, "short"},      {"", true, "-5"},
         {"", false, "-5"},   {"\xFF\xFE", true, "\xFF\xFE"},
     };
     for (const auto& [message, terminated, shown] : cases) {
         driver_.message = message;
         driver_.terminated = terminated;
-        EXPECT_EQ(session_.MessageFor(-5), shown);
+        EXPECT_EQ(session_.MessageFor({-5}), shown);
     }
 }
 
@@ -109,8 +117,8 @@ TEST_F(DriverTest, TheLogSaysWhichLibraryOrFunctionIsNotThere) {
     EXPECT_EQ(LogLines(),
               (Lines{"Driver library libpsdrv_32.so has no function psdrv_close",
                      "Driver library libTeskControl2.so was not loaded: no such file"}));
-    EXPECT_EQ(library.instrument.psdrv_close(1), MissingFunction);
-    EXPECT_EQ(library.deviceList.TeskLockDeviceList(), MissingFunction);
+    EXPECT_EQ(library.instrument.psdrv_close(1).status, MissingFunction);
+    EXPECT_EQ(library.deviceList.TeskLockDeviceList().status, MissingFunction);
     for (const auto* operation : library.instrument.all)
         EXPECT_EQ(operation->address == nullptr, operation == &library.instrument.psdrv_close)
             << operation->name;

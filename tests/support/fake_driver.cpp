@@ -2,7 +2,6 @@
 #include "support/fake_driver.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "util/number_text.h"
 
@@ -39,7 +38,7 @@ void Note(std::string& list, Argument argument) {
         list += util::ShortestNumberText(static_cast<double>(argument));
 }
 
-// What the functions give back, told apart by what they take.
+// What the functions give back, chosen by their parameters.
 struct Answers {
     template <class... Arguments>
     static void Give(Arguments...) {}
@@ -96,45 +95,21 @@ struct Function<Member> {
 
 }  // namespace
 
-#define FUNCTION(list, name) \
-    { #name, Function < &list::name> ::Named(#name) }
-#define PSDRV(name) FUNCTION(InstrumentOperations, psdrv_##name)
-#define TESK(name) FUNCTION(DeviceListOperations, Tesk##name)
-
-// clang-format off
 FunctionTable FakeDriver::InstrumentFunctions() {
     return {
-        PSDRV(init), PSDRV(AddSensor), PSDRV(close), PSDRV(error_message), PSDRV(error_query),
-        PSDRV(chan_reset), PSDRV(chan_mode), PSDRV(chans_initiate),
-        PSDRV(meass_sendSoftwareTrigger), PSDRV(chan_isMeasurementComplete),
-        PSDRV(meass_fetchMeasurement), PSDRV(meass_fetchBufferMeasurement), PSDRV(avg_getCount),
-        PSDRV(avg_setEnabled), PSDRV(avg_setAutoEnabled), PSDRV(avg_setAutoType),
-        PSDRV(avg_setAutoResolution), PSDRV(avg_setAutoMaxMeasuringTime),
-        PSDRV(avg_setAutoNoiseSignalRatio), PSDRV(avg_setSlot), PSDRV(avg_setCount),
-        PSDRV(avg_setTerminalControl), PSDRV(chan_setCorrectionFrequency),
-        PSDRV(corr_setOffsetEnabled), PSDRV(corr_setOffset), PSDRV(corr_setSParamDeviceEnabled),
-        PSDRV(chan_setSourceGammaCorrEnabled), PSDRV(chan_setSourceGammaMagnitude),
-        PSDRV(chan_setSourceGammaPhase), PSDRV(corr_setDutyCycleEnabled), PSDRV(corr_setDutyCycle),
-        PSDRV(range_setAutoEnabled), PSDRV(range_setCrossoverLevel), PSDRV(range_setRange),
-        PSDRV(chan_setSamplingFrequency), PSDRV(chan_setInitContinuousEnabled),
-        PSDRV(trigger_setSource), PSDRV(trigger_setSlope), PSDRV(trigger_setDelay),
-        PSDRV(trigger_setCount), PSDRV(trigger_setLevel), PSDRV(trigger_setHysteresis),
-        PSDRV(trigger_setHoldoff), PSDRV(chan_setContAvBufferedEnabled),
-        PSDRV(chan_setContAvAperture), PSDRV(chan_setContAvSmoothingEnabled),
-        PSDRV(chan_setContAvBufferSize), PSDRV(tslot_configureTimeSlot),
-        PSDRV(timing_configureExclude), PSDRV(chan_setBurstDropoutTolerance),
-        PSDRV(scope_setAverageEnabled), PSDRV(scope_setAutoEnabled), PSDRV(scope_setAutoType),
-        PSDRV(scope_setAutoResolution), PSDRV(scope_setAutoMaxMeasuringTime),
-        PSDRV(scope_setAutoNoiseSignalRatio), PSDRV(scope_setAverageCount),
-        PSDRV(scope_setAverageTerminalControl), PSDRV(scope_setPoints), PSDRV(scope_setTime),
-        PSDRV(scope_setOffsetTime), PSDRV(scope_setRealtimeEnabled),
+#define X(name, ...) {#name, Function<&InstrumentOperations::name>::Named(#name)},
+        KELVRA_DRIVER_FUNCTIONS(X) KELVRA_DRIVER_SETTERS(X)
+#undef X
     };
 }
+
 FunctionTable FakeDriver::DeviceListFunctions() {
-    return {TESK(LockDeviceList), TESK(GetDeviceListLength), TESK(GetDeviceInfo),
-            TESK(CloseDriver)};
+    return {
+#define X(name, ...) {#name, Function<&DeviceListOperations::name>::Named(#name)},
+        KELVRA_DEVICE_LIST_FUNCTIONS(X)
+#undef X
+    };
 }
-// clang-format on
 
 void FakeDriver::PutInto(driver::OperationList& operations, const FunctionTable& functions) {
     operations.libraryFile = "libfake.so";

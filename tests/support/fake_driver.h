@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Both driver libraries as functions with their C interface, which note every call and answer what
-// the test wants, however odd. The one that was made last is the one that is called.
+// Both driver libraries as C functions that note every call and answer as the test wants. The fake
+// that was made last is the one that is called.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ public:
     std::map<std::string, int> count;  // by name
     int Count(const std::string& name) const { return count.contains(name) ? count.at(name) : 0; }
 
-    // Status of the n-th call of a function, from 1. Outputs are written whatever it is.
+    // Status of the n-th call of a function, from 1. Outputs are written even then.
     std::function<driver::Status(std::string_view name, int n)> status;
     std::function<void(std::string_view name)> onCall;
 
@@ -44,14 +44,14 @@ public:
     double reading = 0.001;                     // W
     std::int32_t averagingCount = 4;
     std::vector<double> array;               // W
-    std::optional<std::int32_t> arrayCount;  // as reported, where that isn't the truth
+    std::optional<std::int32_t> arrayCount;  // as reported, if it is not the true one
 
     struct Device {
         std::string name, type, serial;
         std::int32_t connected = 1;
     };
     std::vector<Device> devices;
-    std::optional<std::int32_t> listLength;  // as reported, where that isn't the truth
+    std::optional<std::int32_t> listLength;  // as reported, if it is not the true one
 };
 
 }  // namespace kelvra::test

@@ -143,7 +143,10 @@ TEST(Libraries, GiveAnArrayNoLongerThanTheCallers) {
 TEST(Libraries, RefuseResourcesThatNameNoSensor) {
     const Libraries libraries(std::string(OneAtZeroDbm) + "sensor PS-102 B\nunplugged\n");
     const std::string endless(600, 'x');
-    const std::pair<const char*, Status> cases[] = {
+    const struct {
+        const char* resource;
+        Status status;
+    } cases[] = {
         {"USB::0x1::0x003::A", Status::Ok},
         {"USB::0x1::0x16::B", Status::NotConnected},
         {"USB::0x1::0x016::A", Status::BadResource},

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <utility>
 #include <vector>
 
 #include "scenario_reader.h"
@@ -12,7 +11,11 @@
 namespace kelvra::virtual_sensors {
 namespace {
 
-using Changes = std::vector<std::pair<Setting, double>>;
+struct Change {
+    Setting setting;
+    double value;
+};
+using Changes = std::vector<Change>;
 
 SettingValues With(const Changes& changes) {
     SettingValues settings;
@@ -29,14 +32,17 @@ Scenario OneSensor(const std::string& noise) {
 }
 
 TEST(Corrections, MultiplyThePower) {
-    const std::pair<Changes, double> cases[] = {
+    const struct {
+        Changes changes;
+        double factor;
+    } cases[] = {
         {{}, 1},
-        {{{Setting::corr_setOffset, 10}}, 1},  // not switched on
-        {{{Setting::corr_setOffset, 10}, {Setting::corr_setOffsetEnabled, 1}}, 10},
-        {{{Setting::corr_setDutyCycle, 25}, {Setting::corr_setDutyCycleEnabled, 1}}, 4},
-        {{{Setting::corr_setSParamDeviceEnabled, 1}}, 1.0232929922807541},
-        {{{Setting::chan_setSourceGammaCorrEnabled, 1}}, 0.9025},
-        {{{Setting::chan_setCorrectionFrequency, 5e9}}, 1.0092528860766844},
+        {{{Setting::psdrv_corr_setOffset, 10}}, 1},  // not switched on
+        {{{Setting::psdrv_corr_setOffset, 10}, {Setting::psdrv_corr_setOffsetEnabled, 1}}, 10},
+        {{{Setting::psdrv_corr_setDutyCycle, 25}, {Setting::psdrv_corr_setDutyCycleEnabled, 1}}, 4},
+        {{{Setting::psdrv_corr_setSParamDeviceEnabled, 1}}, 1.0232929922807541},
+        {{{Setting::psdrv_chan_setSourceGammaCorrEnabled, 1}}, 0.9025},
+        {{{Setting::psdrv_chan_setCorrectionFrequency, 5e9}}, 1.0092528860766844},
     };
     for (const auto& [changes, factor] : cases)
         EXPECT_NEAR(CorrectionFactor(With(changes)), factor, 1e-12);
@@ -44,14 +50,16 @@ TEST(Corrections, MultiplyThePower) {
 
 TEST(Measurement, CompletesAfterItsTriggerOnly) {
     constexpr double never = 1e9;
-    // When it completes after a start at 1 s and a software trigger at 2 s.
-    const std::pair<Changes, double> cases[] = {
+    const struct {
+        Changes changes;
+        double time;  // of completion, after a start at 1 s and a software trigger at 2 s
+    } cases[] = {
         {{}, 1.04},
-        {{{Setting::trigger_setDelay, 0.5}}, 1.54},
-        {{{Setting::trigger_setSource, 2}}, 2.04},
-        {{{Setting::trigger_setSource, 1}}, 1.24},  // external, each 0.3 s
-        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 0.9e-3}}, 1.04},
-        {{{Setting::trigger_setSource, 4}, {Setting::trigger_setLevel, 1.1e-3}}, never},
+        {{{Setting::psdrv_trigger_setDelay, 0.5}}, 1.54},
+        {{{Setting::psdrv_trigger_setSource, 2}}, 2.04},
+        {{{Setting::psdrv_trigger_setSource, 1}}, 1.24},  // external, each 0.3 s
+        {{{Setting::psdrv_trigger_setSource, 4}, {Setting::psdrv_trigger_setLevel, 0.9e-3}}, 1.04},
+        {{{Setting::psdrv_trigger_setSource, 4}, {Setting::psdrv_trigger_setLevel, 1.1e-3}}, never},
     };
     Scenario scenario = OneSensor("0 dB");
     scenario.externalPeriod = 0.3;

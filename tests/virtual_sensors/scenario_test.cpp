@@ -25,8 +25,10 @@ TEST(ScenarioReader, ReadsEveryStatement) {
     ASSERT_EQ(result.error, "");
     EXPECT_EQ(s.seed, 7U);
     EXPECT_FALSE(s.computerTime);
-    EXPECT_EQ(std::tuple(s.pollStep, s.lockStep, s.fixedDuration, s.externalPeriod),
-              std::tuple(0.002, 3, 0, 0.005));
+    EXPECT_EQ(s.pollStep, 0.002);
+    EXPECT_EQ(s.lockStep, 3);
+    EXPECT_EQ(s.fixedDuration, 0);
+    EXPECT_EQ(s.externalPeriod, 0.005);
     EXPECT_DOUBLE_EQ(s.zeroDuration, 1e-5);
     ASSERT_EQ(s.sensors.size(), 2U);
     EXPECT_EQ(s.sensors[0].name, "left # one");
@@ -48,14 +50,16 @@ TEST(ScenarioReader, ReadsEveryStatement) {
 
 TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
     const std::string start = "source g 0 dBm\nsensor PS-101 1\n";
-    const std::pair<std::string, std::string> cases[] = {
+    const struct {
+        std::string line, error;
+    } cases[] = {
         {"beep", "unknown statement 'beep'"},
         {"sensor PS-101", "the serial number is missing"},
         {"sensor PS-102 1", "this serial number is there already"},
         {"source h 1e999 dBm", "the level is no number or out of range"},
         {"duration 5", "the unit of the time is missing"},
-        {"sees h 0 dB", "no source 'h' stands above"},
-        {"at 1 s unplug 2", "no sensor '2' stands above"},
+        {"sees h 0 dB", "no source 'h' above this line"},
+        {"at 1 s unplug 2", "no sensor '2' above this line"},
         {"at call 0 of psdrv_init plug 1", "the number of the call is no number or out of range"},
         {"fault psdrv_nothing status 1", "unknown function 'psdrv_nothing'"},
         {"fault psdrv_init", "'status', 'count', 'value' or 'unended' expected"},
@@ -68,7 +72,7 @@ TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
         EXPECT_EQ(result.error, "file:3: " + error) << line;
         EXPECT_TRUE(result.scenario.sensors.empty()) << line;
     }
-    EXPECT_EQ(ReadScenario("index 1", "file").error, "file:1: no sensor stands above");
+    EXPECT_EQ(ReadScenario("index 1", "file").error, "file:1: no sensor above this line");
     EXPECT_NE(LoadScenario(testing::TempDir()).error.find("cannot be read"), std::string::npos);
     EXPECT_NE(LoadScenario("no such file").error.find("cannot be opened"), std::string::npos);
 }

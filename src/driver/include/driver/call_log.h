@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The frame of every driver call in the debug log: a line before the call, one after it. Nothing is
-// formatted while logging is off.
+// The two lines of a driver call in the debug log, one before it and one after it. Every call that
+// is logged gets them here. Nothing is formatted while logging is off.
 #pragma once
 
 #include <string>
 #include <string_view>
-#include <utility>
+#include <type_traits>
+#include <vector>
 
 #include "driver/debug_log.h"
 #include "driver/operations.h"
@@ -13,49 +14,82 @@
 
 namespace kelvra::driver {
 
-// How the two lines of a call are written; the arguments are numbers with their sign place.
-enum class LogForm {
-    General,         // name( a, b ) STARTING         name -> FINISHED
-    BlankAfterName,  // name ( a, b ) STARTING        name  -> FINISHED
-    NameAlone,       // name                          name -> FINISHED
-    ArgumentsAgain,  // name( a, b ) STARTING         name( a, b ) FINISHED
-    TypeNormal,      // name( a, b, 0) STARTING       name -> FINISHED   (the last argument is 0)
-    TypeNoise,       // name( a, b, 1 ) STARTING      name -> FINISHED   (the last argument is 1)
+// The patterns of a call's two lines. {name} is the function's name, {all} are the arguments with
+// ", " between them, {trimmed} the same without the spaces that numbers begin with, {0} is the
+// first argument, {1} the next, and {result} is what came back.
+struct LogForm {
+    std::string_view start;
+    std::string_view finish;
 };
 
-struct LogFrame {
-    std::string start;
-    std::string finish;
-};
+namespace log_form {
 
-// The arguments as the frames have them: " 12,  1".
-template <class First, class... Rest>
-std::string ArgumentText(First first, Rest... rest) {
-    const auto one = [](auto number) {
-        if constexpr (std::is_floating_point_v<decltype(number)>)
-            return util::NumberText(number);
+// clang-format off
+constexpr LogForm General        {"{name}( {all} ) STARTING",         "{name} -> FINISHED"};
+constexpr LogForm SpaceAfterName {"{name} ( {all} ) STARTING",        "{name}  -> FINISHED"};
+constexpr LogForm NameAlone      {"{name}",                           "{name} -> FINISHED"};
+constexpr LogForm ArgumentsAgain {"{name}( {all} ) STARTING",         "{name}( {all} ) FINISHED"};
+constexpr LogForm TypeNormal     {"{name}( {0}, {1}, 0) STARTING",    "{name} -> FINISHED"};
+constexpr LogForm TypeNoise      {"{name}( {0}, {1}, 1 ) STARTING",   "{name} -> FINISHED"};
+constexpr LogForm Reset          {"{name}({trimmed}) STARTING",       "{name} -> FINISHED"};
+constexpr LogForm Opening        {"{name}({0}, 1, 1,{1}) STARTING",
+                                  "{name} FINISHED -> instrumentHandle: {result}"};
+constexpr LogForm Adding         {"{name}({trimmed}, 1, 1) STARTING", "{name} FINISHED"};
+constexpr LogForm Initiating     {"{name}( {all} ) STARTING", "{name} -> TeskSession FINISHED"};
+constexpr LogForm Polling        {"{name}( {all} ) STARTING",         "{name} -> {result} ) FINISHED"};
+constexpr LogForm Reading        {"{name}( {0},{1}, {2} ) STARTING",  "{name} -> {result} ) FINISHED"};
+constexpr LogForm ArrayReading   {"{name}( {all} ) STARTING",         "{name} -> {result} FINISHED"};
+// clang-format on
+
+}  // namespace log_form
+
+// The lines of one call: made before it, finished after it.
+class CallFrame {
+public:
+    template <class... Arguments>
+    CallFrame(DebugLog& log, const LogForm& form, const OperationBase& operation,
+              const Arguments&... arguments)
+        : log_(log), form_(form), name_(operation.name) {
+        if (!log.enabled) return;
+        arguments_ = {TextOf(arguments)...};
+        log.Write(Filled(form.start, {}));
+    }
+
+    void Finish() const {
+        if (log_.enabled) log_.Write(Filled(form_.finish, {}));
+    }
+    template <class Result>
+    void Finish(const Result& result) const {
+        if (log_.enabled) log_.Write(Filled(form_.finish, TextOf(result)));
+    }
+
+private:
+    template <class Value>
+    static std::string TextOf(const Value& value) {
+        if constexpr (std::is_floating_point_v<Value>)
+            return util::NumberText(value);
+        else if constexpr (std::is_integral_v<Value>)
+            return util::NumberText(static_cast<std::int64_t>(value));
         else
-            return util::NumberText(static_cast<std::int64_t>(number));
-    };
-    std::string text = one(first);
-    ((text += ", " + one(rest)), ...);
-    return text;
-}
+            return value;
+    }
+    std::string Filled(std::string_view pattern, const std::string& result) const;
+    std::string Field(std::string_view field, const std::string& result) const;
 
-LogFrame FrameFor(LogForm form, std::string_view name, std::string_view arguments);
+    DebugLog& log_;
+    const LogForm form_;
+    const char* const name_;
+    std::vector<std::string> arguments_;
+};
 
 // Calls the operation between its two lines.
 template <class... Parameters, class... Arguments>
-Status FramedCall(DebugLog& log, LogForm form, const Operation<Parameters...>& operation,
-                  Arguments... arguments) {
-    LogFrame frame;
-    if (log.enabled) {
-        frame = FrameFor(form, operation.name, ArgumentText(arguments...));
-        log.Write(frame.start);
-    }
-    const Status status = operation(static_cast<Parameters>(arguments)...);
-    if (log.enabled) log.Write(frame.finish);
-    return status;
+CallResult FramedCall(DebugLog& log, const LogForm& form, const Operation<Parameters...>& operation,
+                      Arguments... arguments) {
+    const CallFrame frame(log, form, operation, arguments...);
+    const CallResult result = operation(static_cast<Parameters>(arguments)...);
+    frame.Finish();
+    return result;
 }
 
 }  // namespace kelvra::driver

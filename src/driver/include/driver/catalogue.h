@@ -9,7 +9,7 @@
 
 namespace kelvra::driver {
 
-// The sensors' USB vendor id as it stands in a resource descriptor.
+// The sensors' USB vendor id as resource descriptors have it.
 constexpr std::string_view SensorUsbVendorId = "0x1c5b";
 
 enum class Capabilities {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The debug log: a text file that gets a line for whatever is worth tracing, while it is switched
-// on. Opens, appends and closes for every line, so that the last line before a crash is there.
+// The debug log: a text file of all that is worth tracing, written while it is switched on. Opens,
+// appends and closes for every line, so that the last line before a crash is there.
 #pragma once
 
 #include <functional>
@@ -21,14 +21,14 @@ public:
     bool enabled = false;  // logging is on
     std::string path;
     bool timeStamps = false;  // each line begins with the time of day: "00,043,200.000:"
-    std::string header;       // each line's prefix behind the time, after a blank
+    std::string header;       // each line's prefix, after the time and a space
 
     // One line. Nothing happens while logging is off.
     void Write(std::string_view text);
     // Deletes an existing log file, whether logging is on or off.
     void RemoveOld();
 
-    // Told once, with the system's reason, when the log can't be written while logging is on.
+    // Called once, with the system's reason, if the log can't be written while logging is on.
     std::function<void(const std::string& path, const std::string& reason)> onFailure;
 
 private:

@@ -24,8 +24,8 @@ public:
     // Up to the last place with a connected device; a single empty element when there is none.
     std::vector<DeviceListEntry> deviceList = std::vector<DeviceListEntry>(1);
 
-    // Reads the library's list (256 entries at most are believed), sizes the display limits, and
-    // sets DeviceTableChanged when fewer sensors are connected than the last time. Sizing the
+    // Reads the library's list (256 entries at most), sizes the display limits, and sets
+    // deviceTableChanged when fewer sensors are connected than the last time. Sizing the
     // sensor table is left to discovery, which first saves what has gone.
     void BuildDeviceList(sensors::SensorTable& table);
 

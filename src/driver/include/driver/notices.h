@@ -12,12 +12,12 @@ class SensorNotices {
 public:
     virtual ~SensorNotices() = default;
 
-    // A call for the slot's sensor has failed. The text has all that its current transfer, or
-    // opening, has met so far.
+    // A call for the slot's sensor has failed; `text` is all that is wrong with the sensor now,
+    // without a line break at its end.
     virtual void SensorFailed(int /*slot*/, const std::string& /*text*/) {}
-    // What was reported of the slot's sensor is over.
+    // Something that was wrong with it is over, or it has gone.
     virtual void SensorIsWell(int /*slot*/) {}
-    // Its channel could not be opened; the driver's words. The session ends.
+    // Its channel could not be opened, and the session will be closed; the driver's words.
     virtual void OpeningFailed(int /*slot*/, const std::string& /*text*/) {}
 };
 
@@ -32,6 +32,15 @@ public:
 struct SessionNews {
     util::Listeners<SensorNotices> notices;
     util::Listeners<TransferMarks> marks;
+};
+
+// Who gives way during a transfer, which may take many slow calls.
+class TransferPace {
+public:
+    virtual ~TransferPace() = default;
+
+    // Asked after each call; may let events run. False ends the transfer before its end.
+    virtual bool GoesOn() = 0;
 };
 
 }  // namespace kelvra::driver

@@ -37,32 +37,42 @@ public:
     DebugLog& log;
 
     // Opens the slot's channel: slot 0 opens the session, the others are added to it and stay
-    // closed until there is one. A failure is shown in a message box and ends the session. In
-    // simulation mode the slot is open at once. The entry's SessionOpen says how it went.
+    // closed until there is one. A failure is reported and ends the session. In simulation mode the
+    // slot is open at once. The entry's sessionOpen says how it went.
     void OpenSensor(int slot);
 
-    // Ends the session, if there is one: handle, flag and every slot's SessionOpen together.
+    // Ends the session, if there is one: handle, flag and every slot's sessionOpen together.
     void Close();
 
-    // Adds a failed status of a call to the sensor's error text, logs it, and shows the text. The
-    // context is a short label of what was called.
-    void ReportError(Status status, int slot, const char* context);
+    // If the call has failed: logs it, adds it to the sensor's error text, and reports the text.
+    // The context is a short label of what was called.
+    void ReportError(const CallResult& result, int slot, const char* context);
 
-    // The driver's words for the status of the last call. A driver that lacks the function that was
-    // called gets Kelvra's words, one without messages the number of the status.
-    std::string MessageFor(Status status) { return Message(status, true); }
+    // What came of starting the measurements, or of fetching the slot's result: a failure is the
+    // sensor's error until the same call succeeds.
+    void ReportInitiate(const CallResult& result);
+    void ReportFetch(const CallResult& result, int slot);
+
+    // The driver's words for a failed call, logged. A function that is missing gets Kelvra's words,
+    // a status that the driver has no words for is shown as a number.
+    std::string MessageFor(const CallResult& failed);
 
 private:
-    Status OpenFirst(const std::string& resource);
-    Status AddFurther(int slot, const std::string& resource);
-    std::string Message(Status status, bool logged);
+    using ErrorMember = std::string sensors::SensorPresence::*;
+    struct Words {
+        std::string message;
+        std::string query;
+    };
+
+    CallResult OpenFirst(const std::string& resource);
+    CallResult AddFurther(int slot, const std::string& resource);
+    void GiveUpOpening(int slot, const CallResult& failed);
+    Words LogFailure(const CallResult& failed);
+    void ReportCall(const CallResult& result, int slot, const char* what, ErrorMember error);
+    void TellFailed(int slot);
+    std::string CallMessage(const CallResult& failed);
     // The sensor's own words, an entry of its error queue.
-    std::string Query(Status status, bool logged);
-    template <class Call>
-    void Framed(bool logged, const OperationBase& operation, Status status, Call call);
-    // Shows a failed status to the user; true when it was one. ReconnectPrompt follows from the
-    // words.
-    bool CheckStatus(Status status, int slot);
+    std::string CallQuery();
 
     sensors::SensorTable& table_;
     platform::Clock& clock_;

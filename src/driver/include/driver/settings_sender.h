@@ -12,26 +12,34 @@ constexpr const char* Unchecked = nullptr;
 
 class SettingsSender {
 public:
-    SettingsSender(Session& session, int slot) : session_(session), slot_(slot) {}
+    SettingsSender(Session& session, int slot, TransferPace* pace)
+        : session_(session), slot_(slot), pace_(pace) {}
+
+    // False once the pace has ended the transfer: the settings after that were not sent.
+    bool Complete() const { return goesOn_; }
 
     template <class... Parameters, class... Values>
     void operator()(const Operation<Handle, Channel, Parameters...>& operation, const char* label,
                     Values... values) {
-        Send(LogForm::General, operation, label, values...);
+        Send(log_form::General, operation, label, values...);
     }
 
     template <class... Parameters, class... Values>
-    void Send(LogForm form, const Operation<Handle, Channel, Parameters...>& operation,
+    void Send(const LogForm& form, const Operation<Handle, Channel, Parameters...>& operation,
               const char* label, Values... values) {
-        const Status status =
+        if (!goesOn_) return;
+        const CallResult result =
             FramedCall(session_.log, form, operation, session_.state.instrumentHandle,
                        ChannelOf(slot_), values...);
-        if (label != Unchecked) session_.ReportError(status, slot_, label);
+        if (label != Unchecked) session_.ReportError(result, slot_, label);
+        goesOn_ = pace_ == nullptr || pace_->GoesOn();
     }
 
 private:
     Session& session_;
     int slot_;
+    TransferPace* pace_;
+    bool goesOn_ = true;
 };
 
 }  // namespace kelvra::driver

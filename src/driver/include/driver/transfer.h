@@ -12,15 +12,22 @@ public:
     ConfigurationTransfer(Session& session, sensors::SensorTable& table, const SessionNews& news)
         : session_(session), table_(table), news_(news) {}
 
-    // Sends the slot's settings and clears its SettingsChanged, whatever the driver said; at the
-    // end the errors of the transfer are shown, or the error strip is cleared. Never in simulation
-    // mode.
+    // Asked after each call; none of its own without one.
+    void SetPace(TransferPace& pace) { pace_ = &pace; }
+
+    // Sends the slot's settings and clears its settingsChanged, even if calls fail. At the end the
+    // errors of the transfer are reported once more, or that the sensor is well. A transfer that
+    // the pace has ended leaves the settings changed. Never in simulation mode.
     void ConfigureSensor(int slot);
 
 private:
+    bool Send(int slot);
+    void ReportOutcome(int slot);
+
     Session& session_;
     sensors::SensorTable& table_;
     const SessionNews& news_;
+    TransferPace* pace_ = nullptr;
 };
 
 }  // namespace kelvra::driver

@@ -32,7 +32,7 @@ struct CycleParts {
     const News& news;
 };
 
-class Cycle {
+class Cycle final : public driver::TransferPace {
 public:
     explicit Cycle(const CycleParts& parts);
 
@@ -43,6 +43,9 @@ public:
 
     // Ends the measurement, and a recording, at the cycle's next look; the program is idle at once.
     void Stop();
+
+    // A transfer ends early when the measurement is to end.
+    bool GoesOn() override;
 
 private:
     enum class Opened { All, None, Failed, Ended };
@@ -70,7 +73,7 @@ private:
     void Poll(platform::Duration began);
     bool PollSlot(int slot, platform::Duration now);
     bool AskWhetherComplete(int slot, platform::Duration now);
-    void TellAwaited(int slot, driver::Status status, platform::Duration now);
+    void TellAwaited(int slot, const driver::CallResult& result, platform::Duration now);
     void Fetch();
     void FetchSlot(int slot);
     void Close();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fetches results from the driver, or from the simulation, and stores them in the sensor's entry.
-// Statuses are not looked at: what the driver leaves in the output is the reading, as it is.
+// What the driver leaves in the output is the reading, as it is; a failing fetch is the sensor's
+// error as well.
 #pragma once
 
 #include "driver/session.h"

@@ -35,12 +35,17 @@ struct SensorPresence {
     std::vector<ReadingRing> slotStats{};  // one for each time slot
     std::int32_t avgCountRead = 0;
     bool settingsChanged = false;
-    std::string lastErrorText{};
+    std::string lastErrorText{};  // of its opening and its last transfer
+    std::string initiateError{};  // empty: the last call was good; likewise the next
+    std::string fetchError{};
     bool triggerNowRequest = false;
 };
 
 // The model, "PS-101": of a simulated sensor, which has no id, its resource says it.
 std::string_view TypeOf(const SensorPresence& sensor);
+
+// All that is wrong with the sensor, empty when nothing is; no line break at the end.
+std::string ErrorOf(const SensorPresence& sensor);
 
 struct SensorEntry : SensorPresence {
     SensorSettings settings = DefaultSettings();  // until the next sensor's are read
