@@ -121,7 +121,10 @@ RunningConsole::End RunScript(const std::string& script,
 TEST(Script, TakesAnyBytesLineByLine) {
     using namespace std::string_literals;
     const std::string longText(100'000, 'x');
-    const std::pair<std::string, std::string> cases[] = {
+    const struct {
+        std::string script;
+        std::string output;
+    } cases[] = {
         {"", ""},
         {"echo a\r\necho b\r\n", "a\nb\n"},
         {"\n\r\n   \n# echo c\n  # echo d\n  echo  e \n", " e \n"},

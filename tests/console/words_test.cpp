@@ -81,13 +81,18 @@ TEST(JsonLine, PutsCommasAndBracketsWhereTheyBelong) {
 }
 
 TEST(JsonLine, ValuesReadBackTheSameAndWhatIsNotFiniteIsNull) {
-    const std::pair<double, const char*> numbers[] = {{0, "0"},          {-0.5, "-0.5"},
-                                                      {1e300, "1e+300"}, {5e-324, "5e-324"},
-                                                      {NAN, "null"},     {-INFINITY, "null"}};
+    const struct {
+        double value;
+        const char* text;
+    } numbers[] = {{0, "0"},           {-0.5, "-0.5"}, {1e300, "1e+300"},
+                   {5e-324, "5e-324"}, {NAN, "null"},  {-INFINITY, "null"}};
     for (const auto& [value, text] : numbers) EXPECT_EQ(JsonLine().Value(value).Text(), text);
     EXPECT_EQ(JsonLine().Value(INT64_MIN).Text(), "-9223372036854775808");
     EXPECT_EQ(JsonLine().Colour(controls::DarkBlue).Text(), "\"#0000C0\"");
-    const std::pair<std::string, std::string> texts[] = {
+    const struct {
+        std::string text;
+        std::string quoted;
+    } texts[] = {
         {R"(a"b\c/)", R"("a\"b\\c/")"},
         {"\t\r\n", R"("\t\r\n")"},
         {std::string("\0\x1f\x7f", 3), "\"\\u0000\\u001F\x7f\""},
