@@ -129,19 +129,19 @@ void Act(app::Kelvra& kelvra, Input& input) {
             window.StartIt.Press();
             break;
         case 3:
-            entry.SettingsChanged = true;
+            entry.settingsChanged = true;
             break;
         case 4:
-            entry.TriggerNowRequest = true;
+            entry.triggerNowRequest = true;
             break;
         case 5:
-            entry.Settings.Mode = input.Take<std::int32_t>() % 6;
+            entry.settings.Mode = input.Take<std::int32_t>() % 6;
             break;
         case 6:
-            entry.Settings.TSlotCount = input.Take<std::int16_t>();
+            entry.settings.TSlotCount = input.Take<std::int16_t>();
             break;
         case 7:
-            kelvra.forms.statusForm.ResultGrid.Click.Raise(input.Take<std::uint8_t>() % 12, 0);
+            kelvra.forms.statusForm.ResultGrid.click.Raise(input.Take<std::uint8_t>() % 12, 0);
             break;
         default:
             break;

@@ -17,7 +17,7 @@ struct Options {
     std::optional<platform::LocalTime> clock;  // Kelvra's own clock starts there
     std::optional<std::uint64_t> seed;
     bool echo = false;               // where the program says it has scripts
-    std::vector<std::string> words;  // whatever no option took
+    std::vector<std::string> words;  // those that are no option
 };
 
 // What a program says of itself.
