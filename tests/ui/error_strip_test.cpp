@@ -7,7 +7,7 @@ namespace kelvra::ui {
 
 class ErrorStripTest : public testing::Test, public test::WholeKelvra {
 protected:
-    std::string Strip() const { return program->forms.setupForm.lblInputError.caption; }
+    std::string Strip() const { return program->forms.setupForm.lblInputError.caption.Get(); }
     int Height() const { return program->forms.setupForm.Frame1.place->height; }
     bool NoticeVisible() const { return program->forms.mdiMain.ConnectedFrame.visible; }
 };
@@ -65,9 +65,10 @@ TEST_F(ErrorStripTest, ARefusedHandleIsRecoveredFromOnceInAStart) {
             for (const char* name : {"psdrv_chan_reset", "psdrv_init", "psdrv_close"})
                 EXPECT_EQ(driver.Count(name), transfers) << message << start << name;
             EXPECT_EQ(driver.Count("psdrv_chans_initiate") > 0, transfers == 1) << message;
-            EXPECT_EQ(Notice().starts_with("Sensor A had lost its session. The measurement has ended. "
-                                           "The sensor answers again."),
-                      transfers == 2 && !always);
+            EXPECT_EQ(
+                Notice().starts_with("Sensor A had lost its session. The measurement has ended. "
+                                     "The sensor answers again."),
+                transfers == 2 && !always);
             EXPECT_TRUE(program->forms.mdiMain.StartIt.enabled);
         }
     }
