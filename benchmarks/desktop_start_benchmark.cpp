@@ -62,6 +62,7 @@ Start Measure(const char* which) {
 
 double Median(const std::vector<Start>& starts, double Start::*figure) {
     std::vector<double> values;
+    values.reserve(starts.size());
     for (const Start& start : starts) values.push_back(start.*figure);
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];

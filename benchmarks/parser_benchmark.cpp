@@ -18,7 +18,7 @@ using kelvra::parser::MathParser;
 std::string Polynomial() {
     std::string polynomial = "1.5";
     for (int i = 0; i < 20; ++i)
-        polynomial = "(" + polynomial + ")*X1W+" + std::to_string(i % 7) + ".25";
+        polynomial.insert(0, "(").append(")*X1W+").append(std::to_string(i % 7)).append(".25");
     return polynomial;
 }
 

@@ -2,8 +2,7 @@
 // What the system counts for this process.
 #pragma once
 
-#include <time.h>
-
+#include <ctime>
 #include <fstream>
 #include <string>
 
@@ -11,7 +10,7 @@ namespace kelvra::benchmarks {
 
 // Seconds of a core, of all threads.
 inline double ProcessorTime() {
-    timespec used{};
+    std::timespec used{};
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
     return static_cast<double>(used.tv_sec) + 1e-9 * static_cast<double>(used.tv_nsec);
 }

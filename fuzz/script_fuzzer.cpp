@@ -50,9 +50,9 @@ private:
 };
 
 std::FILE* Nowhere() {
-    static std::FILE* const nowhere = std::fopen("/dev/null", "w");
-    if (nowhere == nullptr) std::abort();
-    return nowhere;
+    static std::FILE* const NullDevice = std::fopen("/dev/null", "w");
+    if (NullDevice == nullptr) std::abort();
+    return NullDevice;
 }
 
 }  // namespace

@@ -91,11 +91,7 @@ int Run(QApplication& application, const options::Options& chosen) {
 int main(int argc, char** argv) {
     const options::Parsed parsed =
         options::Parse(argc, argv, {"kelvra", "Kelvra operates several USB power sensors.", ""});
-    if (!parsed.options) {
-        std::FILE* where = parsed.exitStatus == 0 ? stdout : stderr;
-        std::fwrite((parsed.message + "\n").data(), 1, parsed.message.size() + 1, where);
-        return parsed.exitStatus;
-    }
+    if (!parsed.options) return options::Report(parsed);
     if (!DisplayIsNamed()) {
         Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
         return NoDisplay;

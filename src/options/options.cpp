@@ -4,9 +4,12 @@
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <chrono>
+#include <cstdio>
 #include <string_view>
 
+#include "options/version.h"
 #include "util/number_reading.h"
+#include "util/text.h"
 
 namespace kelvra::options {
 
@@ -44,6 +47,12 @@ Parsed Wrong(const Program& program, const std::string& why) {
     return {std::nullopt, WrongUsage, name + ": " + why + "; see " + name + " --help"};
 }
 
+// "kelvra 1.2.3"
+std::string VersionText(const Program& program) {
+    return std::string(program.name) + ' ' + std::to_string(Version.major) + '.' +
+           std::to_string(Version.minor) + '.' + std::to_string(Version.revision);
+}
+
 }  // namespace
 
 Parsed Parse(int argc, const char* const* argv, const Program& program) {
@@ -51,16 +60,23 @@ Parsed Parse(int argc, const char* const* argv, const Program& program) {
     std::string clock;
     std::string seed;
     CLI::App app(program.description, program.name);
-    app.add_option("--driver-dir", options.driverDir, "folder with the two driver libraries");
-    app.add_option("--data-dir", options.dataDir, "folder of settings, log and registry");
+    app.add_option("--driver-dir", options.driverDir, "folder with the two driver libraries")
+        ->type_name("DIR");
+    app.add_option("--data-dir", options.dataDir, "folder of settings, log and names")
+        ->type_name("DIR");
     auto* clockOption = app.add_option("--clock", clock, "own clock: \"YYYY-MM-DD HH:MM:SS\"");
+    clockOption->type_name("START");
     auto* seedOption = app.add_option("--seed", seed, "seed of the random numbers");
+    seedOption->type_name("N");
     if (program.hasScript)
         app.add_flag("--echo", options.echo, "write each command before it is carried out");
     app.allow_extras();
+    app.set_version_flag("--version", VersionText(program), "print the version and exit");
     app.footer(program.footer);
     try {
         app.parse(argc, argv);
+    } catch (const CLI::CallForVersion& version) {
+        return {std::nullopt, 0, version.what()};
     } catch (const CLI::Success&) {
         return {std::nullopt, 0, app.help()};
     } catch (const CLI::ParseError& error) {
@@ -78,6 +94,14 @@ Parsed Parse(int argc, const char* const* argv, const Program& program) {
     for (const std::string& word : options.words)
         if (word.starts_with("--")) return Wrong(program, "unknown option " + word);
     return {std::move(options), 0, {}};
+}
+
+int Report(const Parsed& ended) {
+    std::FILE* file = ended.exitStatus == 0 ? stdout : stderr;
+    const std::string line = util::ShownText(ended.message) + "\n";
+    const bool written =
+        std::fwrite(line.data(), 1, line.size(), file) == line.size() && std::fflush(file) == 0;
+    return written || ended.exitStatus != 0 ? ended.exitStatus : NotWritten;
 }
 
 }  // namespace kelvra::options

@@ -24,7 +24,7 @@ protected:
             driver.devices.push_back({{name}, "PS-101", {name}, name == '.' ? 0 : 1});
     }
     void Switch(int slot) { program->forms.statusForm.ResultGrid.click.Raise(slot + 1, 0); }
-    std::string Connection() const { return program->forms.mdiMain.ConSensors.caption; }
+    std::string Connection() const { return program->forms.mdiMain.ConSensors.caption.Get(); }
 };
 
 TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {

@@ -61,7 +61,7 @@ Json TextOf(const std::string& bytes) {
 
 std::string BytesOfHex(const Json& json) {
     Check(json.is_string(), "initial_hex is neither a string nor null");
-    const std::string& hex = json.get_ref<const std::string&>();
+    const auto& hex = json.get_ref<const std::string&>();
     Check(hex.size() % 2 == 0, "initial_hex has half a byte");
     std::string bytes;
     for (std::size_t i = 0; i < hex.size(); ++i) {

@@ -66,7 +66,7 @@ struct WholeKelvra {
     const controls::Grid::Cell& Cell(int slot, int column) const {
         return program->forms.statusForm.ResultGrid.At(slot + 1, column);
     }
-    std::string Notice() const { return program->forms.mdiMain.lblMeasAwait.caption; }
+    std::string Notice() const { return program->forms.mdiMain.lblMeasAwait.caption.Get(); }
 };
 
 }  // namespace kelvra::test

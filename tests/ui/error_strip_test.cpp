@@ -7,7 +7,7 @@ namespace kelvra::ui {
 
 class ErrorStripTest : public testing::Test, public test::WholeKelvra {
 protected:
-    std::string Strip() const { return program->forms.setupForm.lblInputError.caption; }
+    std::string Strip() const { return program->forms.setupForm.lblInputError.caption.Get(); }
     int Height() const { return program->forms.setupForm.Frame1.place->height; }
     bool NoticeVisible() const { return program->forms.mdiMain.ConnectedFrame.visible; }
 };

@@ -17,7 +17,7 @@ struct Options {
     std::optional<platform::LocalTime> clock;  // Kelvra's own clock starts there
     std::optional<std::uint64_t> seed;
     bool echo = false;               // where the program says it has scripts
-    std::vector<std::string> words;  // whatever no option took
+    std::vector<std::string> words;  // those that are no option
 };
 
 // What a program says of itself.
@@ -28,15 +28,20 @@ struct Program {
     bool hasScript = false;   // takes --echo
 };
 
+constexpr int NotWritten = 1;
 constexpr int WrongUsage = 2;
 
 struct Parsed {
     std::optional<Options> options;  // nothing: the program ends with `exitStatus`
     int exitStatus = 0;
-    std::string message;  // help, or what is wrong
+    std::string message;  // help, the version, or what is wrong
 };
 
 // A word may begin with "-" ("-DEBUG"), an unknown option ("--debug") is wrong usage.
 Parsed Parse(int argc, const char* const* argv, const Program& program);
+
+// Writes the message of a program that ends here: help and version to standard output, what is
+// wrong to standard error. Gives the exit status, NotWritten for an output that takes nothing.
+int Report(const Parsed& ended);
 
 }  // namespace kelvra::options

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a run stands on besides its front end: the computer's files and libraries, and the clock and
+// What a run needs besides its front end: the computer's files and libraries, and the clock and
 // the random numbers that the command line has chosen.
 #pragma once
 
