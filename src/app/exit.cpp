@@ -9,7 +9,19 @@ void Kelvra::SaveSettings() {
 }
 
 void Kelvra::Exit() {
+    if (!state.exiting) EndEverything();
+    host.events.Quit();
+}
+
+void Kelvra::ExitAsAsked() {
     if (state.exiting) return;
+    EndEverything();
+    if (!store.SaveFailure().empty())
+        host.dialogs.Message({}, store.SaveFailure(), platform::MessageIcon::Exclamation);
+    host.events.Quit();
+}
+
+void Kelvra::EndEverything() {
     if (state.measuring) cycle.Stop();
     state.exiting = true;
     if (!table.simulationMode) driverSession.Close();
@@ -17,7 +29,6 @@ void Kelvra::Exit() {
     const sensors::TableLock lock(table);
     for (sensors::SensorEntry* entry : table.Present()) sensors::ReleaseSlot(*entry);
     catalogue.Close();
-    host.events.Quit();
 }
 
 }  // namespace kelvra::app
