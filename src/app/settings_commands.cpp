@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings_commands.h"
 
+#include <filesystem>
+
+#include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
 
@@ -30,6 +33,10 @@ void SettingsCommands::LoadSensorSettings() {
     }
     sensors::TransferSettings(table_[table_.currentSensor].settings, file.Text(), Stem,
                               sensors::Transfer::Read);
+    if (!sensors::HasSettings(file.Text(), Stem))
+        host_.dialogs.Message(
+            {}, "The file has no sensor settings. The defaults have been set.\r\n" + *path,
+            platform::MessageIcon::Exclamation);
 }
 
 void SettingsCommands::SaveSensorSettings() {
@@ -40,9 +47,17 @@ void SettingsCommands::SaveSensorSettings() {
     question.save = true;
     const auto path = AskFile(question);
     if (!path) return;
-    const std::error_code error = sensors::TransferSettings(
-        table_[table_.currentSensor].settings, host_.files, *path, Stem, sensors::Transfer::Write);
-    if (error) Tell("saved", *path, error);
+    if (const auto error = Save(*path)) Tell("saved", *path, error);
+}
+
+// Where Kelvra's own files are, others may be changing them.
+std::error_code SettingsCommands::Save(const std::string& path) {
+    std::optional<platform::FolderLock> lock;
+    const std::string folder = host_.computer.ProgramFolder();
+    if (std::filesystem::path(path).parent_path() == folder) lock.emplace(host_.files, folder);
+    if (lock && lock->Error()) return lock->Error();
+    return sensors::TransferSettings(table_[table_.currentSensor].settings, host_.files, path, Stem,
+                                     sensors::Transfer::Write);
 }
 
 // Events run while the dialog is open: the sensor may be another one afterwards.

@@ -20,7 +20,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       displayLists(forms, table),
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
-      sensorName(forms, table, host, results, selection, lists) {}
+      sensorName(forms, table, host, results, selection, lists, notice) {}
 
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :

@@ -96,6 +96,7 @@ public:
     util::NumberForm numbers{".", ","};
     std::map<std::string, FunctionTable> libraries;  // by plain name; others are not found
     std::vector<std::string> registry;               // "key|name|value"
+    std::error_code registryError;                   // of a write
 
     std::string ProgramFolder() override { return folder; }
     std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
@@ -111,9 +112,12 @@ public:
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
         return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
     }
-    void WriteRegistry(Text key, Text name, Text value) override {
-        registry.push_back(key + "|" + name + "|" + value);
+    std::error_code WriteRegistry(Text key, Text name, Text value) override {
+        if (!registryError) registry.push_back(key + "|" + name + "|" + value);
+        return registryError;
     }
+    std::optional<std::string> ReadRegistry(Text, Text) override { return std::nullopt; }
+    std::optional<std::string> OwnRegistry() override { return Join(folder, "registry.ini"); }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 

@@ -38,8 +38,11 @@ public:
     LoadedLibrary LoadDriverLibrary(const std::string& name) override;
 
     // A section for each key, in "registry.ini" of the data folder.
-    void WriteRegistry(const std::string& key, const std::string& name,
-                       const std::string& value) override;
+    std::error_code WriteRegistry(const std::string& key, const std::string& name,
+                                  const std::string& value) override;
+    std::optional<std::string> ReadRegistry(const std::string& key,
+                                            const std::string& name) override;
+    std::optional<std::string> OwnRegistry() override { return registryPath_; }
 
     // A usual size; a front end that has a screen knows better.
     ScreenSize Screen() override;
@@ -47,6 +50,7 @@ public:
 private:
     Files& files_;
     std::string dataDir_;
+    std::string registryPath_;
     std::vector<std::string> driverFolders_;  // absolute, in the order of the search
     std::string commandLine_;
     ProgramVersion version_;
