@@ -3,9 +3,11 @@
 
 #include "console/console.h"
 #include "console/output.h"
+#include "platform/native.h"
 
 int main(int argc, char** argv) {
     using namespace kelvra;
+    platform::HoldStandardStreams();
     const options::Parsed parsed =
         options::Parse(argc, argv,
                        {"kelvra-console", "Kelvra without a display, driven by a script.",
