@@ -48,6 +48,20 @@ public:
         return {};
     }
     std::error_code CopyPermissions(const std::string&, Handle) override { return {}; }
+    std::error_code List(const std::string&, std::vector<std::string>& names) override {
+        for (const auto& [path, content] : bytes) names.push_back(path);
+        return {};
+    }
+    std::error_code Lock(const std::string&, LockKind, Handle& handle) override {
+        handle = ++lastHandle_;
+        return {};
+    }
+    void Unlock(Handle) override {}
+    std::optional<std::uint64_t> Size(const std::string& path) override {
+        const auto file = bytes.find(path);
+        if (file == bytes.end()) return std::nullopt;
+        return file->second.size();
+    }
     std::string ResolveLinks(const std::string& path) override { return path; }
     bool Exists(const std::string& path) override { return bytes.contains(path); }
     bool Writable(const std::string&) override { return true; }

@@ -9,15 +9,26 @@ void Kelvra::SaveSettings() {
 }
 
 void Kelvra::Exit() {
+    if (!state.exiting) EndEverything();
+    host.events.Quit();
+}
+
+void Kelvra::ExitAsAsked() {
     if (state.exiting) return;
+    EndEverything();
+    if (!store.SaveFailure().empty())
+        host.dialogs.LastMessage(store.SaveFailure());
+    host.events.Quit();
+}
+
+void Kelvra::EndEverything() {
     if (state.measuring) cycle.Stop();
     state.exiting = true;
-    if (!table.simulationMode) driverSession.Close();
+    driverSession.Close();
     SaveSettings();
     const sensors::TableLock lock(table);
     for (sensors::SensorEntry* entry : table.Present()) sensors::ReleaseSlot(*entry);
     catalogue.Close();
-    host.events.Quit();
 }
 
 }  // namespace kelvra::app

@@ -19,8 +19,8 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
       settingsCommands_(forms, table, modes, windows.enabling, host) {
     Subscribe();
-    forms.mdiMain.MFileExit.click.Connect([this] { Exit(); });
-    forms.mdiMain.closeRequest.Connect([this] { Exit(); });
+    forms.mdiMain.MFileExit.click.Connect([this] { ExitAsAsked(); });
+    forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
 }
 
 // The recovery comes last: the windows have shown what it acts on.

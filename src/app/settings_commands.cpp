@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings_commands.h"
 
+#include <filesystem>
 #include <optional>
 #include <utility>
 
+#include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
 
@@ -40,6 +42,10 @@ void SettingsCommands::Load(const std::string& path) {
         modes_.Find();
     }
     enabling_.Refresh();
+    if (!sensors::HasSettings(file.Text(), Stem))
+        host_.dialogs.Message(
+            {}, "The file has no sensor settings. The defaults have been set.\r\n" + path,
+            platform::MessageIcon::Exclamation);
 }
 
 void SettingsCommands::SaveSensorSettings() {
@@ -52,9 +58,17 @@ void SettingsCommands::SaveSensorSettings() {
 }
 
 void SettingsCommands::Save(const std::string& path) {
-    const std::error_code error = sensors::TransferSettings(
-        table_[table_.currentSensor].settings, host_.files, path, Stem, sensors::Transfer::Write);
-    if (error) Complain("saved", path, error);
+    if (const std::error_code error = Write(path)) Complain("saved", path, error);
+}
+
+// Where Kelvra's own files are, others may be changing them.
+std::error_code SettingsCommands::Write(const std::string& path) {
+    std::optional<platform::FolderLock> lock;
+    const std::string folder = host_.computer.ProgramFolder();
+    if (std::filesystem::path(path).parent_path() == folder) lock.emplace(host_.files, folder);
+    if (lock && lock->Error()) return lock->Error();
+    return sensors::TransferSettings(table_[table_.currentSensor].settings, host_.files, path, Stem,
+                                     sensors::Transfer::Write);
 }
 
 void SettingsCommands::AskFile(const platform::FileQuestion& question,

@@ -22,9 +22,34 @@ std::string Stem(std::string sensorId) {
 
 }  // namespace
 
+void SettingsStore::Open(platform::Computer& computer) {
+    folder_ = computer.ProgramFolder();
+    iniPath_ = computer.Join(folder_, "Kelvra.INI");
+    use_.Begin(folder_);
+    ShowUse();
+}
+
+// Whoever found the folder free does not mind others.
+void SettingsStore::LookForOthers() {
+    if (!use_.Shared() && !use_.Error()) return;
+    use_.LookAgain();
+    ShowUse();
+}
+
+void SettingsStore::ShowUse() {
+    std::string text;
+    if (use_.Error())
+        text = "The data folder can't be locked: " + folder_ + ": " + use_.Error().message();
+    else if (use_.Shared())
+        text = "Another Kelvra is using the data folder: " + folder_;
+    if (text.empty()) return notice_.EndFileTrouble(folder_);
+    notice_.ShowFileTrouble(folder_, text);
+    log_.Write(text);
+}
+
 void SettingsStore::ReadSlots(sensors::SensorTable& table) {
-    platform::ProfileFile file(files_, iniPath);
-    if (file.LoadError()) Tell("read", file.LoadError());
+    platform::ProfileFile file(files_, iniPath_);
+    NoteLoad(file);
     for (int slot = 0; slot < table.Slots(); ++slot)
         sensors::TransferSettings(table[slot].settings, file.Text(),
                                   "SENS" + util::TrimmedNumberText(std::int64_t{slot + 1}),
@@ -33,41 +58,85 @@ void SettingsStore::ReadSlots(sensors::SensorTable& table) {
 
 void SettingsStore::Read(const std::vector<sensors::SensorEntry*>& entries) {
     if (entries.empty()) return;
-    platform::ProfileFile file(files_, iniPath);
-    if (file.LoadError()) Tell("read", file.LoadError());
+    LookForOthers();
+    platform::ProfileFile file(files_, iniPath_);
+    NoteLoad(file);
     for (sensors::SensorEntry* entry : entries) {
-        if (const auto kept = unsaved_.find(entry->sensorId); kept != unsaved_.end()) {
-            entry->settings = kept->second;
-            continue;
+        Kept& kept = kept_[entry->sensorId];
+        if (!kept.unsaved && !file.LoadError()) {
+            sensors::TransferSettings(kept.inFile, file.Text(), Stem(entry->sensorId),
+                                      Transfer::Read);
+            kept.read = true;
         }
-        sensors::TransferSettings(entry->settings, file.Text(), Stem(entry->sensorId),
-                                  Transfer::Read);
-        if (file.LoadError())
-            unread_.insert(entry->sensorId);
-        else
-            unread_.erase(entry->sensorId);
+        entry->settings = kept.unsaved.value_or(kept.inFile);
     }
 }
 
-void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
-    for (sensors::SensorEntry* entry : entries)
-        if (!entry->sensorId.empty() && !unread_.contains(entry->sensorId))
-            unsaved_.insert_or_assign(entry->sensorId, entry->settings);
-    if (unsaved_.empty()) return;
-    platform::ProfileFile file(files_, iniPath);
-    for (auto& [sensorId, settings] : unsaved_)
-        sensors::TransferSettings(settings, file.Text(), Stem(sensorId), Transfer::Write);
-    const std::error_code error = file.Save();
-    saveFailure_ = error ? Tell("saved", error) : std::string();
-    if (!error) unsaved_.clear();
+void SettingsStore::NoteLoad(const platform::ProfileFile& file) {
+    loadFailure_ = file.LoadError() ? Complaint("read", file.LoadError().message()) : std::string();
+    ShowTrouble();
 }
 
-std::string SettingsStore::Tell(const char* what, const std::error_code& error) {
-    const std::string text =
-        std::string("The settings could not be ") + what + ": " + iniPath + ": " + error.message();
-    notice_.ShowFileTrouble(iniPath, text);
+void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
+    for (const sensors::SensorEntry* entry : entries)
+        if (!entry->sensorId.empty()) Keep(entry->sensorId, entry->settings);
+    saveFailure_ = HasUnsaved() ? WriteUnsaved() : std::string();
+    ShowTrouble();
+}
+
+void SettingsStore::Keep(const std::string& sensorId, sensors::SensorSettings settings) {
+    Kept& kept = kept_[sensorId];
+    settings.ContMeas = false;  // which no file has
+    // Settings that were never read and never changed are nothing to save.
+    if (kept.read || settings != kept.inFile)
+        kept.unsaved = settings;
+    else
+        kept.unsaved.reset();
+}
+
+bool SettingsStore::HasUnsaved() const {
+    return std::any_of(kept_.begin(), kept_.end(),
+                       [](const auto& sensor) { return sensor.second.unsaved.has_value(); });
+}
+
+std::string SettingsStore::WriteUnsaved() {
+    LookForOthers();
+    if (const auto error = Write()) return Complaint("saved", error.message());
+    for (auto& [sensorId, kept] : kept_) {
+        if (!kept.unsaved) continue;
+        if (!kept.read)
+            return Complaint("saved", "those of " + sensorId +
+                                          " in the file could not be read before, and would be "
+                                          "lost");
+        kept.inFile = *std::exchange(kept.unsaved, {});
+    }
+    return {};
+}
+
+std::error_code SettingsStore::Write() {
+    const platform::FolderLock lock(files_, folder_);
+    if (lock.Error()) return lock.Error();
+    platform::ProfileFile file(files_, iniPath_);
+    if (file.LoadError()) return file.LoadError();
+    loadFailure_.clear();
+    for (const auto& [sensorId, kept] : kept_)
+        if (kept.unsaved && kept.read)
+            sensors::WriteChanges(*kept.unsaved, kept.inFile, file.Text(), Stem(sensorId));
+    return file.Save();
+}
+
+std::string SettingsStore::Complaint(const std::string& what, const std::string& why) {
+    std::string text = "The settings could not be " + what + ": " + iniPath_ + ": " + why;
     log_.Write(text);
     return text;
+}
+
+void SettingsStore::ShowTrouble() {
+    const std::string& text = saveFailure_.empty() ? loadFailure_ : saveFailure_;
+    if (text.empty())
+        notice_.EndFileTrouble(iniPath_);
+    else
+        notice_.ShowFileTrouble(iniPath_, text);
 }
 
 }  // namespace kelvra::app

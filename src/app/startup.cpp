@@ -35,7 +35,7 @@ void Kelvra::Start() {
     StartDebugLog();
     library.Load(host.computer, log);
     forms.mdiMain.caption = Title();
-    store.iniPath = host.computer.Join(host.computer.ProgramFolder(), "Kelvra.INI");
+    store.Open(host.computer);
     host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
     forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();

@@ -245,9 +245,14 @@ CommandError Wait(CommandContext& c, std::string_view rest) {
         return std::nullopt;
     }
     const auto count = WholeNumber(TakeWord(rest), 0, most);
-    if (!count || (what != "passes" && what != "ms"))
-        return "wait passes N, wait ms N or wait idle";
-    if (what == "passes") return c.waiting.ForPasses(*count);
+    const std::string_view limitText = TakeWord(rest);
+    const auto limit = WholeNumber(limitText, 0, most);
+    const bool wellFormed = count && (what == "ms" ? limitText.empty() : what == "passes") &&
+                            (limit || limitText.empty()) && TakeWord(rest).empty();
+    if (!wellFormed) return "wait passes N [MS], wait ms N or wait idle";
+    if (what == "passes")
+        return c.waiting.ForPasses(
+            *count, limit ? std::optional(std::chrono::milliseconds(*limit)) : std::nullopt);
     c.waiting.ForTime(std::chrono::milliseconds(*count));
     return std::nullopt;
 }

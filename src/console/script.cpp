@@ -31,8 +31,11 @@ bool Script::Step(platform::Duration patience) {
         case Waiting::Look::Wait:
             if (!p_.ownClock) p_.clock.Sleep(patience);
             return false;
-        case Waiting::Look::Failed:
+        case Waiting::Look::Ended:
             Fail("the measurement ended before the passes were complete");
+            return true;
+        case Waiting::Look::TimedOut:
+            Fail("the time ran out before the passes were complete");
             return true;
         case Waiting::Look::GoOn:
             break;
@@ -54,7 +57,8 @@ bool Script::Step(platform::Duration patience) {
             return true;
         case LineInput::Result::TooLong:
             ++lineNumber_;
-            Fail("the line is too long");
+            Fail("the line is longer than " +
+                 util::TrimmedNumberText(std::int64_t{LineInput::LongestLine >> 20}) + " MiB");
             return true;
         case LineInput::Result::Failed:
             ++lineNumber_;

@@ -3,10 +3,12 @@
 
 namespace kelvra::console {
 
-std::optional<std::string> Waiting::ForPasses(std::int64_t passes) {
+std::optional<std::string> Waiting::ForPasses(std::int64_t passes,
+                                              std::optional<platform::Duration> limit) {
     if (!MeasurementRuns()) return "no measurement runs";
     kind_ = Kind::Passes;
     passes_ = state_.passes + passes;
+    until_ = limit ? std::optional(clock_.Monotonic() + *limit) : std::nullopt;
     return std::nullopt;
 }
 
@@ -15,32 +17,40 @@ void Waiting::ForTime(platform::Duration time) {
     until_ = clock_.Monotonic() + time;
 }
 
+void Waiting::ForIdle() {
+    kind_ = Kind::Idle;
+    until_.reset();
+}
+
 Waiting::Look Waiting::At() {
-    bool reached = true;
+    Look look = Look::GoOn;
     switch (kind_) {
         case Kind::Nothing:
             break;
         case Kind::Passes:
-            reached = state_.passes >= passes_;
-            if (!reached && !MeasurementRuns()) {
-                kind_ = Kind::Nothing;
-                return Look::Failed;
-            }
+            look = AtPasses();
             break;
         case Kind::Time:
-            reached = clock_.Monotonic() >= until_;
+            if (!TimeIsUp()) look = Look::Wait;
             break;
         case Kind::Idle:
-            reached = !state_.commandRuns;
+            if (state_.commandRuns) look = Look::Wait;
             break;
     }
-    if (!reached) return Look::Wait;
+    if (look == Look::Wait) return look;
     kind_ = Kind::Nothing;
-    return Look::GoOn;
+    until_.reset();
+    return look;
 }
 
-std::optional<platform::Duration> Waiting::WakesAt() const {
-    return kind_ == Kind::Time ? std::optional(until_) : std::nullopt;
+Waiting::Look Waiting::AtPasses() const {
+    if (state_.passes >= passes_) return Look::GoOn;
+    if (!MeasurementRuns()) return Look::Ended;
+    return TimeIsUp() ? Look::TimedOut : Look::Wait;
+}
+
+bool Waiting::TimeIsUp() const {
+    return until_ && clock_.Monotonic() >= *until_;
 }
 
 }  // namespace kelvra::console

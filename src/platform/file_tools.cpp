@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/file_tools.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -10,6 +11,9 @@
 namespace kelvra::platform {
 
 namespace {
+
+constexpr std::string_view TemporaryPrefix = "kelvra-";
+constexpr std::string_view TemporarySuffix = ".tmp";
 
 constexpr std::size_t ChunkSize = std::size_t{64} << 10;
 
@@ -50,12 +54,22 @@ std::error_code CreateBeside(Files& files, const std::string& target, std::strin
     std::error_code error;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const auto number = static_cast<std::uint32_t>(ticks + attempt);
-        const std::string name = "kelvra-" + util::HexText(number) + ".tmp";
+        std::string name(TemporaryPrefix);
+        name.append(util::HexText(number)).append(TemporarySuffix);
         path = std::filesystem::path(target).replace_filename(name).string();
         error = files.Open(path, Files::Mode::Create, handle);
         if (error != std::errc::file_exists) break;
     }
     return error;
+}
+
+// Whether CreateBeside gives such names.
+bool IsTemporary(std::string_view name) {
+    if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) return false;
+    name.remove_prefix(TemporaryPrefix.size());
+    name.remove_suffix(std::min(TemporarySuffix.size(), name.size()));
+    return !name.empty() && name.size() <= 8 &&
+           name.find_first_not_of("0123456789ABCDEF") == std::string_view::npos;
 }
 
 // Permissions come first: what only its owner may read never stands open to others.
@@ -71,6 +85,7 @@ std::error_code Fill(Files& files, Files::Handle handle, const std::string& old,
 
 std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes) {
     bytes.clear();
+    if (files.Size(path) > LargestFile) return make_error_code(std::errc::file_too_large);
     Files::Handle handle = -1;
     if (const auto error = files.Open(path, Files::Mode::Read, handle)) return error;
     const auto error = CloseAfter(ReadAll(files, handle, bytes), files, handle);
@@ -92,6 +107,13 @@ std::error_code ReplaceFile(Files& files, const std::string& path, std::string_v
     // Whether this succeeds or not, the error that brought us here is the one to report.
     if (error) files.Remove(temporary);
     return error;
+}
+
+void RemoveLeftovers(Files& files, const std::string& folder) {
+    std::vector<std::string> names;
+    if (files.List(folder, names)) return;
+    for (const std::string& name : names)
+        if (IsTemporary(name)) files.Remove((std::filesystem::path(folder) / name).string());
 }
 
 std::error_code AppendToFile(Files& files, const std::string& path, std::string_view bytes) {

@@ -16,7 +16,10 @@ ProfileFile::ProfileFile(Files& files, std::string path) : files_(files), path_(
 
 std::error_code ProfileFile::Save() {
     if (loadError_) return loadError_;
-    return text_.Changed() ? ReplaceFile(files_, path_, text_.Bytes()) : std::error_code();
+    if (!text_.Changed()) return {};
+    const std::string bytes = text_.Bytes();
+    if (bytes.size() > LargestFile) return make_error_code(std::errc::file_too_large);
+    return ReplaceFile(files_, path_, bytes);
 }
 
 }  // namespace kelvra::platform

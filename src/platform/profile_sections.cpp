@@ -84,12 +84,14 @@ ProfileText::Place ProfileText::FindKey(std::string_view section, std::string_vi
         Line line{at, 0, EndOfLine(section, at) - at};
         const std::string_view text = section.substr(at, line.end);
         at = BehindLineBreak(section, at + line.end);
-        const auto [before, value, isKey] = util::SplitAtFirst(text, '=');
+        const auto [before, value, hasValue] = util::SplitAtFirst(text, '=');
         const std::string_view name = TrimBlanks(before);
-        if (name.empty() && !isKey) continue;
+        if (name.empty() && !hasValue) continue;
         last = line;
-        if (!isKey || name.starts_with(';') || !util::EqualNoCase(name, wanted)) continue;
-        line.valueAt = before.size() + 1;
+        if (name.starts_with(';') || !util::EqualNoCase(name, wanted)) continue;
+        line.hasValue = hasValue;
+        line.valueAt = hasValue ? before.size() + 1
+                                : static_cast<std::size_t>(name.data() - text.data()) + name.size();
         return {line, true};
     }
     return {last, false};

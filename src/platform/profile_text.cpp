@@ -44,7 +44,7 @@ std::optional<std::string> ProfileText::Find(std::string_view section, std::stri
     if (present == nullptr) return std::nullopt;
     const std::string_view text = TextOf(*present);
     const Place place = FindKey(text, key);
-    if (!place.found) return std::nullopt;
+    if (!place.found || !place.line.hasValue) return std::nullopt;
     const std::string_view line = text.substr(place.line.begin, place.line.end);
     return std::string(
         WithoutQuotes(TrimBlanks(line.substr(place.line.valueAt))).substr(0, BufferSize - 1));
@@ -52,7 +52,9 @@ std::optional<std::string> ProfileText::Find(std::string_view section, std::stri
 
 std::string ProfileText::Read(std::string_view section, std::string_view key,
                               std::string_view fallback) const {
-    return Find(section, key).value_or(std::string(fallback.substr(0, BufferSize - 1)));
+    if (auto value = Find(section, key)) return *std::move(value);
+    const std::string_view trimmed = fallback.substr(0, fallback.find_last_not_of(' ') + 1);
+    return std::string(WithoutQuotes(trimmed).substr(0, BufferSize - 1));
 }
 
 void ProfileText::Write(std::string_view section, std::string_view key, std::string_view value) {
@@ -75,10 +77,12 @@ void ProfileText::DeleteKey(std::string_view section, std::string_view key) {
 
 void ProfileText::ReplaceValue(Section& section, const Line& line, std::string_view value) {
     const std::string_view text = TextOf(section).substr(line.begin, line.end);
-    if (TrimBlanks(text.substr(line.valueAt)) == value) return;
+    if (line.hasValue && TrimBlanks(text.substr(line.valueAt)) == value) return;
     // "[a=" is a key, but "[a=b]" is a section.
     const bool plain = !HasLineBreak(value) && !TrimBlanks(text).starts_with('[');
-    Replace(section, line.begin + line.valueAt, line.end - line.valueAt, value);
+    std::string added(value);
+    if (!line.hasValue) added.insert(0, 1, '=');
+    Replace(section, line.begin + line.valueAt, line.end - line.valueAt, added);
     if (!plain) Renew();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sensors/settings_file.h"
 
+#include <algorithm>
 #include <cmath>
 #include <type_traits>
 
@@ -59,6 +60,10 @@ void IniSetting(platform::ProfileText& file, const std::string& section, const S
         field.member);
 }
 
+std::string SectionOf(std::string_view stem, const SettingsField& field) {
+    return std::string(stem) + field.suffix;
+}
+
 }  // namespace
 
 SettingValue IniRead(const platform::ProfileText& file, std::string_view section,
@@ -81,8 +86,28 @@ void TransferSettings(SensorSettings& settings, platform::ProfileText& file, std
         return;
     }
     for (const SettingsField* field : FileFields())
-        IniSetting(file, std::string(stem) + field->suffix, *field, settings, defaults, transfer);
+        IniSetting(file, SectionOf(stem, *field), *field, settings, defaults, transfer);
     settings.ContMeas = false;
+}
+
+bool HasSettings(const platform::ProfileText& file, std::string_view stem) {
+    const auto fields = FileFields();
+    return std::any_of(fields.begin(), fields.end(), [&](const SettingsField* field) {
+        return file.HasSection(SectionOf(stem, *field));
+    });
+}
+
+void WriteChanges(const SensorSettings& settings, const SensorSettings& known,
+                  platform::ProfileText& file, std::string_view stem) {
+    for (const SettingsField* field : FileFields()) {
+        const std::string section = SectionOf(stem, *field);
+        std::visit(
+            [&](auto member) {
+                if (settings.*member != known.*member || !file.Find(section, field->key))
+                    IniWrite(file, section, field->key, settings.*member);
+            },
+            field->member);
+    }
 }
 
 std::error_code TransferSettings(SensorSettings& settings, platform::Files& files,

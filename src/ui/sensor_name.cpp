@@ -40,7 +40,7 @@ void SensorName::Started() {
 
 void SensorName::FindGivenName(int slot) {
     sensors::SensorEntry& entry = p_.table[slot];
-    if (p_.computer.KeepsRegistry())
+    if (p_.computer.OwnRegistry())
         entry.givenName = p_.computer.ReadRegistry(NamesKey, entry.sensorId).value_or("");
 }
 
@@ -70,12 +70,13 @@ void SensorName::StoreLogicalName(int slot) {
 void SensorName::Store(int slot) {
     const sensors::SensorEntry& entry = p_.table[slot];
     const std::string name(util::TrimSpaces(entry.logicalName));
+    const std::string path = p_.computer.OwnRegistry().value_or("registry");
     const std::error_code error = p_.computer.WriteRegistry(NamesKey, entry.sensorId, name);
     if (error)
-        p_.notice.ShowFileTrouble(NamesKey,
-                                  "The name of the sensor could not be stored: " + error.message());
+        p_.notice.ShowFileTrouble(
+            path, "The sensor's name could not be stored: " + path + ": " + error.message());
     else
-        p_.notice.EndFileTrouble(NamesKey);
+        p_.notice.EndFileTrouble(path);
 }
 
 }  // namespace kelvra::ui

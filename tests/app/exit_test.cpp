@@ -55,10 +55,39 @@ TEST_F(ExitTest, AFailedSaveKeepsTheOldFileAndIsTold) {
             Notice().starts_with("The settings could not be saved: " + folder.Path("Kelvra.INI")))
             << n << Notice();
         EXPECT_EQ(program->store.SaveFailure(), Notice()) << n;
-        EXPECT_EQ(folder.Names().size(), 1U) << n;
+        EXPECT_EQ(folder.Names().size(), 3U) << n;  // with two lock files
         EXPECT_TRUE(fake.events.quit);
     }
     EXPECT_GT(failed, 7);
+}
+
+TEST_F(ExitTest, AFailedSaveIsShownToWhoeverAskedForTheExit) {
+    const std::pair<std::function<void()>, bool> ways[] = {
+        {[this] { PressExit(); }, true},
+        {[this] { program->forms.mdiMain.PersonCloses(); }, true},
+        {[this] { program->Exit(); }, false},
+    };
+    StartWith(1);
+    fake.dialogs.onMessage = [this] {
+        PressExit();
+        EXPECT_FALSE(fake.events.quit);
+        program->Exit();  // a signal does not wait for an answer
+        EXPECT_TRUE(fake.events.quit);
+    };
+    for (const auto& [exit, shown] : ways) {
+        Start().table[0].settings.TrigLevel = 5;
+        driver.count.clear();
+        fake.dialogs.messages.clear();
+        files.Plan(1, FaultyFiles::Fault::Fail);
+        exit();
+        const std::string failure = program->store.SaveFailure();
+        EXPECT_NE(failure, "");
+        std::vector<test::FakeDialogs::Shown> messages;
+        if (shown) messages.push_back({"", failure});
+        EXPECT_EQ(fake.dialogs.messages, messages);
+        EXPECT_EQ(driver.Count("TeskCloseDriver"), 1);
+        EXPECT_TRUE(fake.events.quit);
+    }
 }
 
 // A measurement with every kind of event round: while opening, polling, fetching and pacing; and

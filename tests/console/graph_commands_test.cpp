@@ -60,10 +60,10 @@ TEST(GraphCommands, DragAndZoomAsAPersonCan) {
     const std::string after =
         R"("cursors":[{"index":0,"kind":"horizontal","x":5,"y":-12.5,"visible":true},)"
         R"({"index":1,"kind":"vertical","x":0,"y":0,"visible":false}],"labels":[],"trackMode":7})";
-    EXPECT_EQ(DumpControl(graph, -1),
+    EXPECT_EQ(DumpControl(graph),
               before + R"("x":{"min":1,"max":2},"y":{"min":-3,"max":-2.5},)" + after);
     EXPECT_FALSE(RunCommand(context, "zoom ScopeDisp.Display"));
-    EXPECT_EQ(DumpControl(graph, -1),
+    EXPECT_EQ(DumpControl(graph),
               before + R"("x":{"min":0,"max":10},"y":{"min":-65,"max":5},)" + after);
 }
 

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -168,7 +169,9 @@ TEST(Script, EndsAtTheFirstCommandThatFails) {
         {"resize Nowhere 1 1", "there is no such window"},
         {"resize MDIMain 1 x", "width and height are whole numbers of twips"},
         {"wait passes 1", "no measurement runs"},
-        {"wait ms -1", "wait passes N, wait ms N or wait idle"},
+        {"wait ms -1", "wait passes N [MS], wait ms N or wait idle"},
+        {"wait passes 1 soon", "wait passes N [MS], wait ms N or wait idle"},
+        {std::string((1 << 20) + 1, 'x'), "the line is longer than 1 MiB"},
     };
     for (const auto& [command, why] : cases) {
         const auto end = RunScript("# first\n" + command + "\necho not reached\n");
@@ -206,6 +209,43 @@ TEST(Script, AWaitForPassesFailsWhenTheMeasurementEndsBefore) {
     EXPECT_EQ(end.output, "message: Kelvra | No operational sensor selected\n");
     EXPECT_EQ(end.errors, "error: 4: the measurement ended before the passes were complete\n");
     EXPECT_EQ(end.status, 1);
+}
+
+TEST(Script, AWaitForPassesFailsWhenItsTimeIsUp) {
+    RunningConsole untriggered(KELVRA_BENCH_FOLDER);
+    untriggered.Write("click StartIt\nwait passes 1 60000\necho not reached\n");
+    auto end = untriggered.Finish();
+    EXPECT_EQ(end.output, "");
+    EXPECT_EQ(end.errors, "error: 2: the time ran out before the passes were complete\n");
+    EXPECT_EQ(end.status, 1);
+    end = RunScript("click StartIt\nwait passes 2 60000\nclick StopIt\nwait idle\necho idle\n");
+    EXPECT_EQ(end.output + end.errors, "idle\n");
+}
+
+// What a program that a shell has started says in the end, with its status. It is ended when it
+// hangs.
+std::string SaidInShell(const test::TempFolder& data, const std::string& setUp,
+                        const std::string& rest) {
+    const std::string command = "(" + setUp + " timeout 60 " + KELVRA_CONSOLE + " --data-dir " +
+                                data.Path() + " --driver-dir " + KELVRA_BENCH_FOLDER + " " + rest +
+                                "; echo $?) 2>&1 | cat >" + data.Path("said");
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    return data.Get("said");
+}
+
+TEST(Script, AClosedInputIsAnEmptyOneAndAClosedOutputFails) {
+    const test::TempFolder data;
+    data.Put("echo.kel", "echo a\n");
+    EXPECT_EQ(SaidInShell(data, "", "- <&-"), "0\n");
+    EXPECT_EQ(SaidInShell(data, "", data.Path("echo.kel") + " >&-"), "1\n");
+}
+
+TEST(Script, AFileSizeLimitFailsTheSaveAndLeavesNoPart) {
+    const test::TempFolder data;
+    EXPECT_EQ(
+        SaidInShell(data, "ulimit -f 0;", "- </dev/null"),
+        "The settings could not be saved: " + data.Path("Kelvra.INI") + ": File too large\n0\n");
+    EXPECT_EQ(data.Names(), (std::set<std::string>{"kelvra-save.lock", "kelvra-use.lock", "said"}));
 }
 
 TEST(Script, AnInputIsAnsweredBeforeTheNextLineIsThere) {

@@ -32,10 +32,25 @@ TEST_F(PosixComputerTest, PutsProgramFolderAndDriveIntoTheDataFolder) {
     const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::years(3);
     std::filesystem::last_write_time(folder_.Path("data/Kelvra.EXE"), longAgo);
     EXPECT_LE(computer.ProgramFileDate()->year, PosixClock().Now().year - 2);
-    computer.WriteRegistry("HKLM\\SOFTWARE\\X", "PS-101;1", "left");
-    EXPECT_EQ(folder_.Get("data/registry.ini"), "[HKLM\\SOFTWARE\\X]\r\nPS-101;1=left\r\n");
     folder_.Put("file", "");
     EXPECT_TRUE(PosixComputer(files_, {folder_.Path("file"), {}, {}, {}}).DataFolderError());
+}
+
+TEST_F(PosixComputerTest, KeepsTheRegistryInAFileAndSaysWhenItCannot) {
+    PosixComputer computer = Make();
+    const std::string key = "HKLM\\SOFTWARE\\X";
+    EXPECT_EQ(computer.OwnRegistry(), folder_.Path("data/registry.ini"));
+    EXPECT_EQ(computer.ReadRegistry(key, "PS-101;1"), std::nullopt);
+    EXPECT_FALSE(computer.WriteRegistry(key, "PS-101;1", "left"));
+    EXPECT_EQ(folder_.Get("data/registry.ini"), "[HKLM\\SOFTWARE\\X]\r\nPS-101;1=left\r\n");
+    EXPECT_EQ(computer.ReadRegistry(key, "PS-101;1"), "left");
+    std::filesystem::permissions(folder_.Path("data/registry.ini"),
+                                 std::filesystem::perms::owner_read);
+    EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right"), std::errc::permission_denied);
+    EXPECT_EQ(computer.ReadRegistry(key, "PS-101;1"), "left");
+    std::filesystem::remove_all(folder_.Path("data"));
+    EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right"),
+              std::errc::no_such_file_or_directory);
 }
 
 TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {

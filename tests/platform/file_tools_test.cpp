@@ -106,6 +106,23 @@ TEST_F(FileToolsTest, ReadingGoesOnAfterAShortReadAndReportsEveryError) {
     EXPECT_EQ(ReadWholeFile(files_, "/dev/zero", bytes), std::errc::file_too_large);
 }
 
+TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
+    folder_.Put("f", old_);
+    fs::resize_file(path_, LargestFile + 1);
+    faulty_.Plan(0, Fault::None);
+    ProfileFile tooLarge(faulty_, path_);
+    tooLarge.Text().Write("s", "k", "v");
+    EXPECT_EQ(tooLarge.Save(), std::errc::file_too_large);
+    EXPECT_EQ(faulty_.Operations(), 0);
+    EXPECT_EQ(fs::file_size(path_), LargestFile + 1);
+    fs::resize_file(path_, LargestFile);
+    ProfileFile full(files_, path_);
+    EXPECT_FALSE(full.LoadError());
+    full.Text().Write("s", "k", "v");
+    EXPECT_EQ(full.Save(), std::errc::file_too_large);
+    EXPECT_EQ(fs::file_size(path_), LargestFile);
+}
+
 TEST_F(FileToolsTest, AppendingMakesTheFileAndContinuesAShortWrite) {
     EXPECT_FALSE(AppendToFile(files_, path_, "one,"));
     faulty_.Plan(2, Fault::Short);

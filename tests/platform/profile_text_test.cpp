@@ -20,7 +20,8 @@ TEST(ProfileText, ReadsWhatTheFirstKeyOfTheFirstSectionSays) {
         {"[s]\nk=1\nK=2\n[S]\nk=3\nother=4", "s", "k", "1"},
         {"[s]\nk=1\n[t]\n[S]\nother=4", "s", "other", "none"}, {"k=0\n[s]\nj=1", "s", "k", "none"},
         {"[]\n=0\n", "", "", "0"}, {"[s]\n;k=1\n ; k=2\n", "s", ";k", "none"},
-        {"[s]\nk\nk=1", "s", "k", "1"}, {"[s]\nk=a=b;c", "s", "k", "a=b;c"},
+        {"[s]\n k \nk=1", "s", "k", "none"}, {"[s]\n;k\nk=1", "s", "k", "1"},
+        {"[s]\nk=a=b;c", "s", "k", "a=b;c"},
         {"[s\nk=1\n", "s", "k", "none"}, {"[a]b]\nk=1\n", "a", "k", "1"},
         {"[s]\nk= \" v \" \n", "s", "k", " v "}, {"[s]\nk='\"v\"'\n", "s", "k", "\"v\""},
         {"[s]\nk=\"v'\n", "s", "k", "\"v'"}, {"[s]\nk=\"\"\n", "s", "k", ""},
@@ -29,6 +30,12 @@ TEST(ProfileText, ReadsWhatTheFirstKeyOfTheFirstSectionSays) {
     };
     for (const auto& [bytes, section, key, value] : cases)
         EXPECT_EQ(ProfileText(bytes).Read(section, key, "none"), value) << bytes;
+    const std::pair<std::string, std::string> fallbacks[] = {
+        {" v  ", " v"}, {"\" v \" ", " v "}, {"''v''", "'v'"}, {"'v\"", "'v\""}, {"'", "'"},
+        {"  ", ""},
+    };
+    for (const auto& [fallback, value] : fallbacks)
+        EXPECT_EQ(ProfileText("[s]\nk\n").Read("s", "k", fallback), value) << fallback;
     // Value and fallback are cut to the buffer.
     const std::string longText(800, 'x');
     const ProfileText text("[s]\nk='" + longText + "'\n");
@@ -40,6 +47,9 @@ TEST(ProfileText, WritesInPlaceAndLeavesTheRest) {
     const std::pair<Texts, std::string> cases[] = {  // before, section, key, value; after
         {{"[s]\n K = old ; \n\nj=1", "S", "k", "new"}, "[s]\n K =new\n\nj=1"},
         {{"[s]\nk=1\nk=2", "s", "k", "3"}, "[s]\nk=3\nk=2"},
+        {{"[s]\nj\n K \nk=1", "S", "k", "3"}, "[s]\nj\n K=3\nk=1"},
+        {{"[s]\nk", "s", "k", ""}, "[s]\nk="},
+        {{"[s]\n[k\nk=1", "s", "[k", "]"}, "[s]\n[k=]\nk=1"},
         {{"[s]\nk=", "s", "k", "3"}, "[s]\nk=3"}, {{"[s]\rk=\rj=2", "s", "j", "3"}, "[s]\rk=\rj=3"},
         {{"[s]\nk=\"1\"\n", "s", "k", "1"}, "[s]\nk=1\n"},
         {{"[s]\nk = 1 \n", "s", "k", "1"}, "[s]\nk = 1 \n"},

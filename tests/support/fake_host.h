@@ -102,6 +102,7 @@ public:
     util::NumberForm numbers{".", ","};
     std::map<std::string, FunctionTable> libraries;  // by plain name; others are not found
     std::vector<std::string> registry;               // "key|name|value"
+    std::error_code registryError;                   // of a write
 
     std::string ProgramFolder() override { return folder; }
     std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
@@ -117,18 +118,18 @@ public:
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
         return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
     }
-    std::error_code registryError;
     std::map<std::string, std::string> names;  // in the registry, by their names there
     std::error_code WriteRegistry(Text key, Text name, Text value) override {
+        if (registryError) return registryError;
         registry.push_back(key + "|" + name + "|" + value);
-        if (!registryError) names.insert_or_assign(name, value);
+        names.insert_or_assign(name, value);
         return registryError;
     }
     std::optional<std::string> ReadRegistry(Text, Text name) override {
         const auto found = names.find(name);
         return found == names.end() ? std::nullopt : std::optional(found->second);
     }
-    bool KeepsRegistry() const override { return true; }
+    std::optional<std::string> OwnRegistry() override { return folder + "/registry.ini"; }
 };
 
 struct FakeHost {

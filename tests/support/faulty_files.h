@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files that hand every operation on to others, but let the n-th one fail, be short, or be the last
 // one of the process, as a power cut would have it. Only operations that can fail count; questions
-// (Exists, Writable, ResolveLinks, ModifiedAt) don't.
+// (Exists, Writable, ResolveLinks, Size, ModifiedAt) don't.
 #pragma once
 
 #include <cstdlib>
@@ -55,12 +55,20 @@ public:
     Error CopyPermissions(Path from, Handle to) override {
         return Run([&] { return inner_.CopyPermissions(from, to); });
     }
+    Error List(Path folder, std::vector<std::string>& names) override {
+        return Run([&] { return inner_.List(folder, names); });
+    }
+    Error Lock(Path path, LockKind kind, Handle& handle) override {
+        return Run([&] { return inner_.Lock(path, kind, handle); });
+    }
+    void Unlock(Handle handle) override { inner_.Unlock(handle); }
     // clang-format off
     Error Sync(Handle h) override { return Run([&] { return inner_.Sync(h); }); }
     Error Rename(Path old, Path to) override { return Run([&] { return inner_.Rename(old, to); }); }
     Error Remove(Path path) override { return Run([&] { return inner_.Remove(path); }); }
     Error MakeFolders(Path path) override { return Run([&] { return inner_.MakeFolders(path); }); }
     // clang-format on
+    std::optional<std::uint64_t> Size(Path path) override { return inner_.Size(path); }
     std::string ResolveLinks(Path path) override { return inner_.ResolveLinks(path); }
     bool Exists(Path path) override { return inner_.Exists(path); }
     bool Writable(Path path) override { return inner_.Writable(path); }

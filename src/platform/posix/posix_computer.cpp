@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "posix/posix_library.h"
 
@@ -70,6 +71,7 @@ std::string Joined(const std::vector<std::string>& words) {
 PosixComputer::PosixComputer(Files& files, const ComputerOptions& options)
     : files_(files),
       dataDir_(Absolute(DataFolder(options.dataDir))),
+      registryPath_(Join(dataDir_, "registry.ini")),
       driverFolders_(DriverFolders(options.driverDir)),
       commandLine_(Joined(options.commandLine)),
       version_(options.version),
@@ -109,16 +111,16 @@ LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {
 
 std::error_code PosixComputer::WriteRegistry(const std::string& key, const std::string& name,
                                              const std::string& value) {
-    ProfileFile registry(files_, Join(dataDir_, "registry.ini"));
+    const FolderLock lock(files_, dataDir_);
+    if (lock.Error()) return lock.Error();
+    ProfileFile registry(files_, registryPath_);
     registry.Text().Write(key, name, value);
     return registry.Save();
 }
 
 std::optional<std::string> PosixComputer::ReadRegistry(const std::string& key,
                                                        const std::string& name) {
-    ProfileFile registry(files_, Join(dataDir_, "registry.ini"));
-    const std::string value(registry.Text().Read(key, name, ""));
-    return value.empty() ? std::nullopt : std::optional(value);
+    return ProfileFile(files_, registryPath_).Text().Find(key, name);
 }
 
 }  // namespace kelvra::platform

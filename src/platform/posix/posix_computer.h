@@ -42,13 +42,12 @@ public:
                                   const std::string& value) override;
     std::optional<std::string> ReadRegistry(const std::string& key,
                                             const std::string& name) override;
-    bool KeepsRegistry() const override { return true; }
-
-    // A usual size; a front end that has a screen knows better.
+    std::optional<std::string> OwnRegistry() override { return registryPath_; }
 
 private:
     Files& files_;
     std::string dataDir_;
+    std::string registryPath_;
     std::vector<std::string> driverFolders_;  // absolute, in the order of the search
     std::string commandLine_;
     ProgramVersion version_;

@@ -2,12 +2,14 @@
 #include "posix/posix_files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 #include "posix/local_time.h"
 
@@ -102,6 +104,28 @@ std::error_code PosixFiles::CopyPermissions(const std::string& from, Handle to) 
     return Outcome(Uninterrupted([&] { return ::fchmod(to, old.st_mode & 07777); }));
 }
 
+std::error_code PosixFiles::List(const std::string& folder, std::vector<std::string>& names) {
+    names.clear();
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error))
+        names.push_back(entry->path().filename().string());
+    return error;
+}
+
+std::error_code PosixFiles::Lock(const std::string& path, LockKind kind, Handle& handle) {
+    if (const auto error = OpenWith(path, O_RDWR | O_CREAT, handle)) return error;
+    const int operation = kind == LockKind::Exclusive ? LOCK_EX : LOCK_SH;
+    const auto error = Outcome(Uninterrupted([&] { return ::flock(handle, operation | LOCK_NB); }));
+    if (error) Unlock(std::exchange(handle, -1));
+    return error;
+}
+
+// The file is empty: closing it has nothing to complain of.
+void PosixFiles::Unlock(Handle handle) {
+    ::close(handle);
+}
+
 std::string PosixFiles::ResolveLinks(const std::string& path) {
     constexpr int mostLinks = 40;
     fs::path current(path);
@@ -129,6 +153,12 @@ std::error_code PosixFiles::MakeFolders(const std::string& path) {
     std::error_code error;
     fs::create_directories(path, error);
     return error;
+}
+
+std::optional<std::uint64_t> PosixFiles::Size(const std::string& path) {
+    struct stat file {};
+    if (::stat(path.c_str(), &file) != 0) return std::nullopt;
+    return static_cast<std::uint64_t>(file.st_size);
 }
 
 std::optional<LocalTime> PosixFiles::ModifiedAt(const std::string& path) {

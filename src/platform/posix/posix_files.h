@@ -17,11 +17,15 @@ public:
     std::error_code Remove(const std::string& path) override;
     // Group and owner too, as far as the user may give them away.
     std::error_code CopyPermissions(const std::string& from, Handle to) override;
+    std::error_code List(const std::string& folder, std::vector<std::string>& names) override;
+    std::error_code Lock(const std::string& path, LockKind kind, Handle& handle) override;
+    void Unlock(Handle handle) override;
     std::string ResolveLinks(const std::string& path) override;
     bool Exists(const std::string& path) override;
     // A file without any write permission is read-only for everybody, the superuser included.
     bool Writable(const std::string& path) override;
     std::error_code MakeFolders(const std::string& path) override;
+    std::optional<std::uint64_t> Size(const std::string& path) override;
     std::optional<LocalTime> ModifiedAt(const std::string& path) override;
 };
 

@@ -2,6 +2,7 @@
 #include "posix/posix_line_input.h"
 
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -36,27 +37,44 @@ PosixLineInput::~PosixLineInput() {
 LineInput::Result PosixLineInput::Read(std::string& line, Duration patience) {
     using Steady = std::chrono::steady_clock;
     const auto start = Steady::now();
-    for (int taken = 0; !ended_; ++taken) {
-        if (taken == MostAtOnce) return Result::NotYet;
-        // A request to end the program must not be slept through.
-        pollfd inputs[] = {{descriptor_, POLLIN, 0}, {TerminationDescriptor(), POLLIN, 0}};
-        const auto left = patience - (Steady::now() - start);
-        const int ready = ::poll(inputs, std::size(inputs), PollTime(left));
-        if (ready < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
-        if (ready == 0 || inputs[0].revents == 0) return Result::NotYet;
-        char byte = 0;
-        const ssize_t got = ::read(descriptor_, &byte, 1);
-        if (got < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
-        if (got == 0) {
-            ended_ = true;
-            if (!partial_.empty()) return Take(line);
-            break;
+    for (int taken = 0; taken < MostAtOnce;) {
+        if (at_ == count_) {
+            if (ended_) return partial_.empty() ? Result::End : Take(line);
+            const auto left = waiting_ > 0 ? patience : patience - (Steady::now() - start);
+            if (const auto nothing = Fill(left)) return *nothing;
+            continue;
         }
+        const char byte = bytes_[at_++];
+        ++taken;
         if (byte == '\n') return Take(line);
         if (partial_.size() == LongestLine) return Result::TooLong;
         partial_ += byte;
     }
-    return Result::End;
+    return Result::NotYet;
+}
+
+std::optional<LineInput::Result> PosixLineInput::Fill(Duration patience) {
+    if (waiting_ <= 0 && !WaitForBytes(patience))
+        return errno == EINTR ? Result::NotYet : Result::Failed;
+    if (waiting_ <= 0) return Result::NotYet;
+    const ssize_t got = ::read(descriptor_, bytes_.data(), own_ ? bytes_.size() : 1);
+    if (got < 0) return errno == EINTR ? Result::NotYet : Result::Failed;
+    ended_ = got == 0;
+    waiting_ -= static_cast<int>(got);
+    at_ = 0;
+    count_ = static_cast<std::size_t>(got);
+    return std::nullopt;
+}
+
+// Counts them, so that a flood costs no wait for each byte. False is an error.
+bool PosixLineInput::WaitForBytes(Duration patience) {
+    // A request to end the program must not be slept through.
+    pollfd inputs[] = {{descriptor_, POLLIN, 0}, {TerminationDescriptor(), POLLIN, 0}};
+    if (::poll(inputs, std::size(inputs), PollTime(patience)) < 0) return false;
+    if (inputs[0].revents == 0) return true;
+    // One is the end of the input, or an error, which reading tells.
+    if (::ioctl(descriptor_, FIONREAD, &waiting_) != 0 || waiting_ < 1) waiting_ = 1;
+    return true;
 }
 
 LineInput::Result PosixLineInput::Take(std::string& line) {

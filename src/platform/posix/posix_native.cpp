@@ -45,6 +45,15 @@ std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& op
     return computer;
 }
 
+void HoldStandardStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) == -1 && errno == EBADF) {
+            // The lowest free descriptor, which is this one. Without it nothing is worse than
+            // before.
+            [[maybe_unused]] const int taken = ::open("/dev/null", O_RDONLY);
+        }
+}
+
 std::unique_ptr<LineInput> OpenLineInput(const std::string& path, std::error_code& error) {
     error.clear();
     if (path == "-") return std::make_unique<PosixLineInput>(STDIN_FILENO, false);
@@ -72,8 +81,9 @@ void WatchForTermination() {
         // Whoever started the program may want it to outlive a logout.
         if (inherited.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
     }
-    // A reader that has gone shows up as a failed write.
+    // A reader that has gone, and a file-size limit, show up as failed writes.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 bool TerminationRequested() {

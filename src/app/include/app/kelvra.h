@@ -33,6 +33,8 @@ public:
     // present sensors, releases the device list, and ends the event loop. Handlers that are running
     // return at their next look (exit.cpp).
     void Exit();
+    // The same when the user wants it, who is shown a save that fails.
+    void ExitAsAsked();
     // Writes the settings of the present sensors, as exit does.
     void SaveSettings();
 
@@ -61,6 +63,7 @@ public:
     Discovery discovery;
 
 private:
+    void EndEverything();
     void Subscribe();
     void StartDebugLog();
     std::string Title();

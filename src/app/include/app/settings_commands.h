@@ -21,7 +21,8 @@ public:
                      ui::Enabling& enabling, platform::Host& host);
 
     // The settings are replaced, which counts as an edit: they reach the sensor before its next
-    // measurement. A file that can't be read leaves them as they were, and a message says so.
+    // measurement. A file that can't be read leaves them as they were. A message says so, and
+    // also when the file has no settings, which sets the defaults.
     void LoadSensorSettings();
     // Keys of an existing file are overwritten, everything else in it stays. A message says when it
     // failed.
@@ -34,6 +35,7 @@ private:
                  std::function<void(const std::string& path)> goOn);
     void Load(const std::string& path);
     void Save(const std::string& path);
+    std::error_code Write(const std::string& path);
     void Complain(const char* what, const std::string& path, const std::error_code& error);
 
     sensors::SensorTable& table_;

@@ -16,26 +16,30 @@ public:
     Waiting(const measure::MeasureState& state, platform::Clock& clock)
         : state_(state), clock_(clock) {}
 
-    // An error when no measurement runs.
-    std::optional<std::string> ForPasses(std::int64_t passes);
+    // An error when no measurement runs. Without a limit it takes as long as it takes.
+    std::optional<std::string> ForPasses(std::int64_t passes,
+                                         std::optional<platform::Duration> limit);
     void ForTime(platform::Duration time);
-    void ForIdle() { kind_ = Kind::Idle; }
+    void ForIdle();
 
-    enum class Look { GoOn, Wait, Failed };
-    // Failed: the measurement ended before the passes were there.
+    // Ended: the measurement, before the passes were there. TimedOut: they were not there in time.
+    enum class Look { GoOn, Wait, Ended, TimedOut };
     Look At();
-    std::optional<platform::Duration> WakesAt() const;
+    // When time alone ends the wait.
+    std::optional<platform::Duration> WakesAt() const { return until_; }
 
 private:
     enum class Kind { Nothing, Passes, Time, Idle };
 
+    Look AtPasses() const;
+    bool TimeIsUp() const;
     bool MeasurementRuns() const { return state_.measuring && state_.commandRuns; }
 
     const measure::MeasureState& state_;
     platform::Clock& clock_;
     Kind kind_ = Kind::Nothing;
     std::int64_t passes_ = 0;
-    platform::Duration until_{};
+    std::optional<platform::Duration> until_;
 };
 
 }  // namespace kelvra::console

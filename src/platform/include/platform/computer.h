@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "platform/files.h"
 #include "util/number_text.h"
@@ -55,13 +56,15 @@ public:
     // running program; nowhere else.
     virtual LoadedLibrary LoadDriverLibrary(const std::string& name) = 0;
 
-    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front. Where the system has no registry,
-    // Kelvra keeps one in a file of its own.
+    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front.
     virtual std::error_code WriteRegistry(const std::string& key, const std::string& name,
                                           const std::string& value) = 0;
+    // Nothing when there is no such value, or when it can't be read.
     virtual std::optional<std::string> ReadRegistry(const std::string& key,
                                                     const std::string& name) = 0;
-    virtual bool KeepsRegistry() const = 0;
+    // The file in which Kelvra keeps the registry itself. Nothing where the system has a registry,
+    // in which the device-list library finds the values by its own means.
+    virtual std::optional<std::string> OwnRegistry() = 0;
 };
 
 }  // namespace kelvra::platform

@@ -10,12 +10,13 @@
 
 namespace kelvra::platform {
 
-// More than any settings file or script has; keeps a device that never ends from filling the
-// memory.
-constexpr std::size_t LargestFile = std::size_t{256} << 20;
+// Far more than any settings file has. Keeps a wrong file, or a device that never ends, from
+// filling the memory.
+constexpr std::size_t LargestFile = std::size_t{16} << 20;
 
 // All bytes of the file, none after an error. A missing file is an error
-// (no_such_file_or_directory) like any other; one above LargestFile is file_too_large.
+// (no_such_file_or_directory) like any other; one above LargestFile is file_too_large, and is
+// not read.
 std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes);
 
 // The file holds the old bytes or the new ones, whole, whenever and wherever this stops: they are
@@ -24,6 +25,10 @@ std::error_code ReadWholeFile(Files& files, const std::string& path, std::string
 // power cut right behind it the old file may be back, whole: the folder is not synced, which would
 // double the time.
 std::error_code ReplaceFile(Files& files, const std::string& path, std::string_view bytes);
+
+// The files that ReplaceFile has left in the folder when the program was ended in the middle of it.
+// Nobody may be replacing a file there now. What can't be removed stays for the next time.
+void RemoveLeftovers(Files& files, const std::string& folder);
 
 // Opens, appends and closes; makes a missing file. An error may leave a part of the bytes.
 std::error_code AppendToFile(Files& files, const std::string& path, std::string_view bytes);

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace kelvra::platform {
 
@@ -29,6 +30,8 @@ public:
         Append
     };  // Create: must not exist yet; Append: made if missing
 
+    enum class LockKind { Exclusive, Shared };
+
     // A file or folder that is open; -1 is none.
     using Handle = int;
 
@@ -46,12 +49,21 @@ public:
     virtual std::error_code Remove(const std::string& path) = 0;
     // The new file gets the permissions of the old one.
     virtual std::error_code CopyPermissions(const std::string& from, Handle to) = 0;
+    // Names of what is in the folder, in no order.
+    virtual std::error_code List(const std::string& folder, std::vector<std::string>& names) = 0;
+    // Opens the file, made if missing, and locks it without waiting:
+    // resource_unavailable_try_again while another lock is in the way. A lock ends with Unlock, or
+    // with the process, however that ends.
+    virtual std::error_code Lock(const std::string& path, LockKind kind, Handle& handle) = 0;
+    virtual void Unlock(Handle handle) = 0;
     // The file that a chain of links ends at; the path itself where there is no link.
     virtual std::string ResolveLinks(const std::string& path) = 0;
     virtual bool Exists(const std::string& path) = 0;
     // False for a file that is there and may not be written.
     virtual bool Writable(const std::string& path) = 0;
     virtual std::error_code MakeFolders(const std::string& path) = 0;
+    // In bytes, nothing for a file that is not there.
+    virtual std::optional<std::uint64_t> Size(const std::string& path) = 0;
     // Local time of the last change, nothing for a file that is not there.
     virtual std::optional<LocalTime> ModifiedAt(const std::string& path) = 0;
 };

@@ -19,7 +19,7 @@ public:
         TooLong,  // more than LongestLine bytes without an end
         Failed,
     };
-    static constexpr std::size_t LongestLine = std::size_t{16} << 20;
+    static constexpr std::size_t LongestLine = std::size_t{1} << 20;
 
     virtual ~LineInput() = default;
 

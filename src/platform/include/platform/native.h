@@ -30,12 +30,16 @@ std::unique_ptr<Clock> NativeClock();
 std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& options,
                                          std::error_code& dataFolderError);
 
+// For a program's first step: a standard stream that it was started without becomes an empty input,
+// or an output that fails. Otherwise the first files opened would be taken for it.
+void HoldStandardStreams();
+
 // Standard input for "-". Null, with an error, for a file that can't be read.
 std::unique_ptr<LineInput> OpenLineInput(const std::string& path, std::error_code& error);
 
 // From now on a request of the system to end the program (a signal that is not ignored already) is
 // noted instead of ending it at once, and an output that nobody reads any more is an error of the
-// write.
+// write, as is a file that would become larger than the user may have.
 void WatchForTermination();
 bool TerminationRequested();
 // Becomes readable with the first request, for event loops that sleep on descriptors.

@@ -19,7 +19,8 @@ public:
     ProfileText& Text() { return text_; }
     const std::error_code& LoadError() const { return loadError_; }
 
-    // Replaces the file if the text has changed.
+    // Replaces the file if the text has changed. A text above LargestFile, which could not be read
+    // again, is refused.
     std::error_code Save();
 
 private:

@@ -6,7 +6,8 @@
 // The rules are those of the Windows profile functions: names without regard to ASCII case, the
 // first section and in it the first key of a name win, blanks around names and values are not part
 // of them, one pair of quotes around a value is taken off when reading, nothing is escaped when
-// writing, a value that is there already changes nothing.
+// writing, a value that is there already changes nothing. A line without "=" is a key without a
+// value: it counts as the key, but reads as the fallback.
 #pragma once
 
 #include <optional>
@@ -21,11 +22,14 @@ public:
     explicit ProfileText(std::string bytes = {});
 
     // The value as a caller's buffer of 750 characters with its NUL would hold it: 749 bytes at
-    // most. Nothing when the key is not there; or the fallback, cut alike.
+    // most. Nothing when the key is not there or has no value; or the fallback, without its
+    // trailing spaces and one pair of quotes, cut alike.
     static constexpr std::size_t BufferSize = 750;
     std::optional<std::string> Find(std::string_view section, std::string_view key) const;
     std::string Read(std::string_view section, std::string_view key,
                      std::string_view fallback) const;
+
+    bool HasSection(std::string_view name) const { return SectionNamed(name) != nullptr; }
 
     void Write(std::string_view section, std::string_view key, std::string_view value);
     void DeleteKey(std::string_view section, std::string_view key);
@@ -46,8 +50,9 @@ private:
     // Its parts count from its beginning, which counts from that of its section.
     struct Line {
         std::size_t begin = 0;
-        std::size_t valueAt = 0;  // behind the "="; 0 in a line that holds no key
+        std::size_t valueAt = 0;  // of a key: after the "=", or without one after the name
         std::size_t end = 0;      // before the line break, if it has one
+        bool hasValue = false;
     };
 
     // A key's line, or where it would be added: behind the last line of its section.

@@ -35,8 +35,17 @@ void IniWrite(platform::ProfileText& file, std::string_view section, std::string
 void TransferSettings(SensorSettings& settings, platform::ProfileText& file, std::string_view stem,
                       Transfer transfer);
 
-// The same on disk, with one pass over the file. A file that is missing reads as defaults. An error
-// (also of reading: the defaults are there then) leaves the file as it was.
+// Whether the file has any section of a block.
+bool HasSettings(const platform::ProfileText& file, std::string_view stem);
+
+// Writes the fields that are no longer as `known`, which was read from this file or written to it
+// before, and those that the file has no value for. The others keep what others may have written
+// meanwhile.
+void WriteChanges(const SensorSettings& settings, const SensorSettings& known,
+                  platform::ProfileText& file, std::string_view stem);
+
+// A whole block on disk, with one pass over the file. A file that is missing reads as defaults. An
+// error (also of reading: the defaults are there then) leaves the file as it was.
 std::error_code TransferSettings(SensorSettings& settings, platform::Files& files,
                                  const std::string& path, std::string_view stem, Transfer transfer);
 
