@@ -107,10 +107,12 @@ TEST_F(SettingsStoreTest, WhatCouldNotBeReadIsKeptInMemoryAndNotWrittenOver) {
 TEST_F(SettingsStoreTest, AFailureIsTakenBackWhenTheSameHasSucceeded) {
     Program program(folder_);
     program.sensor.settings.TrigLevel = 5;
-    program.files.Plan(1, FaultyFiles::Fault::Fail);
-    program.Save();
-    EXPECT_EQ(program.Notice(),
-              "The settings could not be saved: " + ini_ + ": No space left on device");
+    {
+        const platform::FolderLock other(program.files, folder_.Path());
+        program.Save();
+    }
+    EXPECT_EQ(program.Notice(), "The settings could not be saved: " + ini_ +
+                                    ": another Kelvra is changing the files of this folder");
     program.Read();
     EXPECT_NE(program.Notice(), "") << "reading is no saving";
     EXPECT_EQ(program.sensor.settings.TrigLevel, 5);

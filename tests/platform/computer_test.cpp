@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "platform/data_folder.h"
 #include "posix/posix_clock.h"
 #include "posix/posix_files.h"
 #include "support/temp_folder.h"
@@ -48,6 +49,11 @@ TEST_F(PosixComputerTest, KeepsTheRegistryInAFileAndSaysWhenItCannot) {
                                  std::filesystem::perms::owner_read);
     EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right"), std::errc::permission_denied);
     EXPECT_EQ(computer.ReadRegistry(key, "PS-101;1"), "left");
+    {
+        const FolderLock other(files_, folder_.Path("data"));
+        EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right").message(),
+                  "another Kelvra is changing the files of this folder");
+    }
     std::filesystem::remove_all(folder_.Path("data"));
     EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right"),
               std::errc::no_such_file_or_directory);
