@@ -16,8 +16,7 @@ void Kelvra::Exit() {
 void Kelvra::ExitAsAsked() {
     if (state.exiting) return;
     EndEverything();
-    if (!store.SaveFailure().empty())
-        host.dialogs.LastMessage(store.SaveFailure());
+    if (!store.SaveFailure().empty()) host.dialogs.LastMessage(store.SaveFailure());
     host.events.Quit();
 }
 

@@ -6,6 +6,7 @@
 namespace kelvra::controls {
 
 void TextBox::SetText(std::string text) {
+    edited_ = false;
     if (text_.Set(std::move(text))) change.Raise();
 }
 

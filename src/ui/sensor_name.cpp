@@ -29,8 +29,13 @@ SensorName::SensorName(const Parts& parts) : p_(parts) {
     p_.dialog.SensLogicalName.commit.Connect([this] { StoreLogicalName(p_.table.currentSensor); });
 }
 
+// A name that is being typed stays, as long as it is for the same sensor.
 void SensorName::CurrentSensorChanged() {
-    p_.dialog.SensLogicalName.SetText(p_.table[p_.table.currentSensor].logicalName);
+    const sensors::SensorEntry& entry = p_.table[p_.table.currentSensor];
+    controls::TextBox& box = p_.dialog.SensLogicalName;
+    if (box.Edited() && shownFor_ == entry.resourceName) return;
+    shownFor_ = entry.resourceName;
+    box.SetText(entry.logicalName);
 }
 
 void SensorName::Started() {

@@ -79,8 +79,10 @@ public:
         : Focusable(Kind::TextBox, parent, std::move(name)) {}
 
     const std::string& Text() const { return text_.Get(); }
-    // The program's own write: raises Change for another text.
+    // The program's own write: raises Change for another text. Ends an edit without a commit.
     void SetText(std::string text);
+    // Something has been typed since the last commit.
+    bool Edited() const { return edited_; }
 
     Event<> change;
     Event<> commit;  // Enter, or the person turns to another control after an edit

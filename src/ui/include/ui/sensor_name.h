@@ -49,6 +49,7 @@ private:
     void Store(int slot);
 
     Parts p_;
+    std::string shownFor_;  // the resource of the sensor in the name box
 };
 
 }  // namespace kelvra::ui
