@@ -14,8 +14,8 @@ namespace {
 
 using Steady = std::chrono::steady_clock;
 
-// A save takes milliseconds. The computer's clock counts, whatever clock the program has: the other
-// program lives by it.
+// A save takes milliseconds. Real time counts, also for a program with a clock of its own: that is
+// what the other program's save takes.
 constexpr auto Patience = std::chrono::seconds(2);
 constexpr auto BetweenAttempts = std::chrono::milliseconds(5);
 
