@@ -80,6 +80,17 @@ void Grid::SetCellTooltip(int row, int column, std::string_view text) {
     MarkCell(cell, row, column);
 }
 
+void Grid::SetEditable(int row, int column, bool editable) {
+    Cell& cell = cells_[Offset(row, column)];
+    if (cell.editable == editable) return;
+    cell.editable = editable;
+    MarkCell(cell, row, column);
+}
+
+void Grid::TypeCell(int row, int column, const std::string& text) {
+    if (At(row, column).editable) typed.Raise(row, column, text);
+}
+
 void Grid::MarkCell(Cell& cell, int row, int column) {
     if (cell.changed) return;
     cell.changed = true;

@@ -3,20 +3,17 @@
 
 #include <QTextDocument>
 
+#include "desktop/colour_roles.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
 
 namespace {
 constexpr int TwipsPerPixel = 15;
-constexpr int DarkBelow = 110;  // of 255, as the eye weighs it
 constexpr const char* OwnTooltip = "ownTooltip";
+constexpr const char* IsWithheld = "withheld";
+constexpr const char* Later = "This window comes with a later version";
 }  // namespace
-
-QColor ToolkitColour(controls::Colour colour) {
-    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-            static_cast<int>(colour >> 16 & 0xFF)};
-}
 
 int Pixels(int twips) {
     return twips / TwipsPerPixel;
@@ -25,27 +22,8 @@ int Twips(int pixels) {
     return pixels * TwipsPerPixel;
 }
 
-namespace {
-
-void UpdateColours(QWidget& widget, const controls::Control& control) {
-    const auto& back = control.back.Get();
-    const auto& fore = control.fore.Get();
-    if (!back && !fore) return;
-    QPalette palette = widget.palette();
-    if (back) {
-        const QColor colour = ToolkitColour(*back);
-        palette.setColor(QPalette::Window, colour);
-        if (qGray(colour.rgb()) < DarkBelow) palette.setColor(QPalette::WindowText, Qt::white);
-        widget.setAutoFillBackground(true);
-    }
-    if (fore) palette.setColor(QPalette::WindowText, ToolkitColour(*fore));
-    if (palette != widget.palette()) widget.setPalette(palette);
-}
-
-}  // namespace
-
 void UpdateCommon(QWidget& widget, const controls::Control& control) {
-    widget.setEnabled(control.enabled);
+    widget.setEnabled(control.enabled && !Withheld(widget));
     // What isn't in its window yet comes into sight with it; shown alone it would be a window.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.visible) widget.setVisible(control.visible);
@@ -72,8 +50,21 @@ QString MarkedText(const controls::Control& control, const std::string& caption)
            Shown(text.substr(place)).replace('&', "&&");
 }
 
-void Describe(QWidget& widget, const QString& name) {
-    widget.setAccessibleName(name);
+void Withhold(QWidget& widget) {
+    SetOwnTooltip(widget, Later);
+    widget.setToolTip(Later);
+    widget.setProperty(IsWithheld, true);
+    widget.setEnabled(false);
+}
+
+void Withhold(QAction& entry) {
+    entry.setToolTip(Later);
+    entry.setProperty(IsWithheld, true);
+    entry.setEnabled(false);
+}
+
+bool Withheld(const QObject& shown) {
+    return shown.property(IsWithheld).toBool();
 }
 
 }  // namespace kelvra::desktop

@@ -11,9 +11,10 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       zoom_(preferences_, main_.WindowMenu(), {&results_.Table(), &main_.Formulas()}) {
-    dialogs.SetParent(&main_.Widget());
     main_.MirrorFrame();
+    dialogs.SetParent(main_.Widget());
     events_.onRepaint = [this] { mirror_.PaintNow(); };
+    events_.onQuit = [&dialogs] { dialogs.Drop(); };
 }
 
 }  // namespace kelvra::desktop

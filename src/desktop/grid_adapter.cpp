@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/colour_roles.h"
 #include "desktop/common.h"
 #include "desktop/grid_painting.h"
 #include "desktop/qt_text.h"
@@ -41,13 +42,17 @@ int TextWidth(const QString& text, const QFont& font) {
     return width + CellMargin;
 }
 
+QBrush Brush(const std::optional<controls::Colour>& colour) {
+    return colour ? QBrush(ToolkitColour(*colour)) : QBrush();
+}
+
 }  // namespace
 
 GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     : QTableWidget(parent), grid_(grid), normalSize_(font().pointSizeF()) {
-    setItemDelegate(new CellPainter(this));
+    setItemDelegate(new CellDelegate(grid, this));
     setHorizontalHeader(new Heading(this));
-    setEditTriggers(NoEditTriggers);
+    setEditTriggers(EditKeyPressed | AnyKeyPressed);
     setTabKeyNavigation(false);
     setAlternatingRowColors(false);
     setWordWrap(false);
@@ -58,7 +63,7 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
         if (!Selects()) grid_.PressCell(row + 1, column);
     });
     connect(this, &QTableWidget::cellClicked, [this](int row, int column) {
-        if (!Selects()) grid_.ClickCell(row + 1, column);
+        if (!Selects() && !Edits(row, column)) grid_.ClickCell(row + 1, column);
     });
     // The second of two quick clicks.
     connect(this, &QTableWidget::cellDoubleClicked, [this](int row, int column) {
@@ -85,7 +90,14 @@ bool GridWidget::Selects() {
 void GridWidget::Activate(int row, int column) {
     if (row < 0 || column < 0) return;
     grid_.PressCell(row + 1, column);
-    grid_.ClickCell(row + 1, column);
+    if (!Edits(row, column)) grid_.ClickCell(row + 1, column);
+}
+
+// Opens the editor where the record lets the cell be edited.
+bool GridWidget::Edits(int row, int column) {
+    if (!grid_.At(row + 1, column).editable) return false;
+    edit(model()->index(row, column));
+    return true;
 }
 
 int GridWidget::MostColumnWidth() const {
@@ -141,7 +153,13 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid), widget_(widget) {}
+GridAdapter::GridAdapter(controls::Grid& grid, GridWidget& widget) : grid_(grid), widget_(widget) {
+    widget_.onFit = [this] { FitColumns(); };
+}
+
+void GridAdapter::Need() {
+    if (widget_.onNeed) widget_.onNeed();
+}
 
 void GridAdapter::Update() {
     const std::array colours{grid_.back.Get(), grid_.fixedBack.Get(), grid_.emptyBack.Get()};
@@ -166,7 +184,8 @@ void GridAdapter::Update() {
 void GridAdapter::Shape() {
     widget_.setRowCount(grid_.Rows() - 1);
     widget_.setColumnCount(grid_.Columns());
-    QPalette palette = widget_.palette();
+    QPalette palette;
+    palette.setResolveMask(0);
     if (grid_.emptyBack.Get())
         palette.setColor(QPalette::Base, ToolkitColour(*grid_.emptyBack.Get()));
     widget_.setPalette(palette);
@@ -188,7 +207,7 @@ void GridAdapter::FitColumns() {
     for (int row = 0; row < widget_.rowCount(); ++row)
         widget_.setRowHeight(row, metrics.height() + CellMargin / 2);
     widget_.updateGeometry();
-    if (onNeed) onNeed();
+    Need();
 }
 
 void GridAdapter::ShowHeading(int column) {
@@ -203,7 +222,7 @@ void GridAdapter::ShowHeading(int column) {
     item->setText(text);
     item->setFont(font);
     item->setTextAlignment(ToolkitAlign(cell.look.align));
-    if (grid_.fixedBack.Get()) item->setBackground(ToolkitColour(*grid_.fixedBack.Get()));
+    item->setBackground(Brush(grid_.fixedBack));
     Widen(column, text, font);
 }
 
@@ -221,9 +240,11 @@ void GridAdapter::ShowCell(int row, int column) {
         item->setFont(font);
     item->setTextAlignment(ToolkitAlign(cell.look.align));
     const auto& back = cell.look.back ? cell.look.back : grid_.back.Get();
-    if (back && item->background().color() != ToolkitColour(*back))
-        item->setBackground(ToolkitColour(*back));
-    item->setForeground(Qt::black);
+    if (const QBrush brush = Brush(back); item->background() != brush) {
+        item->setBackground(brush);
+        item->setForeground(back ? QBrush(Qt::black) : QBrush());
+    }
+    item->setFlags(item->flags().setFlag(Qt::ItemIsEditable, cell.editable));
     if (const QString tooltip = TooltipText(cell.tooltip); item->toolTip() != tooltip) {
         item->setToolTip(tooltip);
         item->setData(Qt::AccessibleDescriptionRole, Shown(cell.tooltip));
@@ -237,7 +258,7 @@ void GridAdapter::Widen(int column, const QString& text, const QFont& font) {
     const int needed = std::min(TextWidth(text, font), widget_.MostColumnWidth());
     if (needed <= widget_.columnWidth(column)) return;
     widget_.setColumnWidth(column, needed);
-    if (onNeed) onNeed();
+    Need();
 }
 
 }  // namespace kelvra::desktop

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/grid_painting.h"
 
+#include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
+
+#include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
 
@@ -16,8 +20,8 @@ void Frame(QPainter& painter, const QRect& place, const QColor& colour, int widt
 
 }  // namespace
 
-void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                        const QModelIndex& index) const {
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
     QStyleOptionViewItem plain = option;
     plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
     QStyledItemDelegate::paint(painter, plain, index);
@@ -25,6 +29,23 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (option.state.testFlag(QStyle::State_Selected)) Frame(*painter, option.rect, Qt::blue, 2);
     if (option.state.testFlag(QStyle::State_HasFocus)) Frame(*painter, option.rect, Qt::black, 3);
     painter->restore();
+}
+
+QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    auto* editor = new QLineEdit(index.data(Qt::DisplayRole).toString(), parent);
+    editor->setFrame(false);
+    editor->setFont(option.font);
+    editor->setPalette(QApplication::palette());  // not that of the table's empty part
+    editor->setAutoFillBackground(true);
+    return editor;
+}
+
+// A text that was not touched is not written: the cell may say something newer by now.
+void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
+                                const QModelIndex& index) const {
+    const auto* line = qobject_cast<QLineEdit*>(editor);
+    if (line->isModified()) grid_.TypeCell(index.row() + 1, index.column(), Bytes(line->text()));
 }
 
 Heading::Heading(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}

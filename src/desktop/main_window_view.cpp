@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenuBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -13,14 +12,12 @@
 #include "desktop/focus_ring.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
-#include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
 
 namespace {
-constexpr int ToolIcon = 28;  // logical pixels
-constexpr int IndicatorIcon = 20;
-constexpr int NoticeLines = 2;  // room for the usual ones, so that the strip does not jump
+constexpr int IndicatorIcon = 20;  // logical pixels
+constexpr int NoticeLines = 2;     // room for the usual ones, so that the strip does not jump
 constexpr int LeastFormulaWidth = 60;
 constexpr int FormulaColumn = 1;
 }  // namespace
@@ -28,9 +25,10 @@ constexpr int FormulaColumn = 1;
 MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
     : form_(form),
       mirror_(mirror),
+      maker_(mirror),
       widget_(form),
       area_(new QMdiArea),
-      formulas_(new GridWidget(form.CalcGrid)) {
+      formulas_(maker_.Make(form.CalcGrid)) {
     BuildMenus();
     auto* top = new QHBoxLayout;
     top->setSpacing(0);
@@ -57,111 +55,70 @@ void MainWindowView::BuildMenus() {
         if (item == nullptr) continue;
         QMenu* menu = widget_.menuBar()->addMenu(MarkedText(*item, item->caption));
         if (item == &form_.MenueWindow) windowMenu_ = menu;
-        for (controls::Control* entry : item->Children())
-            AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
+        menu->setToolTipsVisible(true);
+        for (controls::Control* entry : item->Children()) {
+            QAction* action = maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
+            if (OpensNothingYet(*entry)) Withhold(*action);
+        }
     }
 }
 
-void MainWindowView::AddEntry(QMenu& menu, controls::MenuItem& item) {
-    if (item.IsSeparator()) {
-        menu.addSeparator();
-        return;
-    }
-    QAction* action = menu.addAction(QString());
-    action->setShortcut(QKeySequence(Shown(item.access.shortcut)));
-    action->setCheckable(item.checkable);
-    mirror_.Add(item, std::make_unique<MenuItemAdapter>(item, *action));
+// What opens a window that is not drawn yet.
+bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
+    const std::initializer_list<const controls::Control*> openers{
+        &form_.FileSaveData, &form_.SettingAlwaysOnTop, &form_.MHelpAbout, &form_.Show_Settings};
+    return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 
 QWidget* MainWindowView::BuildTools() {
-    auto* tools = new QFrame;
+    QFrame* tools = maker_.Make(form_.MainTools);
     auto* rows = new QVBoxLayout(tools);
     rows->addLayout(BuildButtons());
     rows->addLayout(BuildChoices());
     rows->addLayout(BuildConnection());
     rows->addStretch();
     new FocusRing(tools);
-    mirror_.Add(form_.MainTools, std::make_unique<FrameAdapter>(form_.MainTools, *tools));
     return tools;
-}
-
-QPushButton* MainWindowView::MakeButton(controls::Button& button) {
-    auto* widget = new QPushButton;
-    widget->setIconSize({ToolIcon, ToolIcon});
-    widget->setObjectName(QString::fromStdString(button.Name()));
-    const QString name = Shown(button.access.name);
-    const QString shortcut = Shown(button.access.shortcut);
-    if (!shortcut.isEmpty()) {
-        // Beside the underlined letter, which the button's own shortcut would replace.
-        new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->click(); });
-        SetOwnTooltip(*widget, name + " (" + shortcut + ")");
-    }
-    Describe(*widget, name);
-    mirror_.Add(button, std::make_unique<ButtonAdapter>(button, *widget));
-    return widget;
-}
-
-QLabel* MainWindowView::MakeLabel(const controls::Label& label) {
-    auto* widget = new QLabel;
-    widget->setObjectName(QString::fromStdString(label.Name()));
-    mirror_.Add(label, std::make_unique<LabelAdapter>(label, *widget));
-    return widget;
-}
-
-QWidget* MainWindowView::MakeList(controls::List& list) {
-    auto* widget = new ListWidget;
-    widget->setObjectName(QString::fromStdString(list.Name()));
-    widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    Describe(*widget, Shown(list.access.name));
-    mirror_.Add(list, std::make_unique<ListAdapter>(list, *widget));
-    return widget;
 }
 
 QHBoxLayout* MainWindowView::BuildButtons() {
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeButton(form_.StartIt));
-    row->addWidget(MakeButton(form_.StopIt));
-    row->addWidget(MakeButton(form_.Show_Settings));
-    auto* busy = new QLabel;
-    Describe(*busy, Shown(form_.BusySign.access.name));
-    mirror_.Add(form_.BusySign, std::make_unique<PictureAdapter>(form_.BusySign, *busy, ToolIcon));
-    row->addWidget(busy);
-    row->addWidget(MakeLabel(form_.MeasSpeedInfo));
+    for (controls::Button* button : {&form_.StartIt, &form_.StopIt, &form_.Show_Settings}) {
+        QPushButton* widget = maker_.Make(*button);
+        if (OpensNothingYet(*button)) Withhold(*widget);
+        row->addWidget(widget);
+    }
+    row->addWidget(maker_.Make(form_.BusySign));
+    row->addWidget(maker_.Make(form_.MeasSpeedInfo));
     row->addStretch();
     return row;
 }
 
 QHBoxLayout* MainWindowView::BuildChoices() {
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeList(form_.SensSyncMode));
-    row->addWidget(MakeLabel(form_.SensorLabel));
-    row->addWidget(MakeList(form_.TimeSensor_select_new));
+    row->addWidget(maker_.Make(form_.SensSyncMode));
+    row->addWidget(maker_.Make(form_.SensorLabel));
+    row->addWidget(maker_.Make(form_.TimeSensor_select_new));
     row->addStretch();
     return row;
 }
 
 QHBoxLayout* MainWindowView::BuildConnection() {
     auto* row = new QHBoxLayout;
-    auto* picture = new QLabel;
-    Describe(*picture, Shown(form_.picConnected.access.name));
-    mirror_.Add(form_.picConnected,
-                std::make_unique<PictureAdapter>(form_.picConnected, *picture, IndicatorIcon));
-    row->addWidget(picture);
-    QLabel* connected = MakeLabel(form_.ConSensors);
+    row->addWidget(maker_.Make(form_.picConnected, IndicatorIcon));
+    QLabel* connected = maker_.Make(form_.ConSensors);
     QFont bold = connected->font();
     bold.setBold(true);
     connected->setFont(bold);
     row->addWidget(connected);
 
-    auto* notice = new QFrame;
+    QFrame* notice = maker_.Make(form_.ConnectedFrame);
     auto* inside = new QHBoxLayout(notice);
     inside->setContentsMargins(0, 0, 0, 0);
-    QLabel* text = MakeLabel(form_.lblMeasAwait);
+    QLabel* text = maker_.Make(form_.lblMeasAwait);
     text->setWordWrap(true);
     text->setMinimumHeight(NoticeLines * QFontMetrics(text->font()).lineSpacing());
     inside->addWidget(text);
-    mirror_.Add(form_.ConnectedFrame,
-                std::make_unique<FrameAdapter>(form_.ConnectedFrame, *notice));
     // The row keeps its height while the notice comes and goes.
     for (QWidget* hidden : {static_cast<QWidget*>(notice), static_cast<QWidget*>(text)}) {
         QSizePolicy policy = hidden->sizePolicy();
@@ -180,25 +137,19 @@ void MainWindowView::KeepResultsInSight() {
 }
 
 QWidget* MainWindowView::BuildFormulas() {
-    auto* outer = new QFrame;
+    QFrame* outer = maker_.Make(form_.MainFuncFrame);
+    QFrame* inner = maker_.Make(form_.CalcFrame);
     auto* outerLayout = new QVBoxLayout(outer);
-    auto* inner = new QFrame;
     auto* innerLayout = new QVBoxLayout(inner);
     outerLayout->setContentsMargins(0, 0, 0, 0);
     outerLayout->addWidget(inner);
+    innerLayout->addWidget(formulas_);
     // The formulas are always in sight, and take no more room than that.
     formulas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    formulas_->setObjectName("CalcGrid");
-    Describe(*formulas_, Shown(form_.CalcGrid.access.name));
-    innerLayout->addWidget(formulas_);
-    mirror_.Add(form_.MainFuncFrame, std::make_unique<FrameAdapter>(form_.MainFuncFrame, *outer));
-    mirror_.Add(form_.CalcFrame, std::make_unique<FrameAdapter>(form_.CalcFrame, *inner));
-    auto adapter = std::make_unique<GridAdapter>(form_.CalcGrid, *formulas_);
-    formulas_->onFit = [shown = adapter.get()] { shown->FitColumns(); };
-    adapter->onNeed = [this] { KeepResultsInSight(); };
-    mirror_.Add(form_.CalcGrid, std::move(adapter));
+    formulas_->onNeed = [this] { KeepResultsInSight(); };
+    formulas_->onFit();
     // Where room is short the formula gives way: names and results are what is read.
     formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;

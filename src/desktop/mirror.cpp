@@ -39,9 +39,6 @@ bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void Mirror::PaintNow() {
-    const auto now = std::chrono::steady_clock::now();
-    if (now - lastPaint_ < FrameTime) return;
-    lastPaint_ = now;
     Flush();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QUrl>
+#include <utility>
 
 #include "desktop/common.h"
 #include "desktop/qt_text.h"
@@ -38,25 +39,51 @@ QMessageBox::Icon ToolkitIcon(platform::MessageIcon icon) {
 
 }  // namespace
 
+void QtDialogs::SetParent(QWidget& parent) {
+    parent_ = &parent;
+    ShowNext();
+}
+
+void QtDialogs::Drop() {
+    waiting_.clear();
+    showsMessage_ = false;
+    for (const QPointer<QDialog>& dialog : std::exchange(open_, {})) {
+        if (dialog == nullptr) continue;
+        dialog->disconnect();
+        dialog->hide();
+        dialog->deleteLater();  // it may be what is just being answered
+    }
+}
+
+void QtDialogs::Open(QDialog& dialog, std::function<void(bool accepted)> finished) {
+    std::erase(open_, nullptr);
+    open_.emplace_back(&dialog);
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(&dialog, &QDialog::finished, [finished = std::move(finished)](int result) {
+        finished(result == QDialog::Accepted);
+    });
+    dialog.open();
+}
+
 void QtDialogs::Message(const std::string& title, const std::string& text,
                         platform::MessageIcon icon) {
-    auto* box = new QMessageBox(ToolkitIcon(icon), title.empty() ? ProgramName() : Shown(title),
-                                Shown(text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    waiting_.push_back(box);
-    if (shown_ == nullptr) ShowNext();
+    waiting_.push_back({title, text, icon});
+    ShowNext();
 }
 
 void QtDialogs::ShowNext() {
-    if (waiting_.empty()) return;
-    shown_ = waiting_.front();
+    if (showsMessage_ || waiting_.empty() || parent_ == nullptr) return;
+    showsMessage_ = true;
+    const WaitingMessage next = std::move(waiting_.front());
     waiting_.pop_front();
-    QObject::connect(shown_, &QDialog::finished, [this] {
-        shown_ = nullptr;
+    auto* box = new QMessageBox(ToolkitIcon(next.icon),
+                                next.title.empty() ? ProgramName() : Shown(next.title),
+                                Shown(next.text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
+    box->setTextFormat(Qt::PlainText);
+    Open(*box, [this](bool) {
+        showsMessage_ = false;
         ShowNext();
     });
-    shown_->open();
 }
 
 void QtDialogs::LastMessage(const std::string& text) {
@@ -68,18 +95,13 @@ void QtDialogs::LastMessage(const std::string& text) {
 
 void QtDialogs::Prompt(const std::string& text, const std::string& proposed, Answer answer) {
     auto* dialog = new QInputDialog(parent_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(ProgramName());
     dialog->setLabelText(Shown(text));
     dialog->setTextValue(Shown(proposed));
     dialog->resize(PromptWidth, dialog->sizeHint().height());
-    QObject::connect(dialog, &QDialog::finished, [dialog, answer](int result) {
-        if (result == QDialog::Accepted)
-            answer(Bytes(dialog->textValue()));
-        else
-            answer(std::nullopt);
+    Open(*dialog, [dialog, answer](bool accepted) {
+        answer(accepted ? std::optional(Bytes(dialog->textValue())) : std::nullopt);
     });
-    dialog->open();
 }
 
 QString ToolkitFilter(const std::string& filter) {
@@ -97,7 +119,6 @@ void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     const QStringList filters = ToolkitFilter(question.filter).split(";;");
     const QString proposed = Shown(question.proposed);
     auto* dialog = new QFileDialog(parent_, Shown(question.title), QFileInfo(proposed).path());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setNameFilters(filters);
@@ -105,13 +126,9 @@ void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     dialog->selectFile(proposed);
     // A name without a suffix gets that of the proposed one, as the filter lists it.
     dialog->setDefaultSuffix(QFileInfo(proposed).suffix());
-    QObject::connect(dialog, &QDialog::finished, [dialog, answer](int result) {
-        if (result == QDialog::Accepted)
-            answer(Bytes(dialog->selectedFiles().value(0)));
-        else
-            answer(std::nullopt);
+    Open(*dialog, [dialog, answer](bool accepted) {
+        answer(accepted ? std::optional(Bytes(dialog->selectedFiles().value(0))) : std::nullopt);
     });
-    dialog->open();
 }
 
 platform::ScreenSize QtDialogs::Screen() {

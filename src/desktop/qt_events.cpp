@@ -82,6 +82,7 @@ void QtEvents::Quit() {
     quit_ = true;
     timers_.Clear();
     due_.stop();
+    if (onQuit) onQuit();
     QCoreApplication::exit();  // not quit, which would first ask the windows, and those ask the
                                // rules
 }

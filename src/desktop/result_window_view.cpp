@@ -7,32 +7,26 @@
 
 #include "desktop/common.h"
 #include "desktop/icons.h"
-#include "desktop/qt_text.h"
-#include "desktop/simple_adapters.h"
+#include "desktop/widget_maker.h"
 
 namespace kelvra::desktop {
 
 ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area)
-    : form_(form), window_(new ChildWindow(form, area)), table_(new GridWidget(form.ResultGrid)) {
-    auto* frame = new QFrame;
+    : form_(form), window_(new ChildWindow(form, area)) {
+    WidgetMaker maker(mirror);
+    QFrame* frame = maker.Make(form.SensorFrame);
+    table_ = maker.Make(form.ResultGrid);
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(table_);
-    table_->setObjectName("ResultGrid");
-    Describe(*table_, Shown(form.ResultGrid.access.name));
     window_->setWidget(frame);
     // Without buttons: nothing would bring it back, and a maximised one would write into the title
     // of the program.
     window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     window_->setWindowIcon(Icon("kelvra"));
 
-    auto adapter = std::make_unique<GridAdapter>(form.ResultGrid, *table_);
-    adapter_ = adapter.get();
-    adapter_->onNeed = [this] { FitWindow(); };
-    table_->onFit = [this] { adapter_->FitColumns(); };
+    table_->onNeed = [this] { FitWindow(); };
     window_->onRoom = [this] { FitWindow(); };
-    mirror.Add(form.SensorFrame, std::make_unique<FrameAdapter>(form.SensorFrame, *frame));
-    mirror.Add(form.ResultGrid, std::move(adapter));
     mirror.Add(form, std::make_unique<ChildWindowAdapter>(form, *window_));
     FitWindow();
 }

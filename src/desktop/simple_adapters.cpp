@@ -10,15 +10,17 @@
 
 namespace kelvra::desktop {
 
-LabelAdapter::LabelAdapter(const controls::Label& label, QLabel& widget)
-    : label_(label), widget_(widget) {
+LabelAdapter::LabelAdapter(const controls::Label& label, QLabel& widget,
+                           const controls::Control* named)
+    : label_(label), widget_(widget), named_(named) {
     widget_.setTextFormat(Qt::PlainText);
 }
 
 void LabelAdapter::Update() {
     const QString caption = Shown(label_.caption.Get()).replace("\r\n", "\n");
-    if (widget_.text() != caption) {
-        widget_.setText(caption);
+    if (shown_ != caption) {
+        shown_ = caption;
+        widget_.setText(named_ == nullptr ? caption : MarkedText(*named_, label_.caption));
         widget_.setAccessibleName(caption);
     }
     UpdateCommon(widget_, label_);
@@ -48,7 +50,7 @@ MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
 void MenuItemAdapter::Update() {
     const QSignalBlocker quiet(action_);
     action_.setText(MarkedText(item_, item_.caption));
-    action_.setEnabled(item_.enabled);
+    action_.setEnabled(item_.enabled && !Withheld(action_));
     action_.setVisible(item_.visible);
     if (action_.isCheckable()) action_.setChecked(item_.checked);
 }

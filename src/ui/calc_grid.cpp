@@ -39,7 +39,9 @@ ReadingName ParseReadingName(std::string_view name) {
 
 CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host)
     : grid_(window.CalcGrid), table_(table), host_(host) {
-    grid_.click.Connect([this](int row, int column) { EditCell(row, column); });
+    grid_.click.Connect([this](int row, int column) { AskText(row, column); });
+    grid_.typed.Connect(
+        [this](int row, int column, const std::string& text) { SetText(row, column, text); });
 }
 
 void CalcGrid::LayOut() {
@@ -51,10 +53,13 @@ void CalcGrid::LayOut() {
         {{"DIFF", "ABS(X1dB-X2dB)", ""}, Align::Left},
         {{"SWR", "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))", ""}, Align::Left},
     };
-    for (int row = 0; row <= FormulaRows; ++row)
-        for (int column = NameColumn; column <= ResultColumn; ++column)
+    for (int row = 0; row <= FormulaRows; ++row) {
+        for (int column = NameColumn; column <= ResultColumn; ++column) {
             SetGridCell(grid_, row, column, rows[row].cells[column], rows[row].align,
                         row == 0 && column == NameColumn, false);
+            grid_.SetEditable(row, column, row > 0);
+        }
+    }
     grid_.SetWidth(FormulaColumn, FormulaWidth);
 }
 
@@ -103,14 +108,17 @@ std::string CalcGrid::BindReadings(parser::MathParser& parser) {
     return {};
 }
 
-// Whatever the prompt gives back is the cell's new text; a cancelled one empties the cell.
-void CalcGrid::EditCell(int row, int column) {
-    if (row < 1 || row > FormulaRows) return;
+// The answer is the cell's new text; a cancelled prompt empties the cell.
+void CalcGrid::AskText(int row, int column) {
+    if (!grid_.At(row, column).editable) return;
     host_.dialogs.Prompt("INPUT:", grid_.At(row, column).Text(),
                          [this, row, column](const std::optional<std::string>& answer) {
-                             SetGridCell(grid_, row, column, answer.value_or(""), Align::Left,
-                                         false, false);
+                             SetText(row, column, answer.value_or(""));
                          });
+}
+
+void CalcGrid::SetText(int row, int column, std::string_view text) {
+    SetGridCell(grid_, row, column, text, Align::Left, false, false);
 }
 
 }  // namespace kelvra::ui

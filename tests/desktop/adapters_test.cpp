@@ -2,10 +2,9 @@
 #include <QtTest>
 #include <functional>
 
-#include "desktop/common.h"
-#include "desktop/mirror.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_events.h"
+#include "desktop/room.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -17,13 +16,6 @@ class AdapterTest : public QObject {
         explicit Counting(int& count) : updates(count) {}
         void Update() override { ++updates; }
         int& updates;
-    };
-
-    // Outlives the records and widgets that a test puts into it.
-    struct Room {
-        controls::Changes changes;
-        controls::Window window{changes, "W", "", {}};
-        Mirror mirror{changes};
     };
 
 private slots:

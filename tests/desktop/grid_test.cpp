@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QtTest>
 
 #include "desktop/grid_adapter.h"
@@ -17,17 +18,22 @@ class GridTest : public QObject {
     controls::Grid grid_{window_, "G", 4, 3};
     std::unique_ptr<Mirror> mirror_;
     std::unique_ptr<GridWidget> table_;
-    GridAdapter* adapter_ = nullptr;
     QStringList events_;
 
     void Set(int row, int column, const char* text) {
         controls::SetGridCell(grid_, row, column, text, controls::Align::Left, false, false);
     }
 
+    // The editor that is open.
+    QLineEdit* Editor() { return table_->findChild<QLineEdit*>(); }
+
 private slots:
     void initTestCase() {
         grid_.mouseDown.Connect(
             [this](int row, int column) { events_ << QString("down %1 %2").arg(row).arg(column); });
+        grid_.typed.Connect([this](int row, int column, const std::string& text) {
+            events_ << QString("type %1 %2 ").arg(row).arg(column) + text.c_str();
+        });
         grid_.click.Connect([this](int row, int column) {
             events_ << QString("click %1 %2").arg(row).arg(column);
         });
@@ -39,9 +45,7 @@ private slots:
         for (int row = 0; row < 4; ++row)
             for (int column = 0; column < 3; ++column)
                 Set(row, column, std::string{char('a' + column), char('0' + row)}.c_str());
-        auto adapter = std::make_unique<GridAdapter>(grid_, *table_);
-        adapter_ = adapter.get();
-        mirror_->Add(grid_, std::move(adapter));
+        mirror_->Add(grid_, std::make_unique<GridAdapter>(grid_, *table_));
         table_->resize(400, 300);
         table_->show();
         events_.clear();
@@ -113,9 +117,54 @@ private slots:
         QVERIFY(!QApplication::clipboard()->text().isEmpty());
     }
 
+    void AnEditableCellIsEditedInPlace() {
+        grid_.SetEditable(1, 1, true);
+        mirror_->Flush();
+        const auto key = [&](Qt::Key pressed) { QTest::keyClick(table_.get(), pressed); };
+        const struct {
+            const char* begin;
+            std::function<void()> open;
+            const char* typed;
+            std::function<void()> end;
+            QString event;
+        } cases[] = {
+            {"Enter", [&] { key(Qt::Key_Return); }, "x",
+             [&] { QTest::keyClick(Editor(), Qt::Key_Return); }, "type 1 1 x"},
+            {"Space", [&] { key(Qt::Key_Space); }, "y",
+             [&] { QTest::keyClick(Editor(), Qt::Key_Tab); }, "type 1 1 y"},
+            {"F2", [&] { key(Qt::Key_F2); }, "z",
+             [&] { QTest::keyClick(Editor(), Qt::Key_Escape); }, ""},
+            {"a click", [&] { ClickCell(*table_, 0, 1); }, "v", [&] { table_->setFocus(); },
+             "type 1 1 v"},
+            {"typing", [&] { key(Qt::Key_W); }, "w", [&] { table_->setFocus(); }, "type 1 1 ww"},
+            {"untouched", [&] { key(Qt::Key_F2); }, "", [&] { table_->setFocus(); }, ""},
+        };
+        QApplication::setActiveWindow(table_.get());
+        for (const auto& c : cases) {
+            table_->setFocus();
+            table_->setCurrentCell(0, 1);
+            events_.clear();
+            c.open();
+            QVERIFY2(Editor() != nullptr, c.begin);
+            QTest::keyClicks(Editor(), c.typed);
+            Set(1, 1, c.begin);  // as a measurement does
+            mirror_->Flush();
+            c.end();
+            QTRY_VERIFY2(Editor() == nullptr, c.begin);
+            events_.removeAll("down 1 1");
+            QCOMPARE(events_.join(','), c.event);
+            QCOMPARE(table_->item(0, 1)->text(), c.begin);  // what the record says, and no other
+        }
+        for (const Qt::Key other : {Qt::Key_F2, Qt::Key_W}) {
+            table_->setCurrentCell(0, 0);
+            key(other);
+            QVERIFY(Editor() == nullptr);
+        }
+    }
+
     void ColumnsGrowWithTheirTextsAndStay() {
         int growths = 0;
-        adapter_->onNeed = [&] { ++growths; };
+        table_->onNeed = [&] { ++growths; };
         const int before = table_->columnWidth(1);
         for (const char* text : {"a text as long as this one is wide", "short"}) {
             Set(1, 1, text);

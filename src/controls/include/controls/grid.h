@@ -29,7 +29,8 @@ public:
         CellText content;
         Look look;
         std::string tooltip;
-        bool changed = false;  // since the last TakeChangedCells
+        bool editable = false;  // a person may type into it
+        bool changed = false;   // since the last TakeChangedCells
 
         const std::string& Text() const { return content.Get(); }
     };
@@ -56,6 +57,7 @@ public:
     void SetLook(int row, int column, const Look& look);
 
     void SetCellTooltip(int row, int column, std::string_view text);
+    void SetEditable(int row, int column, bool editable);
 
     // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up
     // again.
@@ -64,6 +66,11 @@ public:
     // What a person does to a cell: a press, and for a whole click the click after it.
     void PressCell(int row, int column) { mouseDown.Raise(row, column); }
     void ClickCell(int row, int column) { click.Raise(row, column); }
+
+    // A person has typed a text into a cell that is editable; others raise nothing. What the cell
+    // then says is the listener's business.
+    void TypeCell(int row, int column, const std::string& text);
+    Event<int, int, const std::string&> typed;
 
     Property<std::optional<Colour>> fixedBack{*this, std::nullopt};  // heading cells
     Property<std::optional<Colour>> emptyBack{*this, std::nullopt};  // where there are no cells

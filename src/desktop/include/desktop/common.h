@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What all adapters do alike: enabled, visible, tooltip, colours, sizes.
+// What all adapters do alike: enabled, visible, tooltip, names, sizes.
 #pragma once
 
-#include <QColor>
+#include <QAction>
 #include <QWidget>
 #include <string>
 
@@ -10,14 +10,11 @@
 
 namespace kelvra::desktop {
 
-// A colour of the rules (blue-green-red).
-QColor ToolkitColour(controls::Colour colour);
-
 // Twips (15 to a pixel at 96 dpi) in the widget's logical pixels.
 int Pixels(int twips);
 int Twips(int pixels);
 
-// Enabled, visible, tooltip, background and text colour. A dark background gets white text.
+// Enabled, visible, tooltip, colours.
 void UpdateCommon(QWidget& widget, const controls::Control& control);
 
 // A text for a tooltip, which would take some texts for markup.
@@ -30,7 +27,10 @@ void SetOwnTooltip(QWidget& widget, const QString& text);
 // wants it.
 QString MarkedText(const controls::Control& control, const std::string& caption);
 
-// For screen readers: what the control is, in words, where its caption doesn't say it.
-void Describe(QWidget& widget, const QString& name);
+// For what opens a window that this front end doesn't have yet: the widget or menu entry stays
+// disabled, and says why. The record knows nothing of it.
+void Withhold(QWidget& widget);
+void Withhold(QAction& entry);
+bool Withheld(const QObject& shown);
 
 }  // namespace kelvra::desktop

@@ -20,7 +20,7 @@ class Desktop {
 public:
     Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
             const std::string& dataFolder);
-    ~Desktop() { events_.onRepaint = nullptr; }
+    ~Desktop() { events_.onRepaint = events_.onQuit = nullptr; }
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The adapter of a grid: a table whose heading is the grid's row 0. Only cells that have changed
 // are touched. A person presses and clicks cells with the mouse, or with Enter and Space on the
-// keyboard, copies the selected ones with Ctrl+C, and enlarges the font with Ctrl and the wheel.
+// keyboard; where the grid lets cells be edited, these begin to edit, as F2 and typing do. Ctrl+C
+// copies the selected cells, Ctrl and the wheel enlarge the font.
 #pragma once
 
 #include <QTableWidget>
@@ -22,7 +23,8 @@ public:
     // Steps of the font's size, 0 is the normal one.
     void SetZoom(int steps);
     int Zoom() const { return zoom_; }
-    std::function<void()> onFit;    // the font is another one: columns and rows want fitting
+    std::function<void()> onFit;    // gives columns and rows the room that the font needs
+    std::function<void()> onNeed;   // the table needs other room than before
     std::function<void()> onWheel;  // by a person's wheel
 
     // The most that a column takes: some characters, so that every column of a table without a
@@ -41,6 +43,7 @@ protected:
 
 private:
     static bool Selects();
+    bool Edits(int row, int column);
     void Activate(int row, int column);
 
     controls::Grid& grid_;
@@ -54,13 +57,10 @@ public:
     GridAdapter(controls::Grid& grid, GridWidget& widget);
     void Update() override;
 
-    // After a change of the font: columns and heading get the room that they need.
-    void FitColumns();
-    // Told when the table needs other room than before.
-    std::function<void()> onNeed;
-
 private:
     void Shape();
+    void FitColumns();
+    void Need();
     void ShowCell(int row, int column);
     void ShowHeading(int column);
     void Widen(int column, const QString& text, const QFont& font);

@@ -6,15 +6,12 @@
 #include <QMdiArea>
 #include <functional>
 
-#include "desktop/grid_adapter.h"
 #include "desktop/mirror.h"
+#include "desktop/widget_maker.h"
 #include "desktop/window_adapters.h"
 #include "forms/main_window.h"
 
 class QHBoxLayout;
-class QLabel;
-class QMenu;
-class QPushButton;
 
 namespace kelvra::desktop {
 
@@ -33,19 +30,17 @@ public:
 
 private:
     void BuildMenus();
-    void AddEntry(QMenu& menu, controls::MenuItem& item);
+    bool OpensNothingYet(const controls::Control& control) const;
     QWidget* BuildTools();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();
     QHBoxLayout* BuildConnection();
     QWidget* BuildFormulas();
     void KeepResultsInSight();
-    QPushButton* MakeButton(controls::Button& button);
-    QLabel* MakeLabel(const controls::Label& label);
-    QWidget* MakeList(controls::List& list);
 
     forms::MDIMain& form_;
     Mirror& mirror_;
+    WidgetMaker maker_;
     FrameWindow widget_;
     QMdiArea* area_;
     GridWidget* formulas_;

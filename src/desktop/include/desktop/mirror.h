@@ -25,7 +25,7 @@ public:
 
     // Shows everything that has changed, now.
     void Flush();
-    // The same, painted without delivering input; at most as often as by itself.
+    // The same, painted without delivering input, for what takes a while and delivers no events.
     void PaintNow();
 
 protected:
@@ -35,7 +35,6 @@ private:
     controls::Changes& changes_;
     std::unordered_map<const controls::Control*, std::unique_ptr<Adapter>> adapters_;
     QTimer timer_;
-    std::chrono::steady_clock::time_point lastPaint_{};
 };
 
 }  // namespace kelvra::desktop

@@ -3,20 +3,31 @@
 // the program waiting, but for the last message before its end.
 #pragma once
 
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 #include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/dialogs.h"
-
-class QMessageBox;
 
 namespace kelvra::desktop {
 
 class QtDialogs final : public platform::Dialogs {
 public:
-    // The window that dialogs stand over; none before it is there.
-    void SetParent(QWidget* parent) { parent_ = parent; }
+    QtDialogs() = default;
+    ~QtDialogs() override { Drop(); }
+    QtDialogs(const QtDialogs&) = delete;
+    QtDialogs& operator=(const QtDialogs&) = delete;
+
+    // The window that dialogs are shown over. Messages wait until it is there.
+    void SetParent(QWidget& parent);
+
+    // Takes all dialogs away: nobody is there any more to hear their answers.
+    void Drop();
 
     // One box at a time: a message waits until the one before has been confirmed.
     void Message(const std::string& title, const std::string& text,
@@ -28,11 +39,19 @@ public:
     platform::ScreenSize Screen() override;
 
 private:
+    struct WaitingMessage {
+        std::string title, text;
+        platform::MessageIcon icon;
+    };
+
     void ShowNext();
+    // Deletes itself when it is finished, which is reported before.
+    void Open(QDialog& dialog, std::function<void(bool accepted)> finished);
 
     QPointer<QWidget> parent_;
-    QPointer<QMessageBox> shown_;
-    std::deque<QMessageBox*> waiting_;  // their parent's
+    std::vector<QPointer<QDialog>> open_;
+    std::deque<WaitingMessage> waiting_;
+    bool showsMessage_ = false;
 };
 
 // "Text (*.txt)|*.txt|All files (*.*)|*.*" as the toolkit has it: "Text (*.txt);;All files (*)".

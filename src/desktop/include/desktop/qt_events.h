@@ -30,6 +30,8 @@ public:
 
     // Paints what has changed; the windows provide it.
     std::function<void()> onRepaint;
+    // The program has ended; what still waits for a person goes.
+    std::function<void()> onQuit;
 
     bool HasQuit() const { return quit_; }
 

@@ -22,8 +22,7 @@ private:
 
     forms::StatusForm& form_;
     ChildWindow* window_;  // the area's
-    GridWidget* table_;
-    GridAdapter* adapter_;
+    GridWidget* table_ = nullptr;
     bool fitting_ = false;
 };
 

@@ -16,12 +16,16 @@ namespace kelvra::desktop {
 
 class LabelAdapter final : public Adapter {
 public:
-    LabelAdapter(const controls::Label& label, QLabel& widget);
+    // `named` is the control that the label names, with the letter of that control.
+    LabelAdapter(const controls::Label& label, QLabel& widget,
+                 const controls::Control* named = nullptr);
     void Update() override;
 
 private:
     const controls::Label& label_;
     QLabel& widget_;
+    const controls::Control* named_;
+    QString shown_;
 };
 
 class ButtonAdapter final : public Adapter {

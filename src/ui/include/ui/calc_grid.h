@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The calculation grid: two formulas of the user over the latest readings, computed once a pass.
-// A click on a cell asks for its new text. The formula language itself is parser/.
+// Cells below the heading are editable: a front end lets them be typed into, or clicks, which asks
+// for the new text. The formula language itself is parser/.
 #pragma once
 
 #include <memory>
@@ -41,7 +42,8 @@ private:
     parser::MathParser& EvaluatorOf(int row);
     // Name of the first variable that has no reading, empty if all have one; binds the others.
     std::string BindReadings(parser::MathParser& parser);
-    void EditCell(int row, int column);
+    void AskText(int row, int column);
+    void SetText(int row, int column, std::string_view text);
 
     controls::Grid& grid_;
     sensors::SensorTable& table_;

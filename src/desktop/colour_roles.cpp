@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/colour_roles.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+using controls::Kind;
+
+constexpr int DarkBelow = 110;  // of 255, as the eye weighs it
+
+struct Roles {
+    QPalette::ColorRole back = QPalette::NoRole;
+    QPalette::ColorRole fore = QPalette::NoRole;
+};
+
+constexpr Roles Surface{QPalette::Window, QPalette::WindowText};
+constexpr Roles Key{QPalette::Button, QPalette::ButtonText};
+constexpr Roles Sheet{QPalette::Base, QPalette::Text};
+constexpr Roles None{};
+
+struct KindRoles {
+    Kind kind;
+    Roles roles;
+};
+
+// In the order of the kinds.
+constexpr KindRoles Table[] = {
+    {Kind::Label, Surface},  {Kind::Button, Key},       {Kind::MenuItem, None},
+    {Kind::TextBox, Sheet},  {Kind::CheckBox, Surface}, {Kind::OptionGroup, Surface},
+    {Kind::Option, Surface}, {Kind::List, Key},         {Kind::Grid, None},
+    {Kind::Graph, Sheet},    {Kind::RichText, Sheet},   {Kind::Picture, Surface},
+    {Kind::Frame, Surface},  {Kind::Window, Surface},
+};
+
+constexpr bool InOrder() {
+    int place = 0;
+    for (const KindRoles& row : Table)
+        if (static_cast<int>(row.kind) != place++) return false;
+    return place == static_cast<int>(Kind::Window) + 1;
+}
+static_assert(InOrder());
+
+}  // namespace
+
+QColor ToolkitColour(controls::Colour colour) {
+    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+            static_cast<int>(colour >> 16 & 0xFF)};
+}
+
+void UpdateColours(QWidget& widget, const controls::Control& control) {
+    const Roles roles = Table[static_cast<int>(control.GetKind())].roles;
+    if (roles.back == QPalette::NoRole) return;
+    const auto& back = control.back.Get();
+    const auto& fore = control.fore.Get();
+    QPalette own;  // without a colour of its own: those around the widget
+    own.setResolveMask(0);
+    if (back) {
+        const QColor colour = ToolkitColour(*back);
+        own.setColor(roles.back, colour);
+        if (qGray(colour.rgb()) < DarkBelow) own.setColor(roles.fore, Qt::white);
+    }
+    if (fore) own.setColor(roles.fore, ToolkitColour(*fore));
+    widget.setPalette(own);
+    if (roles.back == QPalette::Window) widget.setAutoFillBackground(back.has_value());
+}
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/entry_adapters.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+#include "desktop/common.h"
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+TextBoxAdapter::TextBoxAdapter(controls::TextBox& box, QLineEdit& widget)
+    : box_(box), widget_(widget) {
+    QObject::connect(&widget_, &QLineEdit::textEdited,
+                     [this](const QString& text) { box_.Type(Bytes(text)); });
+    // Also after Enter, when nothing is left to commit.
+    QObject::connect(&widget_, &QLineEdit::editingFinished, [this] { box_.Leave(); });
+}
+
+void TextBoxAdapter::Update() {
+    if (const QString text = Shown(box_.Text()); widget_.text() != text) widget_.setText(text);
+    UpdateCommon(widget_, box_);
+}
+
+CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)
+    : box_(box), widget_(widget) {
+    QObject::connect(&widget_, &QCheckBox::clicked, [this] {
+        box_.Toggle();
+        Update();  // the mark is the record's, whatever the widget has ticked by itself
+    });
+}
+
+void CheckBoxAdapter::Update() {
+    if (const QString text = MarkedText(box_, box_.caption); widget_.text() != text)
+        widget_.setText(text);
+    widget_.setChecked(box_.Checked());
+    UpdateCommon(widget_, box_);
+}
+
+OptionAdapter::OptionAdapter(controls::Option& option, QRadioButton& widget)
+    : option_(option), widget_(widget) {
+    QObject::connect(&widget_, &QRadioButton::clicked, [this] { option_.Press(); });
+}
+
+// The toolkit takes the mark from the others when one gets it.
+void OptionAdapter::Update() {
+    if (const QString text = MarkedText(option_, option_.caption); widget_.text() != text)
+        widget_.setText(text);
+    if (option_.Checked()) widget_.setChecked(true);
+    UpdateCommon(widget_, option_);
+}
+
+void OptionGroupAdapter::Update() {
+    widget_.setFocusProxy(options_.value(group_.Selected()));
+    UpdateCommon(widget_, group_);
+}
+
+namespace {
+
+class KeyReporter final : public QObject {
+public:
+    KeyReporter(controls::Focusable& control, QWidget& widget)
+        : QObject(&widget), control_(control) {
+        widget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* widget, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+            control_.PressKey(Name(static_cast<const QKeyEvent&>(*event)));
+        return QObject::eventFilter(widget, event);
+    }
+
+private:
+    static controls::Key Name(const QKeyEvent& event) {
+        if (event.key() == Qt::Key_Return) return "Enter";
+        return Bytes(QKeySequence(event.key()).toString(QKeySequence::PortableText));
+    }
+
+    controls::Focusable& control_;
+};
+
+}  // namespace
+
+void ReportKeys(controls::Focusable& control, QWidget& widget) {
+    new KeyReporter(control, widget);
+}
+
+}  // namespace kelvra::desktop

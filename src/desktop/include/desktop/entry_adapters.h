@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Adapters of what a form is filled in with: text boxes, check boxes, groups of options.
+#pragma once
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "controls/kinds.h"
+#include "controls/option_group.h"
+#include "desktop/adapter.h"
+
+namespace kelvra::desktop {
+
+// Each letter is typed into the record; Enter and turning to another control commit. A text that is
+// being typed stays as it is unless the record says something else.
+class TextBoxAdapter final : public Adapter {
+public:
+    TextBoxAdapter(controls::TextBox& box, QLineEdit& widget);
+    void Update() override;
+
+private:
+    controls::TextBox& box_;
+    QLineEdit& widget_;
+};
+
+class CheckBoxAdapter final : public Adapter {
+public:
+    CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget);
+    void Update() override;
+
+private:
+    controls::CheckBox& box_;
+    QCheckBox& widget_;
+};
+
+// One option of a group, beside the others in the same parent.
+class OptionAdapter final : public Adapter {
+public:
+    OptionAdapter(controls::Option& option, QRadioButton& widget);
+    void Update() override;
+
+private:
+    controls::Option& option_;
+    QRadioButton& widget_;
+};
+
+// What holds the options; the keyboard reaches the one that is selected.
+class OptionGroupAdapter final : public Adapter {
+public:
+    OptionGroupAdapter(const controls::OptionGroup& group, QWidget& widget,
+                       QList<QRadioButton*> options)
+        : group_(group), widget_(widget), options_(std::move(options)) {}
+    void Update() override;
+
+private:
+    const controls::OptionGroup& group_;
+    QWidget& widget_;
+    QList<QRadioButton*> options_;
+};
+
+// Reports the widget's keys to the record, under their usual names, before the widget acts on them.
+void ReportKeys(controls::Focusable& control, QWidget& widget);
+
+}  // namespace kelvra::desktop
