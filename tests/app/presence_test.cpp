@@ -55,8 +55,10 @@ TEST_F(PresenceTest, TheListsFollowSwitchesAndNames) {
     Switch(0);
     Tick();
     EXPECT_EQ(Listed(), (Items{{"B", 1}}));
-    Switch(0);
     driver.devices[1].name = "new";
+    Tick();
+    EXPECT_EQ(Listed(), (Items{{"new", 1}}));
+    Switch(0);
     Tick();
     EXPECT_EQ(Listed(), (Items{{"A", 0}, {"new", 1}}));
 }
@@ -82,13 +84,14 @@ TEST_F(PresenceTest, TheUsersNameLastsAndOneOfSpacesIsNone) {
     EXPECT_EQ(Current(), "output");
 }
 
-TEST_F(PresenceTest, ATypedNameIsNeitherInterruptedNorCommittedByAPlugIn) {
+TEST_F(PresenceTest, ANameBeingTypedIsNeitherReplacedNorCommittedByATick) {
     StartWith(1);
     NameBox().Type("inp");
     driver.devices.push_back({"B", "PS-101", "2"});
+    driver.devices[0].name = "listed";
     Tick();
     EXPECT_EQ(NameBox().Text(), "inp");
-    EXPECT_EQ(Current(), "A");
+    EXPECT_EQ(Current(), "listed");
     Name("input");
     EXPECT_EQ(Current(), "input");
 }

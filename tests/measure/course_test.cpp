@@ -107,23 +107,25 @@ TEST_F(CourseTest, TheNoticeShowsTheHighestRankAndThenTheNext) {
 
 TEST_F(CourseTest, TheSpeedCountsWholePassesWithoutPausesAndThePictureMovesAllTheTime) {
     const struct {
+        const char* slow;    // the call that takes time
+        bool sendsSettings;  // in each pass
         milliseconds pass;
         std::int32_t interval;  // s
         std::string speed;
         int pictures;  // at the end of ten seconds
     } cases[] = {
-        {milliseconds(100), 0, "10 /s", 9},
-        {milliseconds(300), 2, "3 /s", 9},
-        {seconds(3), 0, "0 /s", 3},
+        {"psdrv_meass_fetchMeasurement", false, milliseconds(100), 0, "10 /s", 9},
+        {"psdrv_chan_reset", true, milliseconds(100), 0, "10 /s", 9},
+        {"psdrv_meass_fetchMeasurement", false, milliseconds(300), 2, "3 /s", 9},
+        {"psdrv_meass_fetchMeasurement", false, seconds(3), 0, "0 /s", 3},
     };
     for (const auto& c : cases) {
         WholeKelvra run;
         run.StartWith(1);
         run.program->state.recordInterval = c.interval;
         run.driver.onCall = [&](std::string_view name) {
-            if (name == "psdrv_meass_fetchMeasurement") run.fake.clock.Advance(c.pass);
+            if (name == c.slow) run.fake.clock.Advance(c.pass);
         };
-        run.fake.events.roundTime = {};
         const platform::Duration began = run.fake.clock.Monotonic();
         int pictures = 0;
         std::string last = "1";
@@ -131,6 +133,8 @@ TEST_F(CourseTest, TheSpeedCountsWholePassesWithoutPausesAndThePictureMovesAllTh
             const std::string tag = run.program->forms.mdiMain.BusySign.tag;
             pictures += tag != last ? 1 : 0;
             last = tag;
+            auto& entry = run.program->table[0];
+            if (c.sendsSettings && entry.measPending == 0) entry.settingsChanged = true;
             if (run.fake.clock.Monotonic() - began > seconds(10)) run.PressStop();
         };
         run.PressStart();
@@ -154,7 +158,7 @@ TEST_F(CourseTest, StopGetsThroughWithinASecondHoweverManyCallsAreSlow) {
             slow = slow || name == c.from;
             if (!slow) return;
             if (!slowSince) slowSince = run.fake.clock.Monotonic();
-            run.fake.clock.Advance(milliseconds(20));
+            run.fake.clock.Advance(milliseconds(40));
         };
         platform::Duration stopped{};
         run.fake.events.onRound = [&](int) {
