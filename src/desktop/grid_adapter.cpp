@@ -133,7 +133,8 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
             QApplication::clipboard()->setText(text);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                event->key() == Qt::Key_Space) {
-        Activate(currentRow(), currentColumn());
+        if (state() != EditingState)  // the editor's Enter comes here, too
+            Activate(currentRow(), currentColumn());
     } else {
         QTableWidget::keyPressEvent(event);
     }
