@@ -127,16 +127,6 @@ private slots:
         QVERIFY(prompt == nullptr);
     }
 
-    void WhatIsOpenGoesWithTheWindows() {
-        const QTemporaryDir data;
-        {
-            RunningDesktop running(data);
-            running.kelvra.host.dialogs.Message("", "open", platform::MessageIcon::None);
-            running.kelvra.host.dialogs.Prompt("INPUT:", "", [](const auto&) { QFAIL("dead"); });
-        }
-        QVERIFY(QApplication::activeModalWidget() == nullptr);
-    }
-
     // The driver's next call may take seconds, in which no event is delivered.
     void TheStateOfATransferIsPaintedAtOnce() {
         const QTemporaryDir data;
