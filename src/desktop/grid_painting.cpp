@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/grid_painting.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -36,7 +35,10 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     auto* editor = new QLineEdit(index.data(Qt::DisplayRole).toString(), parent);
     editor->setFrame(false);
     editor->setFont(option.font);
-    editor->setPalette(QApplication::palette());  // not that of the table's empty part
+    QPalette sheet;  // not the colour of the table's empty part
+    sheet.setColor(QPalette::Base, Qt::white);
+    sheet.setColor(QPalette::Text, Qt::black);
+    editor->setPalette(sheet);
     editor->setAutoFillBackground(true);
     return editor;
 }

@@ -9,6 +9,7 @@
 #include "controls/visit.h"
 #include "desktop/common.h"
 #include "desktop/entry_adapters.h"
+#include "desktop/grid_adapter.h"
 #include "desktop/qt_text.h"
 #include "desktop/simple_adapters.h"
 

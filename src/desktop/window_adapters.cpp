@@ -54,12 +54,12 @@ void FrameWindowAdapter::Update() {
     widget_.setVisible(window_.visible);
 }
 
-// The rules know a usual screen; on a smaller one the window is moved and cut to what is there,
-// with room for its title bar.
+// The rules count from the corner of the screen's free part; on a small screen the window is moved
+// and cut to what is there, with room for its title bar.
 QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
     const QRect screen = widget_.screen()->availableGeometry();
     const int title = widget_.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    QRect wanted(QPoint(Pixels(place.left), Pixels(place.top)), SizeOf(place));
+    QRect wanted(screen.topLeft() + QPoint(Pixels(place.left), Pixels(place.top)), SizeOf(place));
     const bool tooHigh = wanted.height() + title > screen.height();
     const QRect room = tooHigh ? screen.adjusted(0, title, 0, 0) : screen;
     wanted.setSize(wanted.size().boundedTo(room.size()));

@@ -7,6 +7,7 @@ namespace kelvra::desktop {
 
 // The groups of tests, each made by its own file.
 std::unique_ptr<QObject> AdapterTests();
+std::unique_ptr<QObject> DialogsTests();
 std::unique_ptr<QObject> EntriesTests();
 std::unique_ptr<QObject> GridTests();
 std::unique_ptr<QObject> WindowTests();
@@ -18,7 +19,8 @@ int main(int argc, char** argv) {
     using namespace kelvra::desktop;
     QApplication application(argc, argv);
     int failures = 0;
-    for (const auto& make : {AdapterTests, EntriesTests, GridTests, WindowTests, ProgramTests})
+    for (const auto& make :
+         {AdapterTests, DialogsTests, EntriesTests, GridTests, WindowTests, ProgramTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }

@@ -18,11 +18,6 @@ namespace kelvra::desktop {
 
 class QtDialogs final : public platform::Dialogs {
 public:
-    QtDialogs() = default;
-    ~QtDialogs() override { Drop(); }
-    QtDialogs(const QtDialogs&) = delete;
-    QtDialogs& operator=(const QtDialogs&) = delete;
-
     // The window that dialogs are shown over. Messages wait until it is there.
     void SetParent(QWidget& parent);
 

@@ -4,7 +4,7 @@
 
 #include <QMdiArea>
 
-#include "desktop/grid_adapter.h"
+#include "desktop/grid_widget.h"
 #include "desktop/mirror.h"
 #include "desktop/window_adapters.h"
 #include "forms/status_form.h"

@@ -15,7 +15,7 @@
 #include <QRadioButton>
 
 #include "controls/field.h"
-#include "desktop/grid_adapter.h"
+#include "desktop/grid_widget.h"
 #include "desktop/mirror.h"
 
 namespace kelvra::desktop {

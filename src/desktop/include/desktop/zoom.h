@@ -7,7 +7,7 @@
 #include <QMenu>
 #include <vector>
 
-#include "desktop/grid_adapter.h"
+#include "desktop/grid_widget.h"
 #include "desktop/preferences.h"
 
 namespace kelvra::desktop {

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+
+#include "desktop/common.h"
+#include "desktop/running_desktop.h"
+#include "ui/result_columns.h"
+
+namespace kelvra::desktop {
+
+class DialogsTest : public QObject {
+    Q_OBJECT
+
+    template <class Dialog>
+    static QList<Dialog*> Visible(const QWidget& parent) {
+        QList<Dialog*> shown;
+        for (auto* dialog : parent.findChildren<Dialog*>())
+            if (dialog->isVisible()) shown << dialog;
+        return shown;
+    }
+
+    struct Passes : measure::MeasurementListener {
+        void PassMeasured() override { ++count; }
+        int count = 0;
+    };
+
+    // What the status column says whenever the table is painted.
+    struct Painted : QObject {
+        explicit Painted(QTableWidget& watched) : table(watched) {
+            table.viewport()->installEventFilter(this);
+        }
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() != QEvent::Paint) return false;
+            QStringList now;
+            for (const int row : {0, 1}) now << table.item(row, ui::StatusColumn)->text();
+            texts << now.join('|');
+            return false;
+        }
+        QTableWidget& table;
+        QStringList texts;
+    };
+
+private slots:
+    void MessagesWaitForTheWindowAndForEachOther() {
+        QtDialogs dialogs;
+        QWidget window;
+        for (const char* text : {"one", "two"})
+            dialogs.Message("", text, platform::MessageIcon::Information);
+        window.show();
+        dialogs.SetParent(window);
+        for (const char* text : {"one", "two"}) {
+            const auto shown = Visible<QMessageBox>(window);
+            QCOMPARE(shown.size(), 1);
+            QCOMPARE(shown.first()->text(), text);
+            QTest::mouseClick(shown.first()->button(QMessageBox::Ok), Qt::LeftButton);
+        }
+        QCOMPARE(Visible<QMessageBox>(window).size(), 0);
+    }
+
+    void APromptAnswersWithItsTextOrWithNothing() {
+        QtDialogs dialogs;
+        QWidget window;
+        window.show();
+        dialogs.SetParent(window);
+        const struct {
+            Qt::Key key;
+            std::optional<std::string> answer;
+        } cases[] = {{Qt::Key_Return, "proposed"}, {Qt::Key_Escape, std::nullopt}};
+        for (const auto& c : cases) {
+            std::optional<std::string> answer = "none yet";
+            dialogs.Prompt("INPUT:", "proposed", [&](auto text) { answer = std::move(text); });
+            QTest::keyClick(Visible<QInputDialog>(window).first(), c.key);
+            QVERIFY(answer == c.answer);
+        }
+    }
+
+    void PassesGoOnWhileAFileIsChosen() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& kelvra = running.kelvra;
+        Passes passes;
+        kelvra.news.measurement.Add(passes);
+        const QString path = data.filePath("chosen.ini");
+        bool open = false;
+        When(
+            running.Main(), [&] { return passes.count >= 1; },
+            [&] {
+                kelvra.forms.mdiMain.Save_Sensor_Settings.Press();
+                open = Visible<QFileDialog>(running.Main()).size() == 1;
+                passes.count = 0;
+            });
+        When(
+            running.Main(), [&] { return open && passes.count >= 3; },
+            [&] {
+                auto* dialog = Visible<QFileDialog>(running.Main()).first();
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+                QTest::keyClick(dialog, Qt::Key_Return);
+                kelvra.cycle.Stop();
+            });
+        QTimer::singleShot(10000, &running.Main(), [&] { kelvra.cycle.Stop(); });
+        running.Click("StartIt");
+        QVERIFY(open);
+        QVERIFY(QFile::exists(path));
+        QVERIFY(Visible<QFileDialog>(running.Main()).isEmpty());
+    }
+
+    void AnswersAfterTheExitReachNobody() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        int answers = 0;
+        platform::Dialogs& dialogs = running.kelvra.host.dialogs;
+        dialogs.Prompt("INPUT:", "", [&](const auto&) { ++answers; });
+        dialogs.AskFile({}, [&](const auto&) { ++answers; });
+        for (const char* text : {"one", "two"})
+            dialogs.Message("", text, platform::MessageIcon::None);
+        QCOMPARE(Visible<QDialog>(running.Main()).size(), 3);
+        const QPointer<QDialog> prompt = running.Main().findChild<QInputDialog*>();
+        running.kelvra.Exit();
+        QCOMPARE(Visible<QDialog>(running.Main()).size(), 0);
+        prompt->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(answers, 0);
+        QVERIFY(prompt == nullptr);
+    }
+
+    // The driver's next call may take seconds, in which no event is delivered.
+    void TheStateOfATransferIsPaintedAtOnce() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        Painted painted(running.Results());
+        auto& marks = running.kelvra.windows.marks;
+        marks.TransferBegins(0);
+        marks.TransferEnds(0);
+        marks.TransferBegins(1);
+        QCOMPARE(painted.texts, (QStringList{"CONF|", "|", "|CONF"}));
+    }
+
+    void TheFrameIsInTheMiddleOfTheScreenThatIsThere() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const auto& place = running.kelvra.forms.mdiMain.place.Get();
+        QCOMPARE(2 * place.left + place.width, Twips(screen.width()));
+    }
+};
+
+std::unique_ptr<QObject> DialogsTests() {
+    return std::make_unique<DialogsTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "dialogs_test.moc"
