@@ -61,7 +61,7 @@ void SettingsCommands::Save(const std::string& path) {
     if (const std::error_code error = Write(path)) Complain("saved", path, error);
 }
 
-// Where Kelvra's own files are, others may be changing them.
+// In the data folder, another Kelvra may be changing the file.
 std::error_code SettingsCommands::Write(const std::string& path) {
     std::optional<platform::FolderLock> lock;
     const std::string folder = host_.computer.ProgramFolder();
