@@ -21,7 +21,7 @@ namespace {
 constexpr int LeastZoom = -3;
 constexpr int MostZoom = 12;
 constexpr qreal ZoomStep = 1.15;
-constexpr int CellMargin = 16;  // pixels beside a text
+constexpr int CellMargin = 16;  // pixels, both sides of a text together
 
 Qt::Alignment ToolkitAlign(controls::Align align) {
     return Qt::AlignVCenter | (align == controls::Align::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
@@ -82,7 +82,7 @@ void GridWidget::SetZoom(int steps) {
     if (onFit) onFit();
 }
 
-// A click with these keys extends the selection and means nothing else.
+// A click with these keys only extends the selection.
 bool GridWidget::Selects() {
     return (QApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
 }
@@ -93,7 +93,7 @@ void GridWidget::Activate(int row, int column) {
     if (!Edits(row, column)) grid_.ClickCell(row + 1, column);
 }
 
-// Opens the editor where the record lets the cell be edited.
+// Opens the editor if the record says that the cell is editable.
 bool GridWidget::Edits(int row, int column) {
     if (!grid_.At(row + 1, column).editable) return false;
     edit(model()->index(row, column));
@@ -144,7 +144,7 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    // A fine wheel or a touchpad turns in small parts of a step.
+    // A fine wheel or a touchpad turns by small parts of a step.
     turned_ += event->angleDelta().y();
     const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
     turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
@@ -180,7 +180,7 @@ void GridAdapter::Update() {
     UpdateCommon(widget_, grid_);
 }
 
-// The first time, and whenever the grid has other rows, widths or colours: every cell is shown.
+// Shows every cell: the first time, and whenever the grid's rows, widths or colours have changed.
 void GridAdapter::Shape() {
     widget_.setRowCount(grid_.Rows() - 1);
     widget_.setColumnCount(grid_.Columns());
@@ -252,7 +252,7 @@ void GridAdapter::ShowCell(int row, int column) {
     Widen(column, text, item->font());
 }
 
-// Columns grow with their texts and don't shrink: a table that jumps can't be read.
+// Columns grow with their texts and don't shrink: a table whose columns jump can't be read.
 void GridAdapter::Widen(int column, const QString& text, const QFont& font) {
     if (text.isEmpty()) return;
     const int needed = std::min(TextWidth(text, font), widget_.MostColumnWidth());

@@ -36,12 +36,12 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     auto* editor = new QLineEdit(index.data(Qt::DisplayRole).toString(), parent);
     editor->setFrame(false);
     editor->setFont(option.font);
-    editor->setPalette(QApplication::palette());  // not that of the table's empty part
+    editor->setPalette(QApplication::palette());  // not the palette of the table's empty part
     editor->setAutoFillBackground(true);
     return editor;
 }
 
-// A text that was not touched is not written: the cell may say something newer by now.
+// A text that the user has not touched is not written: the cell may have a newer one.
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
                                 const QModelIndex& index) const {
     const auto* line = qobject_cast<QLineEdit*>(editor);

@@ -19,7 +19,7 @@ QSize SizeOf(const controls::Geometry& place) {
     return {Pixels(place.width), Pixels(place.height)};
 }
 
-// The record hears of sizes that a person has given, not of those that it gave itself.
+// Reports sizes that the user has chosen, not those that the record has set.
 void ReportSize(controls::Window& window, const QResizeEvent& event) {
     if (SizeOf(window.place.Get()) != event.size() && event.oldSize().isValid())
         window.PersonResizes(Twips(event.size().width()), Twips(event.size().height()));
@@ -45,7 +45,7 @@ void FrameWindowAdapter::Update() {
     const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
     const controls::Geometry& place = window_.place.Get();
-    // A size that a person has given comes back as the record's, with the corner that it knows.
+    // A size that the user has chosen comes back from the record with the record's own corner.
     if (!SameCorner(shown_, place))
         widget_.setGeometry(OnScreen(place));
     else if (shown_ != place && widget_.size() != SizeOf(place))
@@ -54,8 +54,8 @@ void FrameWindowAdapter::Update() {
     widget_.setVisible(window_.visible);
 }
 
-// The rules know a usual screen; on a smaller one the window is moved and cut to what is there,
-// with room for its title bar.
+// The rules assume a usual screen; on a smaller one the window is moved and cut to the screen, with
+// room for its title bar.
 QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
     const QRect screen = widget_.screen()->availableGeometry();
     const int title = widget_.style()->pixelMetric(QStyle::PM_TitleBarHeight);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The adapter of a grid: a table whose heading is the grid's row 0. Only cells that have changed
-// are touched. A person presses and clicks cells with the mouse, or with Enter and Space on the
-// keyboard; where the grid lets cells be edited, these begin to edit, as F2 and typing do. Ctrl+C
-// copies the selected cells, Ctrl and the wheel enlarge the font.
+// The adapter of a grid: a table whose heading is the grid's row 0. It updates only the cells that
+// have changed. The user presses and clicks cells with the mouse, or with Enter and Space on the
+// keyboard; an editable cell opens its editor instead, which F2 and typing do too. Ctrl+C copies
+// the selected cells, Ctrl and the wheel change the font size.
 #pragma once
 
 #include <QTableWidget>
@@ -20,18 +20,18 @@ class GridWidget final : public QTableWidget {
 public:
     explicit GridWidget(controls::Grid& grid, QWidget* parent = nullptr);
 
-    // Steps of the font's size, 0 is the normal one.
+    // Steps of the font size; 0 is the normal size.
     void SetZoom(int steps);
     int Zoom() const { return zoom_; }
-    std::function<void()> onFit;    // gives columns and rows the room that the font needs
-    std::function<void()> onNeed;   // the table needs other room than before
-    std::function<void()> onWheel;  // by a person's wheel
+    std::function<void()> onFit;    // sizes columns and rows for the font
+    std::function<void()> onNeed;   // the table's wanted size has changed
+    std::function<void()> onWheel;  // the user has zoomed with the wheel
 
-    // The most that a column takes: some characters, so that every column of a table without a
-    // scroll bar stays in sight; as much as it wants in others.
+    // The maximum width of a column. In a table without a scroll bar a few characters, so that
+    // every column stays visible; unlimited in others.
     int MostColumnWidth() const;
 
-    // All rows and columns without scrolling.
+    // The size that shows all rows and columns without scrolling.
     QSize sizeHint() const override;
 
     // The selected cells as lines of TAB-separated texts.
@@ -49,7 +49,7 @@ private:
     controls::Grid& grid_;
     qreal normalSize_;
     int zoom_ = 0;
-    int turned_ = 0;  // of the wheel, less than a step
+    int turned_ = 0;  // wheel angle, less than a step
 };
 
 class GridAdapter final : public Adapter {

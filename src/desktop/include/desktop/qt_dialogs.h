@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Message boxes, prompts and file dialogs of the toolkit, over the main window. None of them keeps
-// the program waiting, but for the last message before its end.
+// Message boxes, prompts and file dialogs of the toolkit, over the main window. None of them blocks
+// the program, except for the last message before its end.
 #pragma once
 
 #include <QDialog>
@@ -23,13 +23,13 @@ public:
     QtDialogs(const QtDialogs&) = delete;
     QtDialogs& operator=(const QtDialogs&) = delete;
 
-    // The window that dialogs are shown over. Messages wait until it is there.
+    // The window that dialogs are shown over. Messages wait until it is set.
     void SetParent(QWidget& parent);
 
-    // Takes all dialogs away: nobody is there any more to hear their answers.
+    // Closes all dialogs; their answers are no longer needed.
     void Drop();
 
-    // One box at a time: a message waits until the one before has been confirmed.
+    // One box at a time: a message waits until the user has confirmed the one before.
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
     void LastMessage(const std::string& text) override;
@@ -45,7 +45,7 @@ private:
     };
 
     void ShowNext();
-    // Deletes itself when it is finished, which is reported before.
+    // Shows the dialog. It reports its result and then deletes itself.
     void Open(QDialog& dialog, std::function<void(bool accepted)> finished);
 
     QPointer<QWidget> parent_;
@@ -54,7 +54,8 @@ private:
     bool showsMessage_ = false;
 };
 
-// "Text (*.txt)|*.txt|All files (*.*)|*.*" as the toolkit has it: "Text (*.txt);;All files (*)".
+// Turns "Text (*.txt)|*.txt|All files (*.*)|*.*" into the toolkit's form: "Text (*.txt);;All files
+// (*)".
 QString ToolkitFilter(const std::string& filter);
 
 }  // namespace kelvra::desktop
