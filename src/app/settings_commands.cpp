@@ -77,7 +77,7 @@ void SettingsCommands::AskFile(const platform::FileQuestion& question,
     host_.dialogs.AskFile(question, [this, sensor, goOn](std::optional<std::string> path) {
         if (!path || path->empty()) return;
         if (table_[table_.currentSensor].sensorId == sensor) return goOn(*path);
-        host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
+        host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
                               platform::MessageIcon::Exclamation);
     });
 }

@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
         options::Parse(argc, argv, {"kelvra", "Kelvra operates several USB power sensors.", ""});
     if (!parsed.options) return options::Report(parsed);
     if (!DisplayIsNamed()) {
-        Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
+        Complain("kelvra: there is no display; kelvra-console measures without one.");
         return NoDisplay;
     }
     qInstallMessageHandler(OnStartingToolkit);

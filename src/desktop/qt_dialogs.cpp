@@ -139,11 +139,12 @@ platform::ScreenSize QtDialogs::Screen() {
 void QtDialogs::OpenHelp(const std::string& file, int) {
     const QString path = Shown(file);
     if (!QFileInfo::exists(path)) {
-        Message({}, "The help file is not there:\n" + file, platform::MessageIcon::Information);
+        Message({}, "The help file is missing:\n" + file, platform::MessageIcon::Information);
         return;
     }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        Message({}, "No program opens the help file:\n" + file, platform::MessageIcon::Exclamation);
+        Message({}, "There is no program to open the help file:\n" + file,
+                platform::MessageIcon::Exclamation);
 }
 
 }  // namespace kelvra::desktop

@@ -8,7 +8,7 @@
 
 namespace kelvra::parser {
 
-// A-Z and a-z only, whatever the locale.
+// A-Z and a-z only, in every locale.
 bool IsLetter(char c);
 
 // A number followed by a unit, with or without a prefix: 10mV, 5KHz, 3Kg, in SI units (0.01, 5000,

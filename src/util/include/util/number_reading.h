@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads numbers from texts that users and files supply, whatever the locale, and rounds them for
+// Reads numbers from the texts of users and files, independently of the locale, and rounds them for
 // whole-number fields. Text without a number reads as 0.
 #pragma once
 
