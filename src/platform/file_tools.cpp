@@ -32,7 +32,7 @@ std::error_code WriteAll(Files& files, Files::Handle handle, std::string_view by
     while (!bytes.empty()) {
         std::size_t written = 0;
         if (const auto error = files.Write(handle, bytes, written)) return error;
-        // A device that takes no bytes and reports no error would keep us here for ever.
+        // A device that takes no bytes and reports no error would keep this loop running.
         if (written == 0) return make_error_code(std::errc::io_error);
         bytes.remove_prefix(written);
     }

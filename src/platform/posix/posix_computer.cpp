@@ -44,7 +44,7 @@ std::string HomeFolder() {
 std::string DataFolder(const std::string& option) {
     if (!option.empty()) return option;
     if (std::string own = Environment("KELVRA_DATA_DIR"); !own.empty()) return own;
-    // The XDG specification has relative paths ignored.
+    // XDG requires relative paths to be ignored.
     const fs::path shared = Environment("XDG_DATA_HOME");
     const fs::path base = shared.is_absolute() ? shared : fs::path(HomeFolder()) / ".local/share";
     return (base / "kelvra").string();
@@ -89,8 +89,8 @@ std::string PosixComputer::Join(const std::string& folder, const std::string& na
 }
 
 std::optional<LocalTime> PosixComputer::ProgramFileDate() {
-    const auto original = files_.ModifiedAt(Join(dataDir_, "Kelvra.EXE"));
-    return original ? original : files_.ModifiedAt(RunningProgram);
+    const auto program = files_.ModifiedAt(Join(dataDir_, "Kelvra.EXE"));
+    return program ? program : files_.ModifiedAt(RunningProgram);
 }
 
 LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {

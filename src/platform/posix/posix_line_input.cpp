@@ -20,7 +20,7 @@ namespace {
 // Endless input without a line break must not keep everything else from running.
 constexpr int MostAtOnce = 1 << 16;
 
-// In milliseconds, rounded up, as poll wants it.
+// In milliseconds, rounded up, as poll expects it.
 int PollTime(Duration patience) {
     const auto ms = std::chrono::ceil<std::chrono::milliseconds>(patience).count();
     if (ms <= 0) return 0;
