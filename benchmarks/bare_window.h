@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A window with the controls and texts of Kelvra's main window and nothing behind them: the floor
-// of what the toolkit costs.
+// A window with the controls and texts of Kelvra's main window and no program: the minimum that the
+// toolkit costs.
 #pragma once
 
 #include <QComboBox>
@@ -134,7 +134,7 @@ private:
         return list;
     }
 
-    // Every cell has its item, as a table has that is filled in time.
+    // Every cell has its item, like a table that a program keeps filling.
     static QTableWidget* Table(int rows, const QStringList& headings) {
         auto* table = new QTableWidget(rows, static_cast<int>(headings.size()));
         table->setHorizontalHeaderLabels(headings);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The whole console in this process, on the computer's clock, with lines from a function instead of
-// a file, and sensors that cost nothing.
+// a file, and with sensors that cost nothing.
 #pragma once
 
 #include <cstdio>
@@ -16,7 +16,7 @@
 
 namespace kelvra::benchmarks {
 
-// Gives the next line, or waits as standard input does and has none yet.
+// Gives the next line. Nothing if there is none yet; then it has waited as standard input does.
 using NextLine = std::function<std::optional<std::string>(platform::Duration patience)>;
 
 class Lines final : public platform::LineInput {
@@ -33,7 +33,7 @@ private:
     NextLine next_;
 };
 
-// The computer's clock, but nobody sleeps: instant sensors need no pauses.
+// The computer's clock without sleeping: instant sensors need no pauses.
 class SleeplessClock final : public platform::Clock {
 public:
     platform::LocalTime Now() override { return inner_->Now(); }

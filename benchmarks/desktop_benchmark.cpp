@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the desktop program costs: its passes beside a bare loop with a bare window, memory over a
-// million passes, idling, and how soon a click is answered. Takes two minutes, or does one
-// part ("passes", "memory", "idle", "clicks"), and prints figures; needs no display unless
+// What the desktop program costs: its passes compared with a bare loop and a bare window, memory
+// over a million passes, idling, and how soon a click is answered. Takes two minutes, or runs one
+// part ("passes", "memory", "idle", "clicks"), and prints figures. Needs no display unless
 // QT_QPA_PLATFORM names one.
 #include <QMouseEvent>
 #include <QPushButton>
@@ -39,10 +39,10 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-// Processor time per pass, once the first passes are over.
+// Processor time per pass after the first passes.
 class PassTimer {
 public:
-    // To be told of the passes so far now and then; true once it has seen enough.
+    // Takes the number of passes so far, now and then; true once it has measured enough.
     bool Looks(std::int64_t passes) {
         const auto now = Steady::now();
         if (!begun_ && now - start_ >= WarmUp) {
@@ -78,7 +78,7 @@ void Hand(QTableWidget& table, int row, int column, const std::string& text) {
         item->setText(shown);
 }
 
-// Makes the texts, hands them to the table 60 times a second, and looks for its timer each
+// Makes the texts, hands them to the table 60 times a second, and checks for its timer each
 // millisecond.
 double BarePass() {
     benchmarks::BareWindow window;
@@ -114,7 +114,7 @@ double BarePass() {
     }
 }
 
-// In turns, so that a busy machine slows both.
+// The two alternate, so that a busy machine slows both.
 void TimePasses() {
     std::vector<double> kelvra, bare;
     for (int round = 0; round < Rounds; ++round) {
@@ -139,7 +139,7 @@ void WatchMemory() {
                 Memory("VmRSS") - before);
 }
 
-// Processor time and paint events while events run.
+// Measures processor time and paint events while events run.
 void Watch(WatchedApplication& application, const char* what, const std::function<void()>& run) {
     int painted = 0;
     application.onPaint = [&](QObject&) { ++painted; };
@@ -172,8 +172,8 @@ void WatchIdling(WatchedApplication& application) {
     Watch(application, "hidden and measuring at full speed", measure);
 }
 
-// Clicks a button from another thread, at random times, each once the one before is answered: the
-// answer is a text that the button's rule changes, painted.
+// Clicks a button from another thread at random times, each click after the one before was
+// answered. The answer is a text that the button's rule changes, once it is painted.
 class Clicks {
 public:
     Clicks(WatchedApplication& application, DesktopRun& run, int count)
@@ -247,12 +247,12 @@ private:
     int count_;
     std::vector<double> raised_, answered_;  // ms
     bool seen_ = false;
-    Steady::time_point sent_;  // the events' posting hands it over
+    Steady::time_point sent_;  // handed over by posting the event
     std::atomic<bool> waiting_{false};
     std::thread thread_;
 };
 
-// Eight virtual sensors, as fast as their settings have them or at once.
+// Eight virtual sensors, at the speed of their settings or at once.
 void TimeClicks(WatchedApplication& application, const char* what, const char* duration) {
     const test::TempFolder folder;
     std::string scenario = "source generator 0 dBm\n" + std::string(duration) + "\n";

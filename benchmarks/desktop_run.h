@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The whole desktop program in this process, and an application that sees what is painted.
+// The whole desktop program in this process, and an application that observes painting.
 #pragma once
 
 #include <QApplication>
@@ -19,9 +19,9 @@ class WatchedApplication final : public QApplication {
 public:
     using QApplication::QApplication;
 
-    // Each widget that was painted, while it is.
+    // Called before a widget is painted.
     std::function<void(QObject& widget)> onPaint;
-    // Whatever was painted is in its window.
+    // Called when the window shows what was painted.
     std::function<void()> onPainted;
 
     bool notify(QObject* receiver, QEvent* event) override {
@@ -75,7 +75,7 @@ public:
         return *desktop.Main().Widget().findChild<Widget*>(name);
     }
 
-    // Measures until `ended`, which is asked every 5 ms, says so.
+    // Measures until `ended`, which is called every 5 ms, returns true.
     void Measure(const std::function<bool()>& ended) {
         QTimer look;
         QObject::connect(&look, &QTimer::timeout, [&] {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How long the desktop program takes to its first painted window, and how much memory, beside a
-// bare window with the same controls. Each start is a process of its own, in turns. Needs no
-// display unless QT_QPA_PLATFORM names one.
+// How long the desktop program takes until its first window is painted, and how much memory,
+// compared with a bare window with the same controls. Each start is a process of its own; the two
+// alternate. Needs no display unless QT_QPA_PLATFORM names one.
 #include <QProcess>
 #include <algorithm>
 #include <chrono>
@@ -25,8 +25,8 @@ struct Start {
     double kibibytes = 0;
 };
 
-// Runs until everything is painted that is there at first, and prints when that was and what the
-// process had used by then.
+// Runs until the first window is completely painted, and prints when that was and what the process
+// had used by then.
 template <class Program>
 int RunOnce(Steady::time_point begin, int argc, char** argv) {
     benchmarks::WatchedApplication application(argc, argv);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What Kelvra costs while nothing comes: idle with sensors connected, in a tick of discovery, and
+// What Kelvra costs when nothing happens: idle with sensors connected, in a tick of discovery, and
 // while a sensor waits for its trigger. Takes a quarter of a minute and prints figures.
 #include <poll.h>
 
@@ -24,7 +24,7 @@ void Wait(platform::Duration patience) {
     ::poll(nullptr, 0, static_cast<int>(ms));
 }
 
-// Runs Kelvra for that long without a line of input, after `first`. `first` may be none.
+// Runs Kelvra for that long. The only line of input is `first`, which may be null.
 void Watch(const char* what, const char* first, seconds length) {
     const auto clock = platform::NativeClock();
     platform::Duration begin{};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sensors that cost nothing: driver functions that answer at once, so that what is measured is
-// Kelvra. They are put in place of the libraries after start-up; the next tick finds the sensors.
+// Sensors that cost nothing: driver functions that answer at once, so that only Kelvra is measured.
+// They replace the libraries after start-up; the next tick finds the sensors.
 #pragma once
 
 #include <cstring>
@@ -33,8 +33,8 @@ inline void PlugInSettings(driver::InstrumentOperations& op) {
 #undef X
 }
 
-// Measurements that are complete when first asked for, or never. Each reading differs from the
-// last.
+// Measurements that are complete when first polled, or never. Each reading differs from the one
+// before.
 inline void PlugInMeasuring(driver::InstrumentOperations& op, bool complete) {
     Plug(
         op.psdrv_init, +[](const char*, std::int32_t, std::int32_t, Handle* opened) -> Status {

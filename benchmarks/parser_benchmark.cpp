@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How fast formulas compile and evaluate, with muParser beside for scale: a formula stored and
+// How fast formulas compile and evaluate, with muParser for comparison: a formula stored and
 // evaluated once, and evaluated again with new values of its variables.
 #include <benchmark/benchmark.h>
 #include <muParser.h>
@@ -22,7 +22,7 @@ std::string Polynomial() {
     return polynomial;
 }
 
-// Both read the same text.
+// Both parsers accept these texts.
 const std::array<std::string, 4> Formulas = {
     "ABS(X1dB-X2dB)",
     "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))",
@@ -31,7 +31,7 @@ const std::array<std::string, 4> Formulas = {
     "X1W)",
 };
 
-// Names that muParser has under another spelling.
+// Functions that muParser spells differently.
 double SquareRoot(double x) {
     return std::sqrt(x);
 }

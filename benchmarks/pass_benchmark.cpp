@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a pass costs over sensors that are complete at once: everything but the driver, in the whole
-// console. The floor beside it only makes a pass's texts and puts them into strings.
+// What a pass costs with sensors that are complete at once: everything but the driver, in the whole
+// console. The floor next to it only makes a pass's texts and puts them into strings.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -17,7 +17,7 @@ namespace {
 
 using namespace kelvra;
 
-// Until rings are full and the strings have their room.
+// Until the rings are full and the strings have grown to their size.
 constexpr int WarmUpPasses = 100;
 
 // Seconds that the passes took.
@@ -47,7 +47,7 @@ double MeasurePasses(benchmark::State& state, benchmark::IterationCount passes) 
     });
     benchmarks::PlugIn<Sensors>(run.kelvra, true);
     const bool ran = run.Run();
-    // The last sensor's spread shows that all have been read often enough.
+    // The last sensor's spread shows that all of them were read often enough.
     const controls::Grid& table = run.kelvra.forms.statusForm.ResultGrid;
     if (!ran || table.Rows() <= Sensors || table.At(Sensors, ui::SigmaColumn).Text().empty())
         state.SkipWithError("the sensors were not read");

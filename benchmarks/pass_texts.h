@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The texts that a pass makes, and nothing else: the floor of every pass.
+// The texts that a pass makes, and nothing else: the minimum of every pass.
 #pragma once
 
 #include <cmath>
@@ -14,12 +14,12 @@ inline void Put(std::string& cell, const std::string& text) {
     if (cell != text) cell = text;
 }
 
-// A power in W that is another one each time.
+// A power in W that is different each time.
 inline double NextPower(double powerW) {
     return powerW < 1e-2 ? powerW * 1.013 : 1e-6;
 }
 
-// The cells of one sensor, and the texts that a pass gives them.
+// The cells of one sensor, and their texts in a pass.
 struct Row {
     std::string activity, watt, dbm, sigma, count;
 
@@ -36,7 +36,7 @@ struct Row {
     }
 };
 
-// The results of the two formulas that are there from the start.
+// The results of the two default formulas.
 struct Formulas {
     std::string difference, ratio;
 

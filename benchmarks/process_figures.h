@@ -8,15 +8,15 @@
 
 namespace kelvra::benchmarks {
 
-// Seconds of a core, of all threads.
+// Processor time of all threads in s.
 inline double ProcessorTime() {
     std::timespec used{};
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
     return static_cast<double>(used.tv_sec) + 1e-9 * static_cast<double>(used.tv_nsec);
 }
 
-// KiB of memory, by the system's name: "VmRSS" is resident now, "VmHWM" the most so far; 0 if the
-// system doesn't say.
+// KiB of memory, by the system's name: "VmRSS" is the resident memory, "VmHWM" its maximum so far;
+// 0 if the system doesn't report it.
 inline long Memory(const std::string& name) {
     std::ifstream status("/proc/self/status");
     for (std::string word; status >> word;) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One sensor's settings written to and read from an INI file of fifty sensors, beside a plain
-// write, sync, rename and read of the same bytes in the same folder. Once in the system's temporary
-// folder, once in memory, where nothing hides behind the disk.
+// One sensor's settings written to and read from an INI file of fifty sensors, compared with a
+// plain write, sync, rename and read of the same bytes in the same folder. Once in the system's
+// temporary folder, once in memory, where the disk hides nothing.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -38,7 +38,7 @@ std::string FileText() {
     return text.Bytes();
 }
 
-// Every value of the block becomes another one.
+// Changes every value of the block.
 void ChangeAll(sensors::SensorSettings& settings) {
     for (const sensors::SettingsField& field : sensors::SettingsFields())
         std::visit(
@@ -53,7 +53,7 @@ void ChangeAll(sensors::SensorSettings& settings) {
             field.member);
 }
 
-// The folder that a benchmark's argument asks for: 0 the temporary one, 1 the one in memory.
+// A file in the folder of a benchmark's argument: 0 the temporary one, 1 the one in memory.
 std::string PathIn(const benchmark::State& state, const test::TempFolder& folder) {
     if (state.range(0) == 0) return folder.Path("Kelvra.INI");
     return std::string(MemoryFolder) + "/" +

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A reading into the ring and the spread of the last thirty, beside the straight way: all thirty
-// powers turned into levels again, then two passes over them.
+// A reading into the ring and the spread of the last thirty, compared with the direct way:
+// converting all thirty powers to levels again, then two passes over them.
 #include <benchmark/benchmark.h>
 
 #include <array>

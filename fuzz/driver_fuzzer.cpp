@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A run of the whole program over a driver and a device list that take their answers from the
-// input: sensors come and go, measurements start, go on for a few rounds and end.
+// Runs the whole program with a driver and a device list that take their answers from the input:
+// sensors come and go; measurements start, run for a few rounds and end.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // Mostly success; once the input is used up, always.
+    // Mostly success; always success once the input is used up.
     driver::Status Status() {
         return input_.Take<std::uint8_t>() % 16 == 1 ? input_.Take<driver::Status>() : 0;
     }
@@ -116,7 +116,7 @@ private:
     Input& input_;
 };
 
-// The user does something now and then.
+// Does what a user might do, now and then.
 void Act(app::Kelvra& kelvra, Input& input) {
     sensors::SensorTable& table = kelvra.table;
     sensors::SensorEntry& entry = table[input.Take<std::uint8_t>() % table.Slots()];

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that exist in memory alone: a fuzzed program may write wherever it likes.
+// Files that exist only in memory, so that a fuzzed program can write anywhere.
 #pragma once
 
 #include <algorithm>

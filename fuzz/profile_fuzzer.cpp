@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes as a profile text, edited and read with any names and values. Whatever happens, the
-// edited text must behave as one freshly read from its bytes, and a plain value must read back.
+// Any bytes as a profile text, edited and read with any names and values. The edited text must
+// always behave like one that was freshly read from its bytes, and a plain value must read back.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -14,7 +14,7 @@ namespace {
 
 using kelvra::platform::ProfileText;
 
-// The input cut into pieces: operations first, the initial text at the end.
+// Splits the input into pieces: operations first, the initial text at the end.
 class Input {
 public:
     explicit Input(std::string_view bytes) : bytes_(bytes) {}

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a script: the whole program without a driver, on a clock of its own, with files in
-// memory. Whatever the script says, the program ends by its exit routine.
+// memory. Every script must end the program through its exit routine.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -15,7 +15,7 @@ namespace {
 
 using namespace kelvra;
 
-// Enough for a few passes; a wait without end is the script's own business.
+// Enough for a few passes; a script may wait without end.
 constexpr int MostRounds = 400;
 
 class MemoryLines final : public platform::LineInput {
@@ -34,7 +34,7 @@ private:
     std::string_view bytes_;
 };
 
-// The script, ended as a signal would end it once it has had its rounds.
+// The script, ended after its rounds as a signal would end it.
 class BoundedScript final : public console::EventSource {
 public:
     explicit BoundedScript(console::Script& script) : script_(script) {}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bench's own time in seconds from its first use. It follows the computer's, or it advances
-// by a fixed step at each poll and at each lock of the device list, so that runs repeat exactly.
+// The bench's own time in seconds from its first use. It follows the computer's clock, or it
+// advances by a fixed step at each poll and at each lock of the device list, so that runs repeat
+// exactly.
 #pragma once
 
 #include <chrono>
@@ -21,7 +22,7 @@ public:
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
     }
 
-    // A function is being called; some of them move the counted time on.
+    // Call for every function call; some of them advance the counted time.
     void Meet(Operation operation) {
         if (operation == Operation::psdrv_chan_isMeasurementComplete ||
             operation == Operation::psdrv_chan_isZeroComplete) {
@@ -35,7 +36,7 @@ private:
     bool computer_;
     double pollStep_;
     double lockStep_;
-    double polls_ = 0;  // counted, because a sum of steps would drift
+    double polls_ = 0;  // counted, because adding up steps would drift
     double locks_ = 0;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };

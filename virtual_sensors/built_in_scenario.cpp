@@ -3,8 +3,8 @@
 
 namespace kelvra::virtual_sensors {
 
-// The coupler's arms show the wave to the load at -20 dB and the one that comes back, with a
-// return loss of 14 dB, at -34 dB: a standing-wave ratio of about 1.5.
+// The coupler's arms see the wave to the load at -20 dB and the reflected wave, with a return loss
+// of 14 dB, at -34 dB: a standing-wave ratio of about 1.5.
 std::string_view BuiltInScenario() {
     return R"(seed 1
 time computer

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What every exported function does around its own work: the call is counted, the scenario's faults
-// and events happen, the outcome becomes a status, and no exception leaves the library. Also how
-// texts and numbers are handed to the caller.
+// What every exported function does around its own work: it counts the call, carries out the
+// scenario's faults and events, turns the outcome into a status, and lets no exception leave the
+// library. Also how texts and numbers are handed to the caller.
 #pragma once
 
 #include <algorithm>
@@ -17,7 +17,8 @@
 
 namespace kelvra::virtual_sensors {
 
-// The bench that the library's functions work on, made by the first call. Each library defines it.
+// The bench that the library's functions work on, created by the first call. Each library defines
+// it.
 VirtualBench& TheBench();
 
 inline void Report(const std::exception& failure) noexcept {
@@ -41,7 +42,8 @@ int32_t Call(Operation operation, int64_t channel, Body body) noexcept {
     }
 }
 
-// The caller's text up to its NUL. A text longer than any resource is cut; it names no sensor.
+// The caller's text up to its NUL. A text longer than any resource is cut, and then names no
+// sensor.
 inline std::string_view TextOf(const char* text) {
     constexpr std::size_t longest = 512;
     return text == nullptr ? std::string_view() : std::string_view(text, ::strnlen(text, longest));

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t TextSize = 128;
 
-// The bench of the driver library in this library's folder, or one of its own if there is none.
-// Keeps the driver library loaded as long as this one is.
+// The bench of the driver library in this library's folder, or a bench of its own if there is none.
+// Keeps the driver library loaded as long as this library is.
 class BenchAccess {
 public:
     BenchAccess() {

@@ -26,7 +26,7 @@ int32_t OnChannel(Operation operation, uint32_t h, int32_t ch, Body body) noexce
     });
 }
 
-// Sets the first, then the second unless the first was refused.
+// Sets the first value, and the second unless the first was refused.
 int32_t SetTwo(Operation operation, uint32_t h, int32_t ch, Setting first, double firstValue,
                Setting second, double secondValue) noexcept {
     return OnChannel(operation, h, ch, [&](VirtualBench&, Channel& channel, const Twist&) {
@@ -35,7 +35,7 @@ int32_t SetTwo(Operation operation, uint32_t h, int32_t ch, Setting first, doubl
     });
 }
 
-// The result, once it is there and of the kind that was asked for.
+// The result, once there is one of the requested kind.
 Outcome FindResult(VirtualBench& bench, Channel& channel, bool asArray) {
     Measurement& measurement = channel.measurement;
     if (!measurement.Complete(*channel.sensor, bench.Now())) return {Status::NoResult};
@@ -91,7 +91,7 @@ int32_t psdrv_close(uint32_t h) {
                 [&](VirtualBench& bench, const Twist&) { return bench.Close(h); });
 }
 
-// Both error functions answer with any handle, so that a failed opening can be explained.
+// Both error functions accept any handle, so that a failed opening can be explained.
 int32_t psdrv_error_message(uint32_t /*h*/, int32_t status, char* text) {
     return Call(Operation::psdrv_error_message, 0, [&](VirtualBench& bench, const Twist& twist) {
         return PutText(text, TextSize, bench.Message(status), twist);
@@ -191,7 +191,7 @@ int32_t psdrv_chan_zero(uint32_t h, int32_t ch) {
                      });
 }
 
-// True also when no zeroing has been started.
+// Also true when no zeroing has been started.
 int32_t psdrv_chan_isZeroComplete(uint32_t h, int32_t ch, uint16_t* complete) {
     return OnChannel(Operation::psdrv_chan_isZeroComplete, h, ch,
                      [&](VirtualBench& bench, Channel& channel, const Twist& twist) {

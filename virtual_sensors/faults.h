@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Counts the calls of each function and finds the faults and events of the scenario that apply to
-// a call. Carrying them out is left to the bench and to the exported functions.
+// Counts the calls of each function and finds the scenario's faults and events that apply to a
+// call. The bench and the exported functions carry them out.
 #pragma once
 
 #include <array>
@@ -12,12 +12,12 @@
 
 namespace kelvra::virtual_sensors {
 
-// What goes wrong with one call.
+// The fault of one call.
 struct Twist {
-    std::optional<int32_t> status;  // answered at once, nothing is done
-    std::optional<int32_t> count;   // instead of the whole number that is given back
-    std::optional<double> value;    // instead of every reading
-    bool unended = false;           // texts fill their buffer without a NUL
+    std::optional<int32_t> status;  // returned at once; the function does nothing
+    std::optional<int32_t> count;   // returned in place of the whole number
+    std::optional<double> value;    // returned in place of every reading
+    bool unended = false;           // texts fill their buffers without a NUL
 };
 
 class Faults {
@@ -25,10 +25,10 @@ public:
     explicit Faults(const Scenario& scenario)
         : faults_(scenario.faults), events_(scenario.events), seen_(faults_.size()) {}
 
-    // The next call of a function. The channel is 0 where there is none.
+    // The faults of the next call of a function. The channel is 0 for functions without one.
     Twist Meet(Operation operation, int64_t channel);
 
-    // The events that are due after Meet, in the order of the scenario; each is returned once.
+    // The events that are due after Meet, in the order of the scenario. Each is returned once.
     std::vector<Event> TakeEvents(double now);
 
 private:

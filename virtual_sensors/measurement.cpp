@@ -53,7 +53,7 @@ int32_t PointCount(const SettingValues& settings) {
     }
 }
 
-// When the trigger comes; nothing when it never does or when software gives it.
+// When the trigger comes; nothing if it never does, or is given by software.
 std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSensor& sensor,
                                   const Scenario& scenario, double now) {
     switch (static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource])) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One channel's measurement: what its settings mean for duration, averaging and result, and its
+// One channel's measurement: how its settings determine duration, averaging and result, and its
 // course from the start through the trigger to the result. Sessions start it, callers poll it.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace kelvra::virtual_sensors {
 
-// What a channel has been set to.
+// The settings of a channel.
 class SettingValues {
 public:
     SettingValues();  // as after a reset
@@ -21,7 +21,7 @@ public:
     double operator[](Setting setting) const { return values_[static_cast<std::size_t>(setting)]; }
     bool IsOn(Setting setting) const { return (*this)[setting] != 0; }
 
-    // False, and nothing changes, for a value that its limits exclude or that is not a number.
+    // False for a value outside its limits or that is not a number; then nothing changes.
     bool Set(Setting setting, double value);
 
 private:
@@ -32,35 +32,35 @@ enum class Mode : uint8_t { Average, Buffered, Slots, Burst, Trace };
 Mode ModeOf(const SettingValues& settings);
 bool GivesArray(Mode mode);
 
-// How often each value is averaged, 1 to 65536: as set, or so that the sensor's noise falls to
-// what is wanted, but not for longer than the settling-time limit allows.
+// How often each value is averaged, 1 to 65536: the set number, or as often as the wanted noise
+// needs and the settling-time limit allows.
 int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor);
 
 // Duration in s of one measurement averaged `count` times, from its trigger on.
 double Duration(const SettingValues& settings, int32_t count);
 
-// By how much the corrections multiply a power.
+// The factor by which the corrections multiply a power.
 double CorrectionFactor(const SettingValues& settings);
 
 class Measurement {
 public:
-    // Starts over; the former result is dropped. Times are the bench's, in s.
+    // Starts over and drops the former result. Times are the bench's, in s.
     void Start(const SettingValues& settings, const VirtualSensor& sensor, const Scenario& scenario,
                double now);
 
-    // A software trigger; a measurement that does not wait for one ignores it.
+    // A software trigger; ignored by a measurement that does not wait for one.
     void Trigger(double now);
 
-    // Whether it has ended. The result is drawn the first time that this is so.
+    // Whether the measurement has ended. The first call that finds it ended draws the result.
     bool Complete(VirtualSensor& sensor, double now);
 
-    // Nothing until it has been seen complete.
+    // Empty until Complete has returned true.
     const std::vector<double>& ResultW() const { return resultW_; }
     Mode ResultMode() const { return mode_; }
 
 private:
     bool awaitsSoftware_ = false;
-    std::optional<double> readyAt_;  // nothing: not started, or the trigger has not come
+    std::optional<double> readyAt_;  // nothing: not started, or not yet triggered
     double afterTrigger_ = 0;        // s from the trigger to the result
     int32_t count_ = 1;
     int32_t points_ = 1;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The functions that the two libraries export and the values that they set, as enumerations made
-// from the driver's list of functions, and the limits of the values. What a function does is said
-// in driver_abi.cpp and device_list_abi.cpp.
+// from the driver's list of functions, and the limits of the values. driver_abi.cpp and
+// device_list_abi.cpp define what the functions do.
 #pragma once
 
 #include <cstddef>
@@ -24,7 +24,7 @@ enum class Operation : uint8_t {
     Count
 };
 
-// A value is named like the function that sets it; the last four are set two at a time.
+// A value is named after the function that sets it; the last four are set in pairs.
 enum class Setting : uint8_t {
 #define X(name, type) name,
     KELVRA_DRIVER_SETTERS(X)
@@ -47,7 +47,7 @@ struct SettingLimits {
 
 const SettingLimits& LimitsOf(Setting setting);
 
-// The name under which the function is exported.
+// The exported name of the function.
 std::string_view NameOf(Operation operation);
 std::optional<Operation> FindOperation(std::string_view name);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a scenario says about the bench: its sensors, what they see, and what goes wrong when.
-// Plain data: scenario_reader reads it, the bench acts on it.
+// What a scenario says about the bench: its sensors, what they see, and what goes wrong when. Plain
+// data: scenario_reader reads it, the bench applies it.
 #pragma once
 
 #include <cstddef>
@@ -36,7 +36,7 @@ struct SensorPlan {
     bool plugged = true;
 };
 
-// Plugging or unplugging a sensor, at a time or when a function is called for the n-th time.
+// Plugging or unplugging a sensor, at a time or at the n-th call of a function.
 struct Event {
     std::optional<Operation> operation;
     int64_t call = 0;
@@ -45,7 +45,7 @@ struct Event {
     std::size_t sensor = 0;  // index in Scenario::sensors
 };
 
-// What some calls of a function do wrong. Only the calls of the channel count, when one is given.
+// The fault of some calls of a function. With a channel, only that channel's calls count.
 struct Fault {
     enum class Effect : uint8_t { Status, Unended, Count, Value };
 
@@ -56,7 +56,7 @@ struct Fault {
     Effect effect = Effect::Status;
     int32_t number = 0;   // status or count
     double value = 0;     // reading
-    std::string message;  // of the status, empty for the driver's own
+    std::string message;  // of the status; empty: the driver's own
 };
 
 struct Scenario {
@@ -67,7 +67,7 @@ struct Scenario {
     std::optional<double> fixedDuration;  // s, of every measurement
     double durationFactor = 1;
     double zeroDuration = 3;               // s
-    std::optional<double> externalPeriod;  // s, nothing: no external trigger ever comes
+    std::optional<double> externalPeriod;  // s; nothing: no external trigger comes
     std::vector<Source> sources;
     std::vector<SensorPlan> sensors;
     std::vector<Event> events;

@@ -67,7 +67,7 @@ void ReadSensor(Words& words, Scenario& scenario) {
     scenario.sensors.push_back(sensor);
 }
 
-// The last sensor so far. Without one the line fails, and a new one takes what it says.
+// The last sensor so far. Without one the line fails, and a new sensor takes the values.
 SensorPlan& SensorAbove(Words& words, Scenario& scenario) {
     if (scenario.sensors.empty()) {
         words.Fail("no sensor above this line");
@@ -187,7 +187,7 @@ constexpr struct {
     {"at", ReadEvent},      {"fault", ReadFault},
 };
 
-// Empty, or what is wrong.
+// The error; empty if there is none.
 std::string ReadLine(std::string_view line, Scenario& scenario) {
     Words words(line);
     if (words.AtEnd()) return words.Error();

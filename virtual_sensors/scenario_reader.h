@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads scenarios as docs/virtual_sensors.md describes them. Any bytes may come. The first error is
-// reported with its line, and then the scenario is empty.
+// Reads scenarios as docs/virtual_sensors.md describes them. The input may be any bytes. The first
+// error is reported with its line, and the scenario is then empty.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,7 @@ namespace kelvra::virtual_sensors {
 
 struct ScenarioResult {
     Scenario scenario;  // without sensors when there is an error
-    std::string error;  // "name:line: what is wrong", empty when all is well
+    std::string error;  // "name:line: what is wrong", empty without an error
 };
 
 ScenarioResult ReadScenario(std::string_view text, std::string_view name);

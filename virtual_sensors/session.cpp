@@ -14,7 +14,7 @@ std::string ShortText(double value) {
     return {digits.data(), end};
 }
 
-// Takes the text before the next "::" off the front; all of it when there is none.
+// Takes the text before the next "::" off the front, or all of it if there is no "::".
 std::string_view TakePart(std::string_view& text) {
     const std::size_t end = std::min(text.find("::"), text.size());
     const std::string_view part = text.substr(0, end);

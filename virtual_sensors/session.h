@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A driver session: which sensor each channel has, and what the channel has been set to. Handles,
-// errors and faults are left to the bench.
+// A driver session: the sensor and the settings of each channel. Handles, errors and faults are
+// left to the bench.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@
 
 namespace kelvra::virtual_sensors {
 
-// How a call ended. The detail, if any, takes the message's place in the error queue.
+// How a call ended. The detail, if any, replaces the message in the error queue.
 struct Outcome {
     Status status = Status::Ok;
     std::string detail{};
@@ -25,7 +25,7 @@ struct Outcome {
 struct Channel {
     explicit Channel(VirtualSensor& of) : sensor(&of), plugging(of.Plugging()) {}
 
-    // False once the sensor has been unplugged, also when it is back again.
+    // False once the sensor has been unplugged, even if it is plugged in again.
     bool Connected() const { return sensor->Plugged() && sensor->Plugging() == plugging; }
 
     // Changes one setting within its limits and the model's modes.
@@ -40,18 +40,18 @@ struct Channel {
     double zeroEnd = 0;  // the bench's time
 };
 
-// The sensor that a resource text "USB::vendor::product::serial" names. The vendor may be
-// anything, the product is a hexadecimal number with "0x", the serial must be exact.
+// The sensor named by a resource text "USB::vendor::product::serial". The vendor may be anything,
+// the product is a hexadecimal number with "0x", the serial must match exactly.
 VirtualSensor* FindResource(std::vector<VirtualSensor>& sensors, std::string_view resource);
 
 class Session {
 public:
     static constexpr int32_t MaxChannel = 256;
 
-    // Opens the channel; one that is open is opened again, with this sensor.
+    // Opens the channel; an open channel is opened again, with this sensor.
     Outcome Open(int32_t channel, VirtualSensor* sensor);
 
-    // The open, connected channel; or says why there is none.
+    // Finds an open, connected channel; the outcome says why there is none.
     Outcome Find(int32_t number, Channel*& channel);
 
     std::map<int32_t, Channel>& Channels() { return channels_; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the device list shares the driver's sensors: the driver library in the same folder exports
-// one more function, which gives the bench.
+// one more function, which returns the bench.
 #pragma once
 
 #include "virtual_bench.h"
@@ -10,7 +10,7 @@ namespace kelvra::virtual_sensors {
 constexpr const char* DriverFileName = "libpsdrv_32.so";
 constexpr const char* SharedBenchName = "KelvraSharedBench";
 
-// Owned by the driver library; null when it could not be made.
+// The driver library owns the bench; null if it could not be created.
 using SharedBenchFunction = VirtualBench* (*)();
 
 }  // namespace kelvra::virtual_sensors

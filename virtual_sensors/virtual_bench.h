@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bench that both libraries share: sensors, sessions, device list, error queue and time. The
-// exported functions call it and see to arguments and results themselves.
+// exported functions call it; they handle arguments and results themselves.
 #pragma once
 
 #include <cstdint>
@@ -28,7 +28,7 @@ public:
     static constexpr std::size_t MaxQueuedErrors = 16;
 
     struct ListEntry {
-        const SensorPlan* sensor = nullptr;  // none at this index
+        const SensorPlan* sensor = nullptr;  // null: no sensor at this index
         bool connected = false;
     };
 
@@ -36,7 +36,7 @@ public:
     VirtualBench(const VirtualBench&) = delete;
     VirtualBench& operator=(const VirtualBench&) = delete;
 
-    // Every call of every function passes these two, before and after what it does.
+    // Called at the beginning and at the end of every exported function.
     Twist BeginCall(Operation operation, int64_t channel);
     int32_t EndCall(Operation operation, int64_t channel, int32_t status,
                     const std::string& detail);
@@ -50,14 +50,14 @@ public:
     Outcome Close(uint32_t handle);
     Outcome Find(uint32_t handle, int32_t number, Channel*& channel);
 
-    // Starts every connected channel; refused at the end when one is not connected.
+    // Starts every connected channel, then fails if one is not connected.
     Outcome Initiate(uint32_t handle);
 
     std::string Message(int32_t status) const;
-    // The oldest error not yet asked for, taken out of the queue.
+    // Takes the oldest error out of the queue.
     QueuedError NextError();
 
-    // The device list as it was when it was last locked; empty before that and once released.
+    // The device list as of its last lock; empty before the first lock and after the release.
     void LockList();
     void ReleaseList() { list_.clear(); }
     const std::vector<ListEntry>& List() const { return list_; }
@@ -74,7 +74,7 @@ private:
 };
 
 // The scenario that the environment variable KELVRA_BENCH names, or the built-in one. An error in
-// it is written to the standard error output, and then there are no sensors.
+// it is written to standard error, and then there are no sensors.
 Scenario ScenarioFromEnvironment();
 
 }  // namespace kelvra::virtual_sensors

@@ -79,7 +79,7 @@ double VirtualSensor::Measure(double count) {
     return seenW_ * std::pow(10, levelDb / 10) + plan_.noiseW * Normal() / steadiness;
 }
 
-// Box and Muller's transform, so that the same seed gives the same noise with every library.
+// The Box-Muller transform: the same seed gives the same noise with every standard library.
 double VirtualSensor::Normal() {
     constexpr double step = 1.0 / (uint64_t{1} << 53);
     const double radius = (static_cast<double>(random_() >> 11) + 1) * step;  // above 0, up to 1

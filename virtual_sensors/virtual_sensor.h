@@ -21,17 +21,17 @@ public:
     const Model& Kind() const { return model_; }
 
     bool Plugged() const { return plugged_; }
-    // How often the sensor was plugged in; a channel opened before the last time is dead.
+    // How often the sensor has been plugged in; a channel opened before the last time is dead.
     int64_t Plugging() const { return plugging_; }
     void Plug(bool plugged);
 
-    // The power of all sources it sees, in W.
+    // The total power of the sources it sees, in W.
     double SeenW() const { return seenW_; }
 
-    // Standard deviation of a single measurement in dB; infinite where there is noise alone.
+    // Standard deviation of a single measurement in dB; infinite if there is only noise.
     double NoiseDb() const;
 
-    // One measurement in W, averaged `count` times. May be negative where noise prevails.
+    // One measurement in W, averaged `count` times. May be negative where noise dominates.
     double Measure(double count);
 
     // Item `index` as "name:value"; index must be below InfoCount.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One line of a scenario, read word by word. After the first error every word reads as empty or as
-// the smallest value, so that a statement need not check each word. Any bytes may come.
+// the smallest value, so that a statement need not check each word. The line may be any bytes.
 #pragma once
 
 #include <cstddef>
@@ -29,7 +29,7 @@ public:
 
     bool AtEnd() const { return next_ == words_.size(); }
 
-    // Takes the next word when it is this one.
+    // Takes the next word if it is this one.
     bool Take(std::string_view word);
 
     // Takes the next word, which must be there. `what` names it in the message.
@@ -40,12 +40,12 @@ public:
     Quantity Measure(std::string_view what, std::span<const Unit> units, double smallest,
                      double largest);
 
-    double Reading();  // any number, also "nan", "inf" and "-inf"
+    double Reading();  // any number, including "nan", "inf" and "-inf"
     double Time();     // 0 to 1e9 s; a 0 at the end needs no unit
     double Level(std::string_view what, std::string_view unit);  // dB or dBm, -300 to 300
 
     void Fail(std::string message);
-    // Empty while nothing is wrong.
+    // Empty if there is no error.
     const std::string& Error() const { return error_; }
 
 private:

@@ -59,7 +59,7 @@ const driver::DeviceListEntry* Discovery::DeviceOf(const SensorEntry& entry) con
     return found == devices.end() ? nullptr : &*found;
 }
 
-// When one sensor goes, all are saved, since all are assigned anew.
+// If one sensor has gone, all are saved, since all slots will be assigned again.
 void Discovery::SaveWhatHasGone() {
     const sensors::TableLock lock(p_.table);
     std::vector<SensorEntry*> known;
@@ -77,7 +77,7 @@ void Discovery::SaveWhatHasGone() {
     changed_ = vanished_ = true;
 }
 
-// A slot that still holds a sensor is not cut off; it is free by the next tick.
+// A slot that still holds a sensor is not removed; it is free by the next tick.
 void Discovery::SizeTable() {
     SensorTable& table = p_.table;
     const auto listed = static_cast<int>(p_.catalogue.deviceList.size());
@@ -85,7 +85,7 @@ void Discovery::SizeTable() {
     for (int slot = 0; slot < table.Slots(); ++slot)
         if (!table[slot].resourceName.empty() && !table.simulationMode)
             slots = std::max(slots, slot + 1);
-    // Rows below the new end would otherwise keep showing who was there.
+    // Otherwise the rows below the new end would keep showing their former sensors.
     for (int slot = slots + 1; slot < table.Slots(); ++slot) p_.windows.results.PaintPresence(slot);
     table.Resize(slots);
 }
@@ -96,7 +96,7 @@ void Discovery::RealSensors() {
         p_.table.deviceTableChanged = true;
     }
     p_.table.simulationMode = false;
-    // Those that are left are found again at once, from the first slot on.
+    // The remaining sensors are found again at once, from the first slot on.
     if (vanished_) {
         ReleasePresent();
         SizeTable();
@@ -188,13 +188,13 @@ void Discovery::SwitchPresentOn() {
     changed_ = true;
 }
 
-// Their settings have been saved with those of the sensor that went.
+// Their settings were saved together with those of the sensor that has gone.
 void Discovery::ReleasePresent() {
     for (SensorEntry* entry : p_.table.Present()) sensors::ReleaseSlot(*entry);
     sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
 }
 
-// The spare element too: one empty row below the last slot.
+// Includes the spare element: one empty row below the last slot.
 void Discovery::Repaint() {
     for (int slot = 0; slot <= p_.table.Slots(); ++slot) p_.windows.results.PaintPresence(slot);
 }

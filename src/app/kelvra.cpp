@@ -23,7 +23,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
 }
 
-// The recovery comes last: the windows have shown what it acts on.
+// The recovery comes last, after the windows have shown the error that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
     windows.Subscribe(news, sessionNews);

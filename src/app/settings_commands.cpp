@@ -61,7 +61,7 @@ void SettingsCommands::Save(const std::string& path) {
     if (const std::error_code error = Write(path)) Complain("saved", path, error);
 }
 
-// Where Kelvra's own files are, others may be changing them.
+// In the data folder, another Kelvra may be changing the file.
 std::error_code SettingsCommands::Write(const std::string& path) {
     std::optional<platform::FolderLock> lock;
     const std::string folder = host_.computer.ProgramFolder();
@@ -77,7 +77,7 @@ void SettingsCommands::AskFile(const platform::FileQuestion& question,
     host_.dialogs.AskFile(question, [this, sensor, goOn](std::optional<std::string> path) {
         if (!path || path->empty()) return;
         if (table_[table_.currentSensor].sensorId == sensor) return goOn(*path);
-        host_.dialogs.Message({}, "The sensor has changed meanwhile. Nothing was done.",
+        host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
                               platform::MessageIcon::Exclamation);
     });
 }

@@ -12,7 +12,8 @@ using sensors::Transfer;
 
 namespace {
 
-// A section's name for a sensor. What a device sends as its serial number must not end the name.
+// The sensor's name in section names. Characters of a serial number that would end the name are
+// replaced.
 std::string Stem(std::string sensorId) {
     std::replace_if(
         sensorId.begin(), sensorId.end(), [](char c) { return c == ']' || c == '\r' || c == '\n'; },
@@ -29,7 +30,7 @@ void SettingsStore::Open(platform::Computer& computer) {
     ShowUse();
 }
 
-// Whoever found the folder free does not mind others.
+// If this program was the first in the folder, later ones don't matter to it.
 void SettingsStore::LookForOthers() {
     if (!use_.Shared() && !use_.Error()) return;
     use_.LookAgain();
@@ -86,8 +87,8 @@ void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
 
 void SettingsStore::Keep(const std::string& sensorId, sensors::SensorSettings settings) {
     Kept& kept = kept_[sensorId];
-    settings.ContMeas = false;  // which no file has
-    // Settings that were never read and never changed are nothing to save.
+    settings.ContMeas = false;  // never kept in a file
+    // Defaults that were never read and never changed need no save.
     if (kept.read || settings != kept.inFile)
         kept.unsaved = settings;
     else

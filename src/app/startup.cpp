@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Start-up in its order: the debug log before any driver call, the INI path before settings are
-// read, the sensor table before discovery.
+// Start-up in order: the debug log before any driver call, the INI path before settings are read,
+// the sensor table before discovery.
 #include <algorithm>
 #include <chrono>
 #include <string>
@@ -53,7 +53,7 @@ void Kelvra::Start() {
 
 void Kelvra::StartDebugLog() {
     log.onFailure = [this](const std::string& path, const std::string& reason) {
-        // No message box: lines are written in the middle of driver calls.
+        // No message box, since lines are written in the middle of driver calls.
         windows.notice.ShowFileTrouble(path,
                                        "The debug log can't be written: " + path + ": " + reason);
     };

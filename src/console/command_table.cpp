@@ -57,8 +57,8 @@ Target FindTarget(CommandContext& c, std::string_view& rest) {
     return {found.control, std::nullopt};
 }
 
-// The same for a command that acts like a person: the control must be within reach, and the person
-// leaves the text box typed into before.
+// The same for a command that acts like the user: the control must be visible and enabled, and an
+// edit in the text box used before is committed.
 Target ReachTarget(CommandContext& c, std::string_view& rest) {
     Target target = FindTarget(c, rest);
     if (target.error) return target;
@@ -83,7 +83,7 @@ T* TargetAs(Target& target) {
     return control;
 }
 
-// Presses what can be pressed, toggles a check box.
+// Presses a control or toggles a check box.
 struct Clicking {
     template <class Pressable>
     CommandError operator()(Pressable& control) const {
@@ -189,7 +189,7 @@ CommandError Drag(CommandContext& c, std::string_view rest) {
     if (graph->Track() != controls::TrackMode::CursorEvents)
         return "no cursor can be dragged while the graph's zoom is on";
     if (!graph->DragCursor(*cursor, *x, *y)) return "the cursor is hidden";
-    graph->ReleaseCursor(*cursor);  // refused only if the drag has removed it
+    graph->ReleaseCursor(*cursor);  // refused only if the drag has removed the cursor
     return std::nullopt;
 }
 

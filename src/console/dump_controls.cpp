@@ -80,7 +80,7 @@ void GraphMembers(JsonLine& json, const Graph& graph) {
     json.EndList().Member("trackMode", static_cast<int>(graph.Track()));
 }
 
-// What comes before the colours, by kind.
+// The members before the colours, by kind.
 struct OwnMembers {
     JsonLine& json;
 
@@ -110,7 +110,7 @@ private:
     }
 };
 
-// What comes at the end, by kind.
+// The members at the end, by kind.
 struct ContentMembers {
     JsonLine& json;
 
@@ -122,7 +122,7 @@ struct ContentMembers {
     void operator()(const Control&) const {}
 };
 
-// Any kind but a window.
+// For all kinds except windows.
 std::string DumpInside(const Control& control) {
     JsonLine json;
     json.BeginObject().Member("name", control.Name()).Member("kind", KindName(control.GetKind()));

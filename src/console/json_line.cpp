@@ -10,7 +10,7 @@ namespace kelvra::console {
 
 namespace {
 
-// Hexadecimal digits of a byte, for colours and control characters.
+// A byte in hexadecimal digits, for colours and control characters.
 std::string HexByte(std::uint32_t byte) {
     const std::string digits = util::HexText(byte & 0xFF);
     return digits.size() < 2 ? "0" + digits : digits;

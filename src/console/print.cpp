@@ -8,7 +8,7 @@ namespace kelvra::console {
 
 namespace {
 
-// A TAB in a cell must not look like the next cell.
+// Escapes a TAB, which would look like the next cell.
 std::string OneCell(std::string_view text) {
     std::string cell = OneLine(text);
     for (auto tab = cell.find('\t'); tab != std::string::npos; tab = cell.find('\t', tab))
@@ -38,7 +38,7 @@ std::vector<std::string> ListLines(const controls::List& list) {
 struct Lines {
     using Result = std::vector<std::string>;
 
-    // A label, a button ... shows its caption.
+    // Labels, buttons and others show their caption.
     template <class Captioned>
     Result operator()(const Captioned& control) const {
         return {OneLine(control.caption.Get())};
@@ -49,7 +49,7 @@ struct Lines {
     }
     Result operator()(const controls::List& list) const { return ListLines(list); }
     Result operator()(const controls::Grid& grid) const { return GridLines(grid); }
-    Result operator()(const controls::Graph&) const { return {}; }  // its content is for dump
+    Result operator()(const controls::Graph&) const { return {}; }  // dump shows its content
     Result operator()(const controls::RichText& text) const { return {OneLine(text.rtf.Get())}; }
     Result operator()(const controls::Picture& picture) const { return {picture.image.Get()}; }
 };

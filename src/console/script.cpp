@@ -12,7 +12,7 @@ using platform::LineInput;
 
 namespace {
 
-// Comments and empty lines are no commands and take no round.
+// Comments and empty lines are not commands and take no round.
 bool IsRemark(const std::string& line) {
     const auto start = line.find_first_not_of(' ');
     return start == std::string::npos || line[start] == '#';
@@ -81,7 +81,7 @@ void Script::Run(const std::string& line) {
     if (p_.echo) p_.output.Line("> " + line);
     const int number = lineNumber_;
     if (const CommandError error = RunCommand(context_, line)) {
-        lineNumber_ = number;  // a command may have let others run
+        lineNumber_ = number;  // the command may have run others
         Fail(*error);
     }
 }

@@ -10,9 +10,9 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// What a round costs on a clock of its own.
+// The duration of a round on a clock of its own.
 constexpr auto RoundTime = milliseconds(1);
-// How long the idle loop sleeps without any timer.
+// How long the idle loop sleeps when there is no timer.
 constexpr Duration LongSleep = std::chrono::hours(1);
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 
 using controls::Kind;
 
-constexpr int DarkBelow = 110;  // of 255, as the eye weighs it
+constexpr int DarkBelow = 110;  // of 255, in perceived brightness
 
 struct Roles {
     QPalette::ColorRole back = QPalette::NoRole;
@@ -53,7 +53,7 @@ void UpdateColours(QWidget& widget, const controls::Control& control) {
     if (roles.back == QPalette::NoRole) return;
     const auto& back = control.back.Get();
     const auto& fore = control.fore.Get();
-    QPalette own;  // without a colour of its own: those around the widget
+    QPalette own;  // the palette around the widget, for a widget without a colour
     own.setResolveMask(0);
     if (back) {
         const QColor colour = ToolkitColour(*back);

@@ -24,7 +24,7 @@ int Twips(int pixels) {
 
 void UpdateCommon(QWidget& widget, const controls::Control& control) {
     widget.setEnabled(control.enabled && !Withheld(widget));
-    // What isn't in its window yet comes into sight with it; shown alone it would be a window.
+    // A widget outside a window would be shown as a window; it becomes visible once it is in one.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.visible) widget.setVisible(control.visible);
     const QString tooltip = control.tooltip->empty() ? widget.property(OwnTooltip).toString()

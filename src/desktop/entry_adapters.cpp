@@ -13,7 +13,7 @@ TextBoxAdapter::TextBoxAdapter(controls::TextBox& box, QLineEdit& widget)
     : box_(box), widget_(widget) {
     QObject::connect(&widget_, &QLineEdit::textEdited,
                      [this](const QString& text) { box_.Type(Bytes(text)); });
-    // Also after Enter, when nothing is left to commit.
+    // Also raised after Enter, when nothing is left to commit.
     QObject::connect(&widget_, &QLineEdit::editingFinished, [this] { box_.Leave(); });
 }
 
@@ -26,7 +26,7 @@ CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)
     : box_(box), widget_(widget) {
     QObject::connect(&widget_, &QCheckBox::clicked, [this] {
         box_.Toggle();
-        Update();  // the mark is the record's, whatever the widget has ticked by itself
+        Update();  // shows the record's mark: the widget has changed its own by itself
     });
 }
 
@@ -42,7 +42,7 @@ OptionAdapter::OptionAdapter(controls::Option& option, QRadioButton& widget)
     QObject::connect(&widget_, &QRadioButton::clicked, [this] { option_.Press(); });
 }
 
-// The toolkit takes the mark from the others when one gets it.
+// Checking one option makes the toolkit uncheck the others.
 void OptionAdapter::Update() {
     if (const QString text = MarkedText(option_, option_.caption); widget_.text() != text)
         widget_.setText(text);

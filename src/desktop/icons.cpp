@@ -8,7 +8,7 @@
 #include "desktop/qt_text.h"
 #include "util/number_reading.h"
 
-// The pictures are in a static library: they must be asked for, outside of any namespace.
+// The pictures are in a static library and must be registered, outside of any namespace.
 static void InitialisePictures() {
     Q_INIT_RESOURCE(icons);
 }
@@ -20,7 +20,7 @@ namespace {
 constexpr int BusySteps = 8;
 constexpr std::string_view BusyName = "busy";
 
-// Which eighth of a turn a busy picture shows, 0 for every other picture.
+// The eighth of a turn that a busy picture shows; 0 for other pictures.
 int BusyStep(std::string_view name) {
     if (!name.starts_with(BusyName)) return 0;
     const auto number = util::ReadWholeNumber(name.substr(BusyName.size())).value_or(1);

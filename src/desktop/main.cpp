@@ -23,7 +23,7 @@ void Complain(const std::string& text) {
 }
 
 // The toolkit ends the program when it can't reach the display or lacks its plugin, and says which;
-// the last words are ours. Once the application stands it is on its own again.
+// our message comes after that. Used only until the application has been created.
 void OnStartingToolkit(QtMsgType type, const QMessageLogContext&, const QString& message) {
     Complain(message.toStdString());
     if (type != QtFatalMsg) return;
@@ -39,8 +39,9 @@ bool DisplayIsNamed() {
     return false;
 }
 
-// The system asks the program to end: the exit routine runs in order. A session manager asks it to
-// save first, sometimes without an end; the end comes as a wish to close the window.
+// The system asks the program to end: the exit routine runs. A session manager asks the program to
+// save first, which does not always mean an end; the end itself comes as a request to close the
+// window.
 void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
     platform::WatchForTermination();
     auto* notifier =
@@ -53,8 +54,8 @@ void ExitWhenAsked(QApplication& application, app::Kelvra& kelvra) {
                      [&kelvra](QSessionManager&) { kelvra.SaveSettings(); });
 }
 
-// The toolkit ends the process where it stands when the display goes away. No way but this one
-// leads to the program from there.
+// The toolkit ends the process at once when the display goes away. Only this pointer leads back to
+// the program then.
 app::Kelvra* cutOff = nullptr;
 
 void ExitWhenCutOff() {
@@ -93,11 +94,11 @@ int main(int argc, char** argv) {
         options::Parse(argc, argv, {"kelvra", "Kelvra operates several USB power sensors.", ""});
     if (!parsed.options) return options::Report(parsed);
     if (!DisplayIsNamed()) {
-        Complain("kelvra: there is no display to work on; kelvra-console measures without one.");
+        Complain("kelvra: there is no display; kelvra-console measures without one.");
         return NoDisplay;
     }
     qInstallMessageHandler(OnStartingToolkit);
-    int toolkitArgc = 1;  // the command line is the program's own
+    int toolkitArgc = 1;  // the toolkit gets no options: the command line is Kelvra's
     QApplication application(toolkitArgc, argv);
     qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("Kelvra");

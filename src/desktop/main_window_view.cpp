@@ -17,7 +17,7 @@ namespace kelvra::desktop {
 
 namespace {
 constexpr int IndicatorIcon = 20;  // logical pixels
-constexpr int NoticeLines = 2;     // room for the usual ones, so that the strip does not jump
+constexpr int NoticeLines = 2;     // for the usual notices, so that the strip does not jump
 constexpr int LeastFormulaWidth = 60;
 constexpr int FormulaColumn = 1;
 }  // namespace
@@ -63,7 +63,7 @@ void MainWindowView::BuildMenus() {
     }
 }
 
-// What opens a window that is not drawn yet.
+// Whether the control opens a window that is not drawn yet.
 bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
     const std::initializer_list<const controls::Control*> openers{
         &form_.FileSaveData, &form_.SettingAlwaysOnTop, &form_.MHelpAbout, &form_.Show_Settings};
@@ -119,7 +119,7 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     text->setWordWrap(true);
     text->setMinimumHeight(NoticeLines * QFontMetrics(text->font()).lineSpacing());
     inside->addWidget(text);
-    // The row keeps its height while the notice comes and goes.
+    // The row keeps its height when the notice comes and goes.
     for (QWidget* hidden : {static_cast<QWidget*>(notice), static_cast<QWidget*>(text)}) {
         QSizePolicy policy = hidden->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -144,13 +144,13 @@ QWidget* MainWindowView::BuildFormulas() {
     outerLayout->setContentsMargins(0, 0, 0, 0);
     outerLayout->addWidget(inner);
     innerLayout->addWidget(formulas_);
-    // The formulas are always in sight, and take no more room than that.
+    // The formulas are always visible, and take no more room than they need.
     formulas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->onNeed = [this] { KeepResultsInSight(); };
     formulas_->onFit();
-    // Where room is short the formula gives way: names and results are what is read.
+    // Where room is short the formula column shrinks: names and results matter more.
     formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;
 }

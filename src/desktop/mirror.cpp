@@ -11,7 +11,7 @@ constexpr auto FrameTime = std::chrono::milliseconds(17);
 }  // namespace
 
 Mirror::Mirror(controls::Changes& changes) : changes_(changes) {
-    changes_.Take();  // adapters read their controls as they come
+    changes_.Take();  // adapters read their controls when they are created
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, [this] { Flush(); });
@@ -30,7 +30,7 @@ void Mirror::Add(const controls::Control& control, std::unique_ptr<Adapter> adap
     adapters_.insert_or_assign(&control, std::move(adapter));
 }
 
-// Before the event is delivered: the timer runs out when that is done.
+// Called before the event is delivered; the timer expires after that.
 bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
     const bool acts =
         event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyPress;

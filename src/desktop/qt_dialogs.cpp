@@ -19,7 +19,7 @@ namespace kelvra::desktop {
 
 namespace {
 
-constexpr int PromptWidth = 480;  // a formula is longer than a usual answer
+constexpr int PromptWidth = 480;  // logical pixels; a formula is longer than a usual answer
 
 QString ProgramName() {
     return QCoreApplication::applicationName();
@@ -51,7 +51,7 @@ void QtDialogs::Drop() {
         if (dialog == nullptr) continue;
         dialog->disconnect();
         dialog->hide();
-        dialog->deleteLater();  // it may be what is just being answered
+        dialog->deleteLater();  // one of its handlers may be running
     }
 }
 
@@ -124,7 +124,7 @@ void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     dialog->setNameFilters(filters);
     dialog->selectNameFilter(filters.value(question.filterIndex - 1));
     dialog->selectFile(proposed);
-    // A name without a suffix gets that of the proposed one, as the filter lists it.
+    // A name without a suffix gets the suffix of the proposed name, so that the filter lists it.
     dialog->setDefaultSuffix(QFileInfo(proposed).suffix());
     Open(*dialog, [dialog, answer](bool accepted) {
         answer(accepted ? std::optional(Bytes(dialog->selectedFiles().value(0))) : std::nullopt);
@@ -139,11 +139,12 @@ platform::ScreenSize QtDialogs::Screen() {
 void QtDialogs::OpenHelp(const std::string& file, int) {
     const QString path = Shown(file);
     if (!QFileInfo::exists(path)) {
-        Message({}, "The help file is not there:\n" + file, platform::MessageIcon::Information);
+        Message({}, "The help file is missing:\n" + file, platform::MessageIcon::Information);
         return;
     }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        Message({}, "No program opens the help file:\n" + file, platform::MessageIcon::Exclamation);
+        Message({}, "There is no program to open the help file:\n" + file,
+                platform::MessageIcon::Exclamation);
 }
 
 }  // namespace kelvra::desktop

@@ -12,7 +12,7 @@ using Steady = std::chrono::steady_clock;
 
 namespace {
 constexpr auto DeliveryInterval = milliseconds(1);
-constexpr auto RoundTime = milliseconds(1);  // on a clock of the program's own
+constexpr auto RoundTime = milliseconds(1);  // on Kelvra's own clock
 }  // namespace
 
 QtEvents::QtEvents(platform::Clock& clock, platform::SetClock* setClock)
@@ -83,8 +83,7 @@ void QtEvents::Quit() {
     timers_.Clear();
     due_.stop();
     if (onQuit) onQuit();
-    QCoreApplication::exit();  // not quit, which would first ask the windows, and those ask the
-                               // rules
+    QCoreApplication::exit();  // quit() would first ask the windows, and so the rules
 }
 
 }  // namespace kelvra::desktop

@@ -20,8 +20,8 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(table_);
     window_->setWidget(frame);
-    // Without buttons: nothing would bring it back, and a maximised one would write into the title
-    // of the program.
+    // Without buttons: a minimised window could not be brought back, and a maximised one would
+    // change the program's title.
     window_->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     window_->setWindowIcon(Icon("kelvra"));
 
@@ -31,9 +31,9 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     FitWindow();
 }
 
-// All columns and rows are in sight, as far as the area has room and unless a person wants it
-// otherwise. Later, in one go: a table that fills itself asks often, and has its sizes when it is
-// laid out.
+// Shows all columns and rows, as far as the area has room, unless the user has chosen another size.
+// Deferred and done once: a table that is being filled asks often, and knows its sizes only after
+// its layout.
 void ResultWindowView::FitWindow() {
     if (fitting_) return;
     fitting_ = true;

@@ -32,7 +32,7 @@ ButtonAdapter::ButtonAdapter(controls::Button& button, QPushButton& widget)
 }
 
 void ButtonAdapter::Update() {
-    // Only another text: the toolkit sets up the key of its letter anew each time.
+    // Only for a different text: the toolkit sets up the mnemonic's key again each time.
     const QString text = MarkedText(button_, button_.caption);
     if (widget_.text() != text) widget_.setText(text);
     if (!button_.picture->empty()) widget_.setIcon(Icon(button_.picture));
@@ -43,7 +43,7 @@ MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
     : item_(item), action_(action) {
     QObject::connect(&action_, &QAction::triggered, [this] {
         item_.Press();
-        Update();  // the mark is the record's, whatever the action has ticked by itself
+        Update();  // shows the record's mark: the action has changed its own by itself
     });
 }
 

@@ -17,7 +17,7 @@ namespace kelvra::desktop {
 
 namespace {
 
-// What the control is, in words, for who does not see its place.
+// The control's name for users who can't see its place on the screen.
 QString NameForPeople(const controls::Control& control) {
     const controls::Field* field = control.AsField();
     if (control.access.name.empty() && field != nullptr && field->captionLabel)
@@ -46,7 +46,7 @@ QPushButton* WidgetMaker::Make(controls::Button& button) {
     auto* widget = new QPushButton;
     widget->setIconSize({ToolIcon, ToolIcon});
     if (const QString shortcut = Shown(button.access.shortcut); !shortcut.isEmpty()) {
-        // Beside the underlined letter, which the button's own shortcut would replace.
+        // In addition to the mnemonic, which the button's own shortcut would replace.
         new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->click(); });
         SetOwnTooltip(*widget, NameForPeople(button) + " (" + shortcut + ")");
     }
@@ -63,7 +63,7 @@ QCheckBox* WidgetMaker::Make(controls::CheckBox& box) {
 
 QWidget* WidgetMaker::Make(controls::OptionGroup& group) {
     auto* widget = new QWidget;
-    widget->setFocusPolicy(Qt::ClickFocus);  // a caption's letter asks for one
+    widget->setFocusPolicy(Qt::ClickFocus);  // a caption's mnemonic needs a focus policy
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
     QList<QRadioButton*> options;

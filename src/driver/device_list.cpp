@@ -11,7 +11,7 @@ namespace kelvra::driver {
 namespace {
 
 constexpr std::int32_t MostEntries = 256;
-// A library that reports an empty list is asked for this many entries all the same.
+// Even if a library reports an empty list, this many entries are read.
 constexpr std::int32_t EntriesOfEmptyList = 2;
 
 }  // namespace

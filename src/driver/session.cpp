@@ -13,7 +13,7 @@ namespace kelvra::driver {
 
 namespace {
 
-// The driver wants a pause after it has opened a sensor.
+// The driver needs a pause after it has opened a sensor.
 constexpr auto OpeningPause = std::chrono::milliseconds(100);
 
 constexpr std::int32_t CheckIdentity = 1;
@@ -40,7 +40,7 @@ void Session::OpenSensor(int slot) {
         return;
     }
     state.reconnectPrompt = true;
-    // Without a handle there is no session, even if the status says that all is well.
+    // Without a handle there is no session, even if the status is success.
     if (state.instrumentHandle == 0) return;
     table_[slot].sessionOpen = true;
     table_[slot].waitTicks = 0;

@@ -34,7 +34,7 @@ std::int32_t TerminalControl(bool moving) {
     return moving ? 0 : 1;
 }
 
-// The resolution as the driver's whole number. One too large for that becomes the largest, which
+// The resolution as the driver's whole number. A value too large for it becomes the largest, which
 // the driver refuses.
 std::int32_t Resolution(double value) {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -195,7 +195,7 @@ void SendMode(SettingsSender& send, InstrumentOperations& op, const SensorSettin
     }
 }
 
-// "12, 1" at the left of a field of 20 characters.
+// "12, 1", left-aligned in a field of 20 characters.
 std::string LogHeader(Handle handle, int slot) {
     std::string header = util::TrimmedNumberText(std::int64_t{handle}) + ", " +
                          util::TrimmedNumberText(std::int64_t{ChannelOf(slot)});
@@ -214,7 +214,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
                    session_.state.instrumentHandle, ChannelOf(slot));
         sensors::SensorEntry& entry = table_[slot];
         entry.lastErrorText.clear();
-        entry.settingsChanged = false;  // an edit from here on counts again
+        entry.settingsChanged = false;  // an edit during the transfer sets it again
         session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
         const bool complete = Send(slot);
         session_.log.header.clear();
@@ -227,7 +227,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
     news_.marks.Tell(&TransferMarks::TransferEnds, slot);
 }
 
-// The type decides what a sensor takes, not the name that the user has given it.
+// The sensor's type decides which settings it takes, not the name that the user has given it.
 bool ConfigurationTransfer::Send(int slot) {
     SettingsSender send(session_, slot, pace_);
     InstrumentOperations& op = session_.operations;

@@ -10,7 +10,7 @@ void Note(Found& found, controls::Control& control) {
     found = result == Lookup::Found ? Found{result, &control} : Found{result};
 }
 
-// Looks at the control and all below it.
+// Looks at the control and everything in it.
 void Search(controls::Control& control, std::string_view name, Found& found) {
     if (control.Name() == name) Note(found, control);
     for (controls::Control* child : control.Children()) Search(*child, name, found);

@@ -9,11 +9,12 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// How long a sensor may take before its being waited for is news, and again.
+// A sensor that is not complete is reported after this time, and then each time it has passed.
 constexpr auto AwaitedAfter = milliseconds(1000);
-// A round in which nothing completed waits for an event instead of spinning.
+// If nothing completed, a round waits this long for an event, so that it does not spin.
 constexpr auto PollingPatience = milliseconds(1);
-// A simulated pass takes as long as no event comes: what nobody can see is not worth a processor.
+// A simulated pass waits this long for an event: passes faster than anybody can see would only use
+// up the processor.
 constexpr auto SimulatedPass = milliseconds(20);
 constexpr std::int16_t LongestBar = 8;
 
@@ -54,8 +55,8 @@ void Cycle::Pass() {
     ++p_.state.passes;
 }
 
-// A slot that was closed since the last pass is opened again; changed settings are sent. A failed
-// opening has closed the session of all: then the pass starts over.
+// Opens a slot again that was closed since the last pass, and sends changed settings. A failed
+// opening has closed the whole session; then the pass starts over.
 bool Cycle::PrepareSlot(int slot) {
     if (!p_.table[slot].sessionOpen) {
         p_.session.OpenSensor(slot);
@@ -81,8 +82,8 @@ bool Cycle::PrepareSlot(int slot) {
     return true;
 }
 
-// What can't be opened again isn't tried in every pass, with a message each time. Without slot 0
-// there is no session for the others.
+// A sensor that can't be opened again is not tried in every pass, with a message each time. Without
+// slot 0 there is no session for the others.
 void Cycle::TakeOut(int slot) {
     run_.measured[static_cast<std::size_t>(slot)] = false;
     if (slot == 0) Stop();
@@ -102,7 +103,7 @@ void Cycle::Initiate() {
                                                  p_.session.state.instrumentHandle));
 }
 
-// One reading of the clock serves a round, and the first round has that of the pass.
+// Reads the clock once a round. The first round takes the time at which the pass began.
 void Cycle::Poll(platform::Duration began) {
     run_.lastAwaited = began;
     bool allDone = false;
@@ -189,7 +190,7 @@ void Cycle::FetchSlot(int slot) {
             entry.newTraceData = true;
             p_.news.slot.Tell(&SlotListener::ArrayArrived, slot);
             break;
-        default:  // a buffered result is not fetched in the pass
+        default:  // a buffered result is not fetched during a pass
             break;
     }
 }

@@ -29,7 +29,7 @@ void Cycle::Start() {
     Close();
 }
 
-// A Stop that is pressed from here on counts, however early: nothing below takes it back.
+// A Stop that is pressed from here on counts: nothing below takes it back.
 void Cycle::Begin() {
     p_.state.measuring = true;
     p_.state.stopRequested = false;
@@ -48,7 +48,7 @@ void Cycle::Stop() {
     p_.news.measurement.Tell(&MeasurementListener::Stopped);
 }
 
-// Fixes the channel numbers: an enabled sensor must be in slot 0, which opens the session.
+// Fixes the channel numbers: slot 0, which opens the session, must hold an enabled sensor.
 void Cycle::BringEnabledToFront() {
     sensors::SensorTable& table = p_.table;
     for (int slot = 0; slot < table.Slots(); ++slot) {
@@ -94,7 +94,7 @@ bool Cycle::OpenAndConfigure(int slot) {
     return true;
 }
 
-// A sensor that can't be added to the session has been switched off.
+// Reports a sensor that was switched off because it could not be added to the session.
 void Cycle::TellSwitchedOff(int slot) {
     if (!p_.state.exiting && !p_.table[slot].enabled)
         p_.news.measurement.Tell(&MeasurementListener::SwitchedOff, slot);

@@ -10,7 +10,7 @@ using std::chrono::milliseconds;
 namespace {
 
 constexpr auto LongestWithoutEvents = milliseconds(400);
-// So many calls that took no longer than this together are fast ones.
+// This many calls count as fast if they took no longer than FastCalls together.
 constexpr int CallsOfALook = 8;
 constexpr auto FastCalls = milliseconds(1);
 

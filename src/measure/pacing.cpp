@@ -11,7 +11,7 @@ using std::chrono::seconds;
 namespace {
 
 constexpr auto Pause = milliseconds(1);
-// A pass that began this much behind the last deadline has lost the spacing.
+// A pass that began later than this after the last deadline starts a new series of deadlines.
 constexpr auto Slack = milliseconds(50);
 
 }  // namespace

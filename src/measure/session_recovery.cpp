@@ -28,7 +28,7 @@ void SessionRecovery::TransferEnds(int slot) {
     p_.events.DoEvents();
 }
 
-// The session first, which slot 0 opens; then the sensor that met the complaint.
+// Opens slot 0 first, which opens the session; then the sensor whose transfer failed.
 bool SessionRecovery::Reopen(int slot) {
     p_.table[slot].lastErrorText.clear();
     p_.notices.Tell(&driver::SensorNotices::SensorIsWell, slot);

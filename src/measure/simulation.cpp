@@ -26,7 +26,7 @@ constexpr Level OtherSensors{0.051, -4.05};
 constexpr Level TraceEighths[] = {{5, -65},  {5, -65}, {0.2, 1},   {0.5, -12},
                                   {10, -55}, {0.1, 6}, {0.5, -25}, {0.5, -25}};
 
-// Time slots, over and over.
+// Time slots, repeated in this order.
 constexpr Level SlotLevels[] = {{5, -65}, {0.05, 1}, {0.3, -12}, {10, -55}, {0.1, 6}, {1, -25}};
 
 template <class LevelAt>

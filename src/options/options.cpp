@@ -62,14 +62,15 @@ Parsed Parse(int argc, const char* const* argv, const Program& program) {
     CLI::App app(program.description, program.name);
     app.add_option("--driver-dir", options.driverDir, "folder with the two driver libraries")
         ->type_name("DIR");
-    app.add_option("--data-dir", options.dataDir, "folder of settings, log and names")
+    app.add_option("--data-dir", options.dataDir, "folder for settings, log and names")
         ->type_name("DIR");
-    auto* clockOption = app.add_option("--clock", clock, "own clock: \"YYYY-MM-DD HH:MM:SS\"");
+    auto* clockOption =
+        app.add_option("--clock", clock, "start of Kelvra's own clock: \"YYYY-MM-DD HH:MM:SS\"");
     clockOption->type_name("START");
-    auto* seedOption = app.add_option("--seed", seed, "seed of the random numbers");
+    auto* seedOption = app.add_option("--seed", seed, "seed for the random numbers");
     seedOption->type_name("N");
     if (program.hasScript)
-        app.add_flag("--echo", options.echo, "write each command before it is carried out");
+        app.add_flag("--echo", options.echo, "write each command before it runs");
     app.allow_extras();
     app.set_version_flag("--version", VersionText(program), "print the version and exit");
     app.footer(program.footer);
@@ -84,11 +85,11 @@ Parsed Parse(int argc, const char* const* argv, const Program& program) {
     }
     if (clockOption->count() > 0) {
         options.clock = ParseClock(clock);
-        if (!options.clock) return Wrong(program, "--clock wants \"YYYY-MM-DD HH:MM:SS\"");
+        if (!options.clock) return Wrong(program, "--clock needs \"YYYY-MM-DD HH:MM:SS\"");
     }
     if (seedOption->count() > 0) {
         options.seed = ParseSeed(seed);
-        if (!options.seed) return Wrong(program, "--seed wants a whole number from 0 on");
+        if (!options.seed) return Wrong(program, "--seed needs a whole number, 0 or more");
     }
     options.words = app.remaining();
     for (const std::string& word : options.words)

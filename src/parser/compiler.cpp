@@ -14,7 +14,7 @@ namespace {
 
 constexpr int LevelsOfDepth = 10;
 
-// Two comparison signs that are no operator together: compiles, and fails when it is evaluated.
+// Two or more comparison signs that form no operator: compiles, and fails when it is evaluated.
 constexpr Function UnknownComparison{-1, NameList::Operators, 2, 1, "", nullptr, nullptr};
 
 constexpr bool ContinuesCharacter(char c) {
@@ -104,7 +104,7 @@ bool Compiler::Dispatch(char c) {
     }
 }
 
-// After a name a bracket holds arguments, else it only groups.
+// After a name, a bracket holds arguments; otherwise it only groups.
 bool Compiler::OpenBracket() {
     ++depth_;
     const std::string_view name = Token();
@@ -127,7 +127,7 @@ bool Compiler::CloseBracket() {
     return true;
 }
 
-// A sign without an operand before it works as 0 - x.
+// A sign without an operand before it means 0 - x.
 bool Compiler::TakeSign(char c) {
     const std::string_view token = Token();
     if (token.empty()) {
@@ -160,7 +160,7 @@ bool Compiler::TakeBar() {
     return true;
 }
 
-// The first sign makes the entry, each further one renames the last entry.
+// The first sign creates the entry; each further sign renames it.
 bool Compiler::TakeComparison(char c) {
     if (comparison_.empty()) {
         operatorSeen_ = true;
@@ -176,7 +176,7 @@ bool Compiler::TakeComparison(char c) {
     return true;
 }
 
-// 2x is 2 * x; in other places the letter is like any other.
+// 2x means 2 * x. Elsewhere the letter is an ordinary character.
 bool Compiler::TakeProductName(char c) {
     const std::string_view token = Token();
     if (!token.empty() && IsDigit(token.back()))
@@ -185,8 +185,8 @@ bool Compiler::TakeProductName(char c) {
     return true;
 }
 
-// A lone operand becomes 0 + operand; then each entry gets its last argument: the first argument of
-// the entry to its right, or for the last entry the token that is left.
+// A lone operand becomes 0 + operand. Then each entry gets its last argument: the first argument of
+// the next entry, or the remaining token for the last entry.
 bool Compiler::Finish() {
     auto& entries = table_.entries;
     if (table_.LastEntry() == 0) {
@@ -213,7 +213,8 @@ bool Compiler::AppendEntry(std::string_view fun, const Function& function) {
     return true;
 }
 
-// The operand of "!" stays: what follows takes it too, and gets the factorial when it is linked.
+// The operand of "!" stays: the next operation takes it too, and gets the factorial instead when it
+// is linked.
 bool Compiler::CloseOperand() {
     ExpressionEntry& entry = table_.entries.back();
     if (!SetOperand(entry.arguments[0])) return false;

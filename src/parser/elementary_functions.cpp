@@ -10,7 +10,7 @@
 namespace kelvra::parser {
 
 double Power(double a, double b) {
-    if (std::isnan(b)) return Failed;  // the library has 1 to any power, even to none, as 1
+    if (std::isnan(b)) return Failed;  // std::pow gives 1 for 1 to the power NaN
     return std::pow(a, b);
 }
 

@@ -23,7 +23,7 @@ double Series(double x) {
     return sum;
 }
 
-// 1/(x + 2/(2x + 3/(x + 4/(2x + ...)))), forwards.
+// 1/(x + 2/(2x + 3/(x + 4/(2x + ...)))), evaluated forwards.
 double ContinuedFraction(double x) {
     constexpr int lastDepth = 400;
     double a = 0, aBefore = 1;

@@ -17,7 +17,7 @@ double NoOperation(double, double) {
 
 }  // namespace
 
-// Most of what formulas consist of are the basic operations, which cost less than a call does.
+// Formulas consist mostly of the basic operations, which take less time than a call.
 void EvaluationPlan::Bind(Step& step, const Function* function) {
     step.ofOne = function == nullptr ? nullptr : function->ofOne;
     step.ofTwo = function == nullptr ? NoOperation : function->ofTwo;

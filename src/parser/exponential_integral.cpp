@@ -24,7 +24,7 @@ double PowerSeries(double x) {
     return sum;
 }
 
-// 1 + 1!/x + 2!/x^2 + ..., as long as its terms fall.
+// 1 + 1!/x + 2!/x^2 + ..., as long as the terms decrease.
 double AsymptoticSeries(double x) {
     double sum = 1;
     double term = 1;

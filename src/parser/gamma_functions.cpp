@@ -21,7 +21,8 @@ constexpr double Coefficients[] = {
     -2.61908384015814E-05, 3.68991826595316E-06,
 };
 
-// A value as mantissa (from 1 to below 10) and decimal exponent, so that it may be beyond double.
+// A value as mantissa (from 1 to below 10) and decimal exponent, so that it may exceed the range of
+// double.
 struct Split {
     double mantissa;
     int exponent;
@@ -84,7 +85,7 @@ double Beta(double a, double b) {
 }
 
 double Digamma(double x) {
-    constexpr int shift = 8;  // the asymptotic series wants a large argument
+    constexpr int shift = 8;  // the asymptotic series needs a large argument
     const bool shifted = x <= shift;
     const double z = shifted ? x - 1 + shift : x - 1;
     double psi = std::log(z) + (1 / z - BernoulliSum(z)) / 2;

@@ -38,8 +38,8 @@ std::optional<double> IfFinite(double value) {
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-// The factor of the prefix, which is taken off the unit; 1 if there is none. The H of a bare Hz is
-// part of the unit.
+// Takes the prefix off the unit and gives its factor; 1 without a prefix. The H of a bare Hz
+// belongs to the unit.
 double TakePrefix(std::string_view& unit) {
     if (unit.size() < 2 || unit == "Hz") return 1;
     for (const auto& prefix : Prefixes) {
@@ -59,7 +59,7 @@ std::string_view SkipDigits(std::string_view text) {
     return text;
 }
 
-// The rest of the text behind "E", a sign and digits; nothing if that is no whole exponent.
+// Whether the text is an exponent: E or D, perhaps a sign, digits, and nothing else.
 bool IsExponent(std::string_view text) {
     if (!IsExponentLetter(text.front())) return false;
     text.remove_prefix(1);

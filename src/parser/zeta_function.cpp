@@ -10,7 +10,7 @@ namespace kelvra::parser {
 double Zeta(double s) {
     constexpr int lastTerm = 1000;
     constexpr double enough = 1e-16;
-    std::array<double, lastTerm + 1> powers{};  // (k + 1)^s, as far as they have been needed
+    std::array<double, lastTerm + 1> powers{};  // (k + 1)^s, as far as they were needed
     double total = 0;
     double weight = 1;
     for (int n = 0; n <= lastTerm; ++n) {

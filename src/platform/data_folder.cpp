@@ -14,8 +14,8 @@ namespace {
 
 using Steady = std::chrono::steady_clock;
 
-// A save takes milliseconds. Real time counts, also for a program with a clock of its own: that is
-// what the other program's save takes.
+// A save takes milliseconds. Real time counts even when the program has a clock of its own, because
+// the other program's save takes real time.
 constexpr auto Patience = std::chrono::seconds(2);
 constexpr auto BetweenAttempts = std::chrono::milliseconds(5);
 
@@ -82,8 +82,9 @@ void FolderUse::LookAgain() {
     error_ = lock.Error() ? lock.Error() : Look();
 }
 
-// Everybody who uses the folder shares the lock, so nobody else does when it can be had alone. Who
-// looks holds the folder's lock: two that begin at once would miss each other.
+// Every program that uses the folder shares this lock, so whoever gets it exclusively is alone. The
+// caller holds the folder's change lock: otherwise two programs that start at once would miss each
+// other.
 std::error_code FolderUse::Look() {
     End();
     const std::string path = In(folder_, UseLock);

@@ -32,7 +32,7 @@ std::error_code WriteAll(Files& files, Files::Handle handle, std::string_view by
     while (!bytes.empty()) {
         std::size_t written = 0;
         if (const auto error = files.Write(handle, bytes, written)) return error;
-        // A device that takes nothing and complains of nothing would keep us here for ever.
+        // A device that takes no bytes and reports no error would keep this loop running.
         if (written == 0) return make_error_code(std::errc::io_error);
         bytes.remove_prefix(written);
     }
@@ -45,8 +45,9 @@ std::error_code CloseAfter(std::error_code error, Files& files, Files::Handle ha
     return error ? error : closing;
 }
 
-// A new file beside the target. The name is of its own, so that a long file name stays possible,
-// and is taken from the time, so that files left by a crash don't use up the names.
+// Creates a new file beside the target. Its name does not contain the target's, which may be as
+// long as a name can be. It comes from the time, so that files left by a crash don't use up the
+// names.
 std::error_code CreateBeside(Files& files, const std::string& target, std::string& path,
                              Files::Handle& handle) {
     constexpr int attempts = 16;
@@ -63,7 +64,7 @@ std::error_code CreateBeside(Files& files, const std::string& target, std::strin
     return error;
 }
 
-// Whether CreateBeside gives such names.
+// Whether CreateBeside could have made this name.
 bool IsTemporary(std::string_view name) {
     if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) return false;
     name.remove_prefix(TemporaryPrefix.size());
@@ -72,7 +73,7 @@ bool IsTemporary(std::string_view name) {
            name.find_first_not_of("0123456789ABCDEF") == std::string_view::npos;
 }
 
-// Permissions come first: what only its owner may read never stands open to others.
+// Permissions come first, so that a private file is never readable by others.
 std::error_code Fill(Files& files, Files::Handle handle, const std::string& old,
                      std::string_view bytes) {
     if (files.Exists(old))
@@ -104,7 +105,7 @@ std::error_code ReplaceFile(Files& files, const std::string& path, std::string_v
 
     auto error = CloseAfter(Fill(files, handle, target, bytes), files, handle);
     if (!error) error = files.Rename(temporary, target);
-    // Whether this succeeds or not, the error that brought us here is the one to report.
+    // Reports the error that led here, even if the removal fails as well.
     if (error) files.Remove(temporary);
     return error;
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the sections and keys of a ProfileText stand: the pass that finds the sections, and the
-// look-ups.
+// The sections and keys of a ProfileText: the pass that finds the sections, and the look-ups.
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -30,7 +29,7 @@ std::optional<std::string_view> HeadingName(std::string_view line) {
 
 }  // namespace
 
-// Goes from bracket to bracket instead of from line to line: there are few of them.
+// Searches for brackets instead of going through all lines: there are few of them.
 void ProfileText::FindSections() {
     const std::string_view all = bytes_;
     sections_.assign(1, {});

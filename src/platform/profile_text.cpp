@@ -92,7 +92,7 @@ void ProfileText::AddKey(Section& section, const Line& last, std::string_view ke
     std::string added = NewLine(key, value);
     if (behind == last.begin + last.end) added.insert(0, LineBreak);
     Replace(section, behind, 0, added);
-    // An added line that starts a section takes lines, or a name, from others.
+    // An added line that starts a section takes over the lines, or the name, of another.
     if (HasLineBreak(key) || HasLineBreak(value) || key.starts_with('[')) Renew();
 }
 
@@ -107,7 +107,7 @@ void ProfileText::AddSection(std::string_view name, std::string_view key, std::s
     added.edited->append(LineBreak).append(NewLine(key, value));
     sections_.push_back(std::move(added));
     changed_ = true;
-    // What the new lines start themselves, and a name that is no name.
+    // The new text starts a further section, or its name can't be read back.
     if (HasLineBreak(name) || name.find(']') != std::string_view::npos || HasLineBreak(key) ||
         HasLineBreak(value) || key.starts_with('['))
         Renew();

@@ -27,7 +27,7 @@ void TimerList::RunDue(Duration now) {
     std::sort(due.begin(), due.end());
     for (const auto& [when, id] : due) {
         Timer* timer = Find(id);
-        // A handler before it may have stopped it, or let it run in a nested round.
+        // An earlier handler may have stopped it, or let it run in a nested round.
         if (timer == nullptr || timer->running || timer->due > now) continue;
         timer->running = true;
         // A copy: the handler may stop its own timer, or start others and move the list.

@@ -11,7 +11,7 @@ namespace kelvra::sensors {
 namespace {
 
 // Sums of the differences from a pivot and of their squares, in two strands that the compiler
-// works on at once.
+// computes in parallel.
 struct Sums {
     double first = 0;
     double squares = 0;
@@ -32,7 +32,7 @@ Sums SumsAbout(double pivot, std::span<const double, ReadingRing::Length> values
 }
 
 // One pass. The pivot is one of the levels, so the difference of the two terms loses no more than a
-// factor of Length + 1 of the precision, however far the levels are apart.
+// factor of Length + 1 of the precision, however far apart the levels are.
 double SigmaOf(const Sums& sums) {
     constexpr int n = ReadingRing::Length;
     return std::sqrt((n * sums.squares - sums.first * sums.first) / (n * (n - 1)));

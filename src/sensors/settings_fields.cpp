@@ -77,7 +77,7 @@ constexpr std::size_t PositionOf(std::string_view name) {
     return position;
 }
 
-// Files have the slot that shows the exclusion before the two times that it belongs to.
+// In files, the slot that shows the exclusion comes before the two times that it belongs to.
 constexpr auto InFileOrder() {
     std::array<const SettingsField*, FileFieldCount> order{};
     std::size_t count = 0;

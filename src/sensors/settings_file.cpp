@@ -45,7 +45,7 @@ SettingValue Parse(std::string_view text, std::int32_t fallback) {
     return util::RoundToInt32(util::ReadNumber(text)).value_or(fallback);
 }
 
-// One field between the record and a file.
+// Transfers one field between the record and a file.
 void IniSetting(platform::ProfileText& file, const std::string& section, const SettingsField& field,
                 SensorSettings& settings, const SensorSettings& defaults, Transfer transfer) {
     std::visit(

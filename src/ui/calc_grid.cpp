@@ -18,7 +18,7 @@ enum Column { NameColumn = 0, FormulaColumn = 1, ResultColumn = 2 };
 constexpr int FormulaWidth = 3000;  // twips
 constexpr const char* NoReading = "---";
 
-// The reading that the name means, if its sensor delivers scalar ones.
+// The reading that the name refers to, if its sensor delivers scalar readings.
 std::optional<double> ReadingOf(const sensors::SensorTable& table, const ReadingName& name) {
     if (name.slot < 0 || name.slot >= table.Slots()) return std::nullopt;
     const sensors::SensorEntry& entry = table[name.slot];
@@ -83,7 +83,7 @@ void CalcGrid::ComputeRow(int row) {
                          parser.Failed() ? std::string_view(parser.ErrorDescription()) : "");
 }
 
-// An unchanged formula stays compiled.
+// An unchanged formula is not compiled again.
 parser::MathParser& CalcGrid::EvaluatorOf(int row) {
     Evaluator& evaluator = evaluators_[row - 1];
     const std::string& formula = grid_.At(row, FormulaColumn).Text();

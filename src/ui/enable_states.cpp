@@ -60,7 +60,7 @@ EnableStates FindEnableStates(const Situation& situation) {
 
 void ApplyEnableStates(forms::Forms& forms, const EnableStates& states) {
     forms::SetupForm& dialog = forms.setupForm;
-    // What becomes enabled comes first: the focus goes from the one to the other.
+    // Enables first and then disables: the focus moves from a disabled control to an enabled one.
     forms::MDIMain& main = forms.mdiMain;
     if (states.stop) main.StopIt.enabled = true;
     main.StartIt.enabled = states.start;

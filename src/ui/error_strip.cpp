@@ -5,7 +5,7 @@ namespace kelvra::ui {
 
 namespace {
 
-constexpr int OpenHeight = 2835;  // twips, of the dialog's header with the strip
+constexpr int OpenHeight = 2835;  // twips, height of the dialog's header with the strip
 constexpr int ClosedHeight = forms::SetupForm::HeaderHeight;
 
 void SetHeaderHeight(controls::Frame& header, int height) {

@@ -15,7 +15,7 @@ void Notice::Set(Rank rank, std::string text) {
     Show();
 }
 
-// The last text stays in the hidden label.
+// The hidden label keeps the last text.
 void Notice::Show() {
     const auto top = std::find_if(texts_.begin(), texts_.end(),
                                   [](const std::string& text) { return !text.empty(); });

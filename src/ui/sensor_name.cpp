@@ -29,7 +29,7 @@ SensorName::SensorName(const Parts& parts) : p_(parts) {
     p_.dialog.SensLogicalName.commit.Connect([this] { StoreLogicalName(p_.table.currentSensor); });
 }
 
-// A name that is being typed stays, as long as it is for the same sensor.
+// A name that the user is typing stays as long as the box is for the same sensor.
 void SensorName::CurrentSensorChanged() {
     const sensors::SensorEntry& entry = p_.table[p_.table.currentSensor];
     controls::TextBox& box = p_.dialog.SensLogicalName;

@@ -5,7 +5,7 @@ namespace kelvra::ui {
 
 using measure::StartFailure;
 
-// The driver's own words about a sensor that could not be opened have been shown before.
+// The driver's message about a sensor that could not be opened has been shown before.
 void StartMessages::StartFailed(StartFailure why) {
     if (why == StartFailure::NoSensor)
         dialogs_.Message({}, "No operational sensor selected", platform::MessageIcon::Exclamation);

@@ -19,7 +19,7 @@ std::size_t SkipDigits(std::string_view text, std::size_t position) {
     return position;
 }
 
-// End of "E", sign, digits at the position; the position itself when that is no exponent.
+// End of "E", sign and digits at the position; the position itself if there is no exponent.
 std::size_t SkipExponent(std::string_view text, std::size_t position) {
     if (position >= text.size() || (text[position] != 'E' && text[position] != 'e'))
         return position;
@@ -29,8 +29,8 @@ std::size_t SkipExponent(std::string_view text, std::size_t position) {
     return end == digits ? position : end;
 }
 
-// A number out of the range of double: which side it left is told by the decimal exponent of its
-// first significant digit.
+// The value of a number out of the range of double. The decimal exponent of its first significant
+// digit says on which side.
 double OutOfRange(std::string_view number) {
     const auto digitsEnd = std::min(number.find_first_of("Ee"), number.size());
     const std::string_view digits = number.substr(0, digitsEnd);
@@ -40,7 +40,7 @@ double OutOfRange(std::string_view number) {
     if (digitsEnd < number.size()) {
         std::string_view text = number.substr(digitsEnd + 1);
         const bool below = text.front() == '-';
-        // More digits than fit: larger than any text is long.
+        // An exponent that does not fit is larger than any text is long.
         exponent = ReadWholeNumber(text).value_or(below ? INT64_MIN / 2 : INT64_MAX / 2);
     }
     const double magnitude =

@@ -55,7 +55,7 @@ Decimal Split(double value, int significant) {
 
 struct GeneralStyle {
     std::string_view point;
-    std::string_view beforePoint;  // what stands before the point of a number below 1
+    std::string_view beforePoint;  // before the point of a number below 1
     int lowestFixedExponent;       // below it the "E" form is used
 };
 
@@ -93,7 +93,7 @@ std::string WithSignPlace(std::string text) {
     return text.front() == '-' ? text : " " + text;
 }
 
-// A fixed-point text in the locale's form, without the sign of what is zero as shown.
+// A fixed-point text in the locale's form; a value shown as zero loses its sign.
 std::string Localised(std::string_view text, const NumberForm& form) {
     if (text.front() == '-' &&
         text.substr(0, text.find('e')).find_first_not_of("-0.") == std::string_view::npos)

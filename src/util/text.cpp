@@ -24,8 +24,8 @@ std::string_view TrimWhere(std::string_view text, Unwanted unwanted) {
     return text;
 }
 
-// What may follow a lead byte in valid UTF-8: how many bytes, and the range of the first of them
-// (the ranges leave out overlong forms, surrogates and everything above U+10FFFF).
+// The bytes that may follow a lead byte in valid UTF-8: how many, and the range of the first (which
+// excludes overlong forms, surrogates and everything above U+10FFFF).
 struct Utf8Lead {
     unsigned char first, last;
     int following;
@@ -85,7 +85,7 @@ std::string LowerCase(std::string_view text) {
     return result;
 }
 
-// From the end: names that are compared are often those of a family and begin alike.
+// Compares from the end: names in one file often begin alike.
 bool EqualNoCase(std::string_view a, std::string_view b) {
     return a.size() == b.size() && std::equal(a.rbegin(), a.rend(), b.rbegin(),
                                               [](char x, char y) { return Lower(x) == Lower(y); });

@@ -10,7 +10,7 @@ class PosixClock final : public Clock {
 public:
     LocalTime Now() override;
     Duration Monotonic() override;
-    // Sleeps on through signals; returns at once for no or a negative duration.
+    // Continues after signals; returns at once for a zero or negative duration.
     void Sleep(Duration duration) override;
 };
 

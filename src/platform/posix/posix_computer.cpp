@@ -26,7 +26,7 @@ std::string Environment(const char* name) {
     return value == nullptr ? std::string() : value;
 }
 
-// Nothing stays nothing. Without a separator at the end.
+// An empty path stays empty. No separator at the end.
 std::string Absolute(const std::string& folder) {
     if (folder.empty()) return {};
     std::error_code noCurrentFolder;
@@ -44,13 +44,13 @@ std::string HomeFolder() {
 std::string DataFolder(const std::string& option) {
     if (!option.empty()) return option;
     if (std::string own = Environment("KELVRA_DATA_DIR"); !own.empty()) return own;
-    // A relative XDG_DATA_HOME is void, as its makers have it.
+    // XDG requires relative paths to be ignored.
     const fs::path shared = Environment("XDG_DATA_HOME");
     const fs::path base = shared.is_absolute() ? shared : fs::path(HomeFolder()) / ".local/share";
     return (base / "kelvra").string();
 }
 
-// A folder that is not absolute would leave the choice to the current folder: it is left out.
+// Relative folders are left out: the search would depend on the current folder.
 std::vector<std::string> DriverFolders(const std::string& option) {
     const std::string chosen = option.empty() ? Environment("KELVRA_DRIVER_DIR") : option;
     std::error_code unknown;
@@ -89,8 +89,8 @@ std::string PosixComputer::Join(const std::string& folder, const std::string& na
 }
 
 std::optional<LocalTime> PosixComputer::ProgramFileDate() {
-    const auto original = files_.ModifiedAt(Join(dataDir_, "Kelvra.EXE"));
-    return original ? original : files_.ModifiedAt(RunningProgram);
+    const auto program = files_.ModifiedAt(Join(dataDir_, "Kelvra.EXE"));
+    return program ? program : files_.ModifiedAt(RunningProgram);
 }
 
 LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {

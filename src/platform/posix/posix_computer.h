@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A computer of this family of systems. One data folder stands for the program folder, for drive C
-// and for the registry.
+// A computer of this family of systems. One data folder serves as program folder, drive C and
+// registry.
 #pragma once
 
 #include <string>
@@ -16,10 +16,11 @@ namespace kelvra::platform {
 
 class PosixComputer final : public Computer {
 public:
-    // Makes the data folder if it is missing. Relative folders are taken from the current one, now.
+    // Makes the data folder if it is missing. Relative folders start from the current one at this
+    // moment.
     PosixComputer(Files& files, const ComputerOptions& options);
 
-    // Why the data folder could not be made. Whatever is written there will fail as well.
+    // Why the data folder could not be made. Writes to it will fail as well.
     const std::error_code& DataFolderError() const { return dataFolderError_; }
 
     std::string ProgramFolder() override { return dataDir_; }
@@ -34,10 +35,10 @@ public:
     std::string DateText(const LocalTime& time) override { return locale_.DateText(time); }
     std::string TimeText(const LocalTime& time) override { return locale_.TimeText(time); }
 
-    // The first folder that has the file decides, whether it loads or not.
+    // Takes the first folder that has the file, whether it loads or not.
     LoadedLibrary LoadDriverLibrary(const std::string& name) override;
 
-    // A section for each key, in "registry.ini" of the data folder.
+    // In "registry.ini" of the data folder, a section for each key.
     std::error_code WriteRegistry(const std::string& key, const std::string& name,
                                   const std::string& value) override;
     std::optional<std::string> ReadRegistry(const std::string& key,

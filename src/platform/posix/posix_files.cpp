@@ -23,7 +23,7 @@ std::error_code LastError() {
     return {errno, std::generic_category()};
 }
 
-// What a call says with 0 or -1.
+// The error of a call that returns 0 or -1.
 std::error_code Outcome(int result) {
     return result == 0 ? std::error_code() : LastError();
 }
@@ -52,7 +52,7 @@ std::error_code OpenWith(const std::string& path, int flags, Files::Handle& hand
     return handle == -1 ? LastError() : std::error_code();
 }
 
-// For reads and writes: how many bytes there were, or -1.
+// For reads and writes, which return the number of bytes or -1.
 std::error_code Counted(ssize_t result, std::size_t& count) {
     count = result < 0 ? 0 : static_cast<std::size_t>(result);
     return result < 0 ? LastError() : std::error_code();
@@ -78,7 +78,7 @@ std::error_code PosixFiles::Sync(Handle handle) {
 }
 
 std::error_code PosixFiles::Close(Handle handle) {
-    // Interrupted or not, the handle is gone: a second call might close somebody else's file.
+    // Even if interrupted, close has freed the handle: a second call might close another file.
     const auto error = Outcome(::close(handle));
     return error == std::errc::interrupted ? std::error_code() : error;
 }
@@ -95,10 +95,10 @@ std::error_code PosixFiles::CopyPermissions(const std::string& from, Handle to) 
     struct stat old {};
     struct stat now {};
     if (::stat(from.c_str(), &old) != 0 || ::fstat(to, &now) != 0) return LastError();
-    // What is as it should be is left alone: each change makes the sync take longer.
+    // Skips changes that are not needed: each makes the sync take longer.
     if (old.st_uid == now.st_uid && old.st_gid == now.st_gid && old.st_mode == now.st_mode)
         return {};
-    // Before the permissions, which a change of owner may reduce.
+    // Before the permissions: a change of owner may reduce them.
     for (const auto& [owner, group] : {std::pair<uid_t, gid_t>(-1, old.st_gid), {old.st_uid, -1}})
         if (::fchown(to, owner, group) != 0 && errno != EPERM) return LastError();
     return Outcome(Uninterrupted([&] { return ::fchmod(to, old.st_mode & 07777); }));
@@ -121,7 +121,7 @@ std::error_code PosixFiles::Lock(const std::string& path, LockKind kind, Handle&
     return error;
 }
 
-// The file is empty: closing it has nothing to complain of.
+// The lock file is empty, so closing it can't lose anything.
 void PosixFiles::Unlock(Handle handle) {
     ::close(handle);
 }
@@ -133,9 +133,9 @@ std::string PosixFiles::ResolveLinks(const std::string& path) {
         std::error_code noLink;
         const fs::path target = fs::read_symlink(current, noLink);
         if (noLink) return current.string();
-        current = current.parent_path() / target;  // an absolute target stands alone
+        current = current.parent_path() / target;  // an absolute target replaces the folder
     }
-    return path;  // links in a circle lead nowhere
+    return path;  // too many links, or a circle of them
 }
 
 bool PosixFiles::Exists(const std::string& path) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The file operations as system calls, each begun again when a signal interrupts it.
+// The file operations as system calls, each repeated when a signal interrupts it.
 #pragma once
 
 #include "platform/files.h"
@@ -15,7 +15,7 @@ public:
     std::error_code Close(Handle handle) override;
     std::error_code Rename(const std::string& from, const std::string& to) override;
     std::error_code Remove(const std::string& path) override;
-    // Group and owner too, as far as the user may give them away.
+    // Group and owner too, as far as the user may set them.
     std::error_code CopyPermissions(const std::string& from, Handle to) override;
     std::error_code List(const std::string& folder, std::vector<std::string>& names) override;
     std::error_code Lock(const std::string& path, LockKind kind, Handle& handle) override;

@@ -23,8 +23,7 @@ private:
 }  // namespace
 
 std::unique_ptr<Library> LoadLibrary(const std::string& path, std::string& why) {
-    // All symbols at once: what is missing in a library shows here, not in the middle of a
-    // measurement.
+    // Resolves all symbols at once: a missing one shows here, not in the middle of a measurement.
     void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library != nullptr) return std::make_unique<PosixLibrary>(library);
     const char* words = ::dlerror();

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Shared libraries of this family of systems. Where they are looked for is PosixComputer's
-// business.
+// Shared libraries of this family of systems. PosixComputer decides where to look for them.
 #pragma once
 
 #include <memory>
@@ -10,8 +9,8 @@
 
 namespace kelvra::platform {
 
-// By absolute path, so that the system searches nowhere. Null, and the system's words in `why`,
-// when it can't be loaded.
+// Takes an absolute path, so that the system does not search. Null if it can't be loaded; `why`
+// then has the system's message.
 std::unique_ptr<Library> LoadLibrary(const std::string& path, std::string& why);
 
 }  // namespace kelvra::platform

@@ -17,10 +17,10 @@ namespace kelvra::platform {
 
 namespace {
 
-// A flood without a line's end must not keep everything else from running.
+// Endless input without a line break must not keep everything else from running.
 constexpr int MostAtOnce = 1 << 16;
 
-// In milliseconds, rounded up, as poll wants it.
+// In milliseconds, rounded up, as poll expects it.
 int PollTime(Duration patience) {
     const auto ms = std::chrono::ceil<std::chrono::milliseconds>(patience).count();
     if (ms <= 0) return 0;
@@ -66,13 +66,14 @@ std::optional<LineInput::Result> PosixLineInput::Fill(Duration patience) {
     return std::nullopt;
 }
 
-// Counts them, so that a flood costs no wait for each byte. False is an error.
+// Counts the bytes that are ready, so that a lot of input needs no wait for each byte. False is an
+// error.
 bool PosixLineInput::WaitForBytes(Duration patience) {
-    // A request to end the program must not be slept through.
+    // A request to end the program must end the wait too.
     pollfd inputs[] = {{descriptor_, POLLIN, 0}, {TerminationDescriptor(), POLLIN, 0}};
     if (::poll(inputs, std::size(inputs), PollTime(patience)) < 0) return false;
     if (inputs[0].revents == 0) return true;
-    // One is the end of the input, or an error, which reading tells.
+    // 1 at the end of the input or after an error, which the read then reports.
     if (::ioctl(descriptor_, FIONREAD, &waiting_) != 0 || waiting_ < 1) waiting_ = 1;
     return true;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lines from a file descriptor. One that others read as well is read a byte at a time, so that the
-// bytes after the line are left to them.
+// Lines from a file descriptor. A descriptor shared with others is read a byte at a time, so that
+// they get the bytes after the line.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ namespace kelvra::platform {
 
 class PosixLineInput final : public LineInput {
 public:
-    // Closes the descriptor at the end if it is its own.
+    // Closes the descriptor in the destructor if it is its own.
     PosixLineInput(int descriptor, bool own) : descriptor_(descriptor), own_(own) {}
     ~PosixLineInput() override;
     PosixLineInput(const PosixLineInput&) = delete;
@@ -21,7 +21,7 @@ public:
     Result Read(std::string& line, Duration patience) override;
 
 private:
-    // Gets the next bytes; what there is to say when none have come.
+    // Gets the next bytes; the result to return if none have come.
     std::optional<Result> Fill(Duration patience);
     bool WaitForBytes(Duration patience);
     Result Take(std::string& line);
@@ -29,10 +29,10 @@ private:
     int descriptor_;
     bool own_;
     bool ended_ = false;
-    int waiting_ = 0;  // bytes that are known to be there
+    int waiting_ = 0;  // bytes known to be ready
     std::array<char, 4096> bytes_{};
-    std::size_t at_ = 0;     // the next of the bytes
-    std::size_t count_ = 0;  // of them
+    std::size_t at_ = 0;     // index of the next byte
+    std::size_t count_ = 0;  // bytes in the buffer
     std::string partial_;
 };
 

@@ -13,7 +13,7 @@ namespace kelvra::platform {
 
 namespace {
 
-// With day of the week and of the year, which a locale's date may show.
+// With the days of the week and of the year, which a locale's date may show.
 std::tm PartsOf(const LocalTime& time) {
     using namespace std::chrono;
     const sys_days date = year{time.year} / time.month / time.day;
@@ -36,7 +36,7 @@ std::tm PartsOf(const LocalTime& time) {
 PosixLocale::PosixLocale(const char* name) : locale_(::newlocale(LC_ALL_MASK, name, locale_t{})) {
     if (!locale_) locale_.reset(::newlocale(LC_ALL_MASK, "C", locale_t{}));
     if (!locale_) return;
-    // Texts are UTF-8; a locale of another encoding may have separators that are not.
+    // Texts are UTF-8; a locale of another encoding may have separators that are not valid UTF-8.
     const auto item = [&](nl_item which) {
         return util::ShownText(::nl_langinfo_l(which, locale_.get()));
     };

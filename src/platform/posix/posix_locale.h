@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the user writes numbers, dates and times, as the environment says. The process's own locale
-// stays "C", so that no library call changes its meaning.
+// stays "C", so that the behaviour of library calls does not change.
 #pragma once
 
 #include <clocale>
@@ -15,8 +15,8 @@ namespace kelvra::platform {
 
 class PosixLocale {
 public:
-    // By its name; the empty name is the one of the environment (LC_ALL, LC_..., LANG). "C" stands
-    // in for a locale that the system doesn't have.
+    // By name; the empty name is the environment's locale (LC_ALL, LC_..., LANG). "C" replaces a
+    // locale that the system doesn't have.
     explicit PosixLocale(const char* name = "");
 
     const util::NumberForm& Numbers() const { return numbers_; }
@@ -30,8 +30,7 @@ private:
 
     std::string Text(const char* pattern, const LocalTime& time) const;
 
-    std::unique_ptr<std::remove_pointer_t<locale_t>, Free>
-        locale_;  // null if there is not even "C"
+    std::unique_ptr<std::remove_pointer_t<locale_t>, Free> locale_;  // null if even "C" is missing
     util::NumberForm numbers_;
 };
 

@@ -16,7 +16,7 @@ namespace kelvra::platform {
 
 namespace {
 
-// All that a signal handler may touch: a flag, and a pipe that wakes a sleeping event loop.
+// A signal handler may touch only these: a flag, and a pipe that wakes a sleeping event loop.
 volatile std::sig_atomic_t terminationRequested = 0;
 int terminationPipe[2] = {-1, -1};
 
@@ -24,7 +24,7 @@ extern "C" void NoteTermination(int) {
     const int error = errno;
     terminationRequested = 1;
     const char byte = 0;
-    // A full pipe wakes as well as one more byte would.
+    // A full pipe wakes the loop just as well.
     [[maybe_unused]] const ssize_t written = ::write(terminationPipe[1], &byte, 1);
     errno = error;
 }
@@ -48,8 +48,8 @@ std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& op
 void HoldStandardStreams() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (::fcntl(stream, F_GETFD) == -1 && errno == EBADF) {
-            // The lowest free descriptor, which is this one. Without it nothing is worse than
-            // before.
+            // Open takes the lowest free descriptor, which is this one. If it fails, nothing gets
+            // worse.
             [[maybe_unused]] const int taken = ::open("/dev/null", O_RDONLY);
         }
 }
@@ -78,10 +78,10 @@ void WatchForTermination() {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         struct sigaction inherited = {};
         ::sigaction(signal, nullptr, &inherited);
-        // Whoever started the program may want it to outlive a logout.
+        // An ignored signal stays ignored: the program may be meant to outlive a logout.
         if (inherited.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
     }
-    // A reader that has gone, and a file-size limit, show up as failed writes.
+    // A closed pipe and a file-size limit then show up as failed writes.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sensors come and go while the program runs: twice a second this looks which are connected, keeps
-// each in its slot, loads and saves settings, and without any sensor offers two simulated ones. It
-// never calls the measurement driver, and rests while a measurement or a sensor command runs.
+// Finds sensors while the program runs. Twice a second it reads which are connected, keeps each in
+// its slot, loads and saves settings, and without any sensor offers two simulated ones. It never
+// calls the measurement driver, and does nothing during a measurement or a sensor command.
 #pragma once
 
 #include <string>
@@ -33,7 +33,8 @@ class Discovery {
 public:
     explicit Discovery(const DiscoveryParts& parts) : p_(parts) {}
 
-    // The handler of the search timer. Entered again, or before there is a table, it does nothing.
+    // The handler of the search timer. Does nothing if it is running already, or if there is no
+    // table yet.
     void Search();
 
 private:
@@ -56,7 +57,7 @@ private:
 
     DiscoveryParts p_;
     bool running_ = false;
-    bool changed_ = false;   // in this tick: the table is to be painted
+    bool changed_ = false;   // in this tick: the table must be painted
     bool vanished_ = false;  // in this tick: a known sensor has gone
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's flags by their names, for people who look into a running Kelvra: one table.
+// The program's flags by name, for inspecting a running Kelvra: one table.
 #pragma once
 
 #include <cstdint>

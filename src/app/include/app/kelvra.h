@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The whole program without a front end: creates the state and the rooms, wires them, starts up and
-// exits. Front ends make one, call Start, run their event loop and mirror its forms.
+// The whole program without a front end: creates the state and the rooms, connects them, starts up
+// and exits. A front end creates one, calls Start, runs its event loop and mirrors the forms.
 #pragma once
 
 #include "app/discovery.h"
@@ -27,15 +27,15 @@ class Kelvra {
 public:
     explicit Kelvra(platform::Host& host);
 
-    // Start-up, once (startup.cpp).
+    // Start-up; call once (startup.cpp).
     void Start();
-    // The exit routine, once: ends a measurement, closes the session, saves the settings of the
-    // present sensors, releases the device list, and ends the event loop. Handlers that are running
-    // return at their next look (exit.cpp).
+    // The exit routine, which runs once: ends a measurement, closes the session, saves the settings
+    // of the present sensors, releases the device list, and ends the event loop. Running handlers
+    // return when they next check (exit.cpp).
     void Exit();
-    // The same when the user wants it, who is shown a save that fails.
+    // The same at the user's request: a save that fails is shown in a message box.
     void ExitAsAsked();
-    // Writes the settings of the present sensors, as exit does.
+    // Writes the settings of the present sensors, as the exit routine does.
     void SaveSettings();
 
     platform::Host& host;
@@ -47,7 +47,7 @@ public:
     measure::MeasureState state;
     measure::News news;
 
-    // Rooms, in the order in which they need each other
+    // Rooms, each after those that it needs
     driver::DebugLog log;
     driver::DriverLibrary library;
     driver::DeviceCatalogue catalogue;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The File menu's entries that load and save the current sensor's settings from and to a file of
-// the user's choice. Measuring goes on while the file is chosen.
+// The File menu's entries that load the current sensor's settings from a file and save them to one.
+// A measurement goes on while the user chooses the file.
 #pragma once
 
 #include <functional>
@@ -20,17 +20,17 @@ public:
     SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
                      ui::Enabling& enabling, platform::Host& host);
 
-    // The settings are replaced, which counts as an edit: they reach the sensor before its next
-    // measurement. A file that can't be read leaves them as they were. A message says so, and
-    // also when the file has no settings, which sets the defaults.
+    // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
+    // measurement. A file that can't be read leaves them as they were, with a message. A file
+    // without settings sets the defaults, with a message.
     void LoadSensorSettings();
-    // Keys of an existing file are overwritten, everything else in it stays. A message says when it
-    // failed.
+    // Overwrites the settings' keys of an existing file and keeps everything else in it. A failure
+    // gives a message.
     void SaveSensorSettings();
 
 private:
-    // Asks for a file and goes on with it; not when cancelled, nor when the current sensor is
-    // another one by then.
+    // Asks for a file and passes it to goOn; not if the user cancels, nor if the current sensor is
+    // a different one by then.
     void AskFile(const platform::FileQuestion& question,
                  std::function<void(const std::string& path)> goOn);
     void Load(const std::string& path);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The application INI file: what it keeps for each slot and each sensor. Saves here are the
-// program's own; one that fails costs nothing that was there, and is reported in the notice and the
-// log until one succeeds. What could not be saved is kept and saved with the next; what could not
-// be read is not written over. Another Kelvra may change the file as well: a save writes what this
-// one has changed.
+// The application INI file: what it keeps for each slot and each sensor. A save that fails loses
+// nothing that was stored; the notice and the log report it until a save succeeds. Settings that
+// could not be saved are saved the next time, and settings that could not be read are not
+// overwritten. Another Kelvra may change the file as well, so a save writes only what this one has
+// changed.
 #pragma once
 
 #include <map>
@@ -28,23 +28,23 @@ public:
     SettingsStore(platform::Files& files, driver::DebugLog& log, ui::Notice& notice)
         : files_(files), log_(log), notice_(notice), use_(files) {}
 
-    // Before all else: the file is in the program's folder, which is in use from now on.
+    // Call first. The file is in the program's folder, which counts as in use from here on.
     void Open(platform::Computer& computer);
 
     // Reads each slot's settings under "SENS" + channel number.
     void ReadSlots(sensors::SensorTable& table);
     // Reads the settings of each sensor under its SensorId.
     void Read(const std::vector<sensors::SensorEntry*>& entries);
-    // Writes them, with one pass over the file; a sensor without a SensorId is not written.
+    // Writes their settings with one pass over the file. Skips sensors without a SensorId.
     void Save(const std::vector<sensors::SensorEntry*>& entries);
-    // What is wrong with the last save, for whoever outlives the windows; empty when all is saved.
+    // The failure of the last save, empty if there was none; for use after the windows have gone.
     const std::string& SaveFailure() const { return saveFailure_; }
 
 private:
-    // What is known of a sensor's settings since its first reading.
+    // The known settings of a sensor since they were first read.
     struct Kept {
         sensors::SensorSettings inFile = sensors::DefaultSettings();  // as last read or written
-        bool read = false;  // not yet, or the file could not be read: it may have other settings
+        bool read = false;  // false: the file may have other settings, which were not read yet
         std::optional<sensors::SensorSettings> unsaved;
     };
 
@@ -65,7 +65,7 @@ private:
     std::string folder_;
     std::string iniPath_;
     std::map<std::string, Kept> kept_;  // by SensorId
-    std::string loadFailure_;           // of the last reading
+    std::string loadFailure_;           // of the latest read
     std::string saveFailure_;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rules of all windows, made over the forms and subscribed to what the measurement, the driver
-// and the selection tell.
+// The rules of all windows: created over the forms, and subscribed to what the measurement, the
+// driver and the selection publish.
 #pragma once
 
 #include "driver/notices.h"
@@ -46,7 +46,7 @@ struct Windows {
     ui::StartMessages startMessages;
     ui::SensorName sensorName;
 
-    // In this order they are called.
+    // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);
 };
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The commands of a script: one table, one function each. A command gives back what was wrong, or
-// nothing.
+// The commands of a script: one table, one function each. A command returns an error, or nothing.
 #pragma once
 
 #include <map>
@@ -17,17 +16,17 @@ namespace kelvra::console {
 
 using CommandError = std::optional<std::string>;
 
-// What commands work on.
+// What the commands work on.
 struct CommandContext {
     app::Kelvra& kelvra;
     ScriptDialogs& dialogs;
     Output& output;
     Waiting& waiting;
     std::map<std::string, double, std::less<>> variables{};  // for eval
-    controls::TextBox* typedInto = nullptr;  // its edit is committed when a person turns elsewhere
+    controls::TextBox* typedInto = nullptr;  // committed when a command uses another control
 };
 
-// Carries out one line.
+// Runs one line.
 CommandError RunCommand(CommandContext& context, std::string_view line);
 
 }  // namespace kelvra::console

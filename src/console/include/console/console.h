@@ -9,7 +9,8 @@
 
 namespace kelvra::console {
 
-// The last word is the script ("-", or none: standard input), those before it are the command line.
+// The last word is the script ("-", or none: standard input); the words before it are the command
+// line.
 struct ScriptChoice {
     std::string script = "-";
     std::vector<std::string> commandLine;

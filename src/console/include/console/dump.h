@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Controls, windows and the program's tables as one line of JSON each.
+// Controls, windows and the program's tables, each as one line of JSON.
 #pragma once
 
 #include <optional>

@@ -11,7 +11,7 @@
 
 namespace kelvra::console {
 
-// Variables without a value are 0. The table has the entries from 1 on.
+// Variables without a value are 0. The table lists the entries from 1 on.
 std::string EvaluateToJson(std::string_view formula,
                            const std::map<std::string, double, std::less<>>& variables,
                            platform::Host& host);

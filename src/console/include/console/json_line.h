@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writes one JSON value on one line, keys in the order in which they come, numbers as the shortest
+// Writes one JSON value on one line: keys in the order of the calls, numbers as the shortest
 // decimals that read back the same.
 #pragma once
 
@@ -21,7 +21,7 @@ public:
     JsonLine& Key(std::string_view key);
 
     JsonLine& Value(bool value) { return Raw(value ? "true" : "false"); }
-    JsonLine& Value(double value);  // null for what is not finite
+    JsonLine& Value(double value);  // null if it is not finite
     template <std::integral Int>
     JsonLine& Value(Int value) {
         return Raw(std::to_string(value));

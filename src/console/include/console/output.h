@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the console writes: whole lines of valid UTF-8 on standard output, flushed one by one.
+// The output of the console: whole lines of valid UTF-8 on standard output, each flushed.
 #pragma once
 
 #include <cstdio>
@@ -21,7 +21,7 @@ private:
     bool good_ = true;
 };
 
-// Line breaks (CR LF, LF, CR) as "\n", for texts that must stay on one line.
+// Writes line breaks (CR LF, LF, CR) as "\n", for texts that must stay on one line.
 std::string OneLine(std::string_view text);
 
 }  // namespace kelvra::console

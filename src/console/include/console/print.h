@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A control as the text that a person would read in it.
+// A control as the text that the user would read in it.
 #pragma once
 
 #include <string>
@@ -9,7 +9,8 @@
 
 namespace kelvra::console {
 
-// Grids as rows of cells separated by TABs, lists an entry a line, others their text or caption.
+// Grids as rows of cells separated by TABs, lists with one entry per line, other controls as their
+// text or caption.
 std::vector<std::string> PrintLines(const controls::Control& control);
 
 }  // namespace kelvra::console

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A script that is carried out as the events of a run: reads a line when it is its turn, carries it
-// out, and ends the program at its end or at the first command that fails.
+// Runs a script as the events of a run: reads a line when its turn comes, runs it, and ends the
+// program at the end of the script or at the first command that fails.
 #pragma once
 
 #include "console/command_table.h"
@@ -16,7 +16,7 @@ struct ScriptParts {
     Output& output;
     Output& errors;
     platform::Clock& clock;
-    bool ownClock;  // time stands still while a line is waited for
+    bool ownClock;  // time stops while the script waits for a line
     bool echo;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Message boxes, prompts and file dialogs of a run without a person: written as lines, answered
-// from a queue that the script fills. One without an answer counts as cancelled.
+// Message boxes, prompts and file dialogs of a run without a user: written as lines, and answered
+// from a queue that the script fills. A dialog without an answer counts as cancelled.
 #pragma once
 
 #include <deque>
@@ -16,7 +16,7 @@ class ScriptDialogs final : public platform::Dialogs {
 public:
     explicit ScriptDialogs(Output& output) : output_(output) {}
 
-    // Nothing cancels.
+    // An answer of nothing cancels.
     void Queue(std::optional<std::string> answer) { answers_.push_back(std::move(answer)); }
 
     void Message(const std::string& title, const std::string& text,
@@ -25,7 +25,7 @@ public:
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
     void OpenHelp(const std::string& file, int topic) override;
-    // One that never differs, so that a script gives the same everywhere.
+    // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 
 private:

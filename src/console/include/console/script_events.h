@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The event loop of a run without a person: timers, and the script, whose commands are the events.
-// One command is taken in a round. With a clock of its own, time moves only here and in sleeps: 1
-// ms a round, and on to what is due next when nothing is.
+// The event loop of a run without a user: timers, and the script, whose commands are the events.
+// Each round takes one command. A clock of its own moves only here and in sleeps: by 1 ms a round,
+// and on to the next due time when there is nothing to do.
 #pragma once
 
 #include <functional>
@@ -13,15 +13,15 @@
 
 namespace kelvra::console {
 
-// What the loop asks of the script.
+// What the loop needs from the script.
 class EventSource {
 public:
     virtual ~EventSource() = default;
 
-    // Takes the next command and carries it out, if there is one and nothing is waited for. With
-    // patience it waits that long for the command to come; returns whether there was one.
+    // Runs the next command if there is one and the script waits for nothing. Waits up to
+    // `patience` for a command; returns whether there was one.
     virtual bool Step(platform::Duration patience) = 0;
-    // When a wait for time that is under way ends.
+    // When the script's current wait for time ends.
     virtual std::optional<platform::Duration> WakesAt() const = 0;
     // The system wants the program to end.
     virtual bool EndRequested() const = 0;

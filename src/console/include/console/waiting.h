@@ -16,16 +16,17 @@ public:
     Waiting(const measure::MeasureState& state, platform::Clock& clock)
         : state_(state), clock_(clock) {}
 
-    // An error when no measurement runs. Without a limit it takes as long as it takes.
+    // An error when no measurement is running. There is no time limit without one.
     std::optional<std::string> ForPasses(std::int64_t passes,
                                          std::optional<platform::Duration> limit);
     void ForTime(platform::Duration time);
     void ForIdle();
 
-    // Ended: the measurement, before the passes were there. TimedOut: they were not there in time.
+    // Ended: the measurement, before the passes were complete. TimedOut: the passes were not
+    // complete in time.
     enum class Look { GoOn, Wait, Ended, TimedOut };
     Look At();
-    // When time alone ends the wait.
+    // When a wait that only time can end is over.
     std::optional<platform::Duration> WakesAt() const { return until_; }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a grid cell says: a text, or a figure whose text is made when it is first read.
+// The text of a grid cell: a text, or a figure whose text is made when it is first read.
 #pragma once
 
 #include <optional>
@@ -12,7 +12,8 @@ namespace kelvra::controls {
 
 class CellText {
 public:
-    // True when it was another one. Two figures count as different even if they look the same.
+    // True if the text was a different one. Two figures count as different even if they look the
+    // same.
     bool Set(std::string_view text);
     bool Set(const util::Figure& figure);
 
@@ -21,7 +22,7 @@ public:
 private:
     std::optional<util::Figure> figure_;
     mutable std::string text_;
-    mutable bool made_ = true;  // the text is that of the figure
+    mutable bool made_ = true;  // text_ is up to date
 };
 
 }  // namespace kelvra::controls

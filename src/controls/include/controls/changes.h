@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which controls have changed since a front end last looked. A front end that paints drains the
-// list at its own pace; one that doesn't never looks, and the list stays as short as there are
-// controls.
+// Which controls have changed since a front end last looked. A front end that paints takes the list
+// at its own pace. One that doesn't never takes it; the list holds each control only once.
 #pragma once
 
 #include <functional>
@@ -13,13 +12,13 @@ class Control;
 
 class Changes {
 public:
-    // The control once, however often it changes before the next Take.
+    // Adds the control, once before the next Take however often it changes.
     void Add(Control& control);
 
     // The changed controls in the order of their first change; the list is empty afterwards.
     std::vector<Control*> Take();
 
-    // Called when the list stops being empty, so that a painter can sleep until then.
+    // Called when the list stops being empty, so that the painter can sleep until then.
     std::function<void()> onFirst;
 
 private:

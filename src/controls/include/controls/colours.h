@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Colours as the rules write them: 24 bits in blue-green-red order, red in the lowest byte.
+// Colours: 24 bits in blue-green-red order, red in the lowest byte.
 #pragma once
 
 #include <cstdint>

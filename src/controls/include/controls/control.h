@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every control has: a name, a place in its window's tree, and properties that mark the
-// control as changed when they are given another value. Controls hold state and raise events; the
+// control as changed when they get a different value. Controls hold state and raise events. The
 // rules that read and write them are elsewhere, and so is all drawing.
 #pragma once
 
@@ -31,13 +31,13 @@ enum class Kind {
     Window,
 };
 
-// The kind's name for people and scripts: "text box".
+// The kind's name for users and scripts: "text box".
 const char* KindName(Kind kind);
 
 class Control;
 class Field;
 
-// A value whose change marks its control. Writing the same value again costs a comparison.
+// A value that marks its control when it changes. Writing the same value again costs a comparison.
 template <class T>
 class Property {
 public:
@@ -51,7 +51,7 @@ public:
     }  // NOLINT(google-explicit-constructor): reads like the value
     const T* operator->() const { return &value_; }
 
-    // True when the value was another one.
+    // True if the value was a different one.
     bool Set(T value);
     Property& operator=(T value) {
         Set(std::move(value));
@@ -75,11 +75,11 @@ public:
     Control* Parent() const { return parent_; }
     const std::vector<Control*>& Children() const { return children_; }
 
-    // The control with its labels; null for what is no field.
+    // The control with its labels; null if it is no field.
     virtual const Field* AsField() const { return nullptr; }
 
-    // What a person meets: a control is disabled or hidden when its own flag or that of a frame
-    // or group around it says so. That its window is hidden does not count.
+    // What the user meets: a control is disabled or hidden by its own flag or by that of a frame or
+    // group around it. Whether its window is hidden does not count.
     bool EffectivelyEnabled() const;
     bool EffectivelyVisible() const;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A control's event: who wants to hear of it connects once, while the windows are wired.
+// A control's event. Listeners connect once, while the windows are wired.
 #pragma once
 
 #include <functional>

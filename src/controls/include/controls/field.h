@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A field is one object: an editing control together with its caption and unit; its help topic and
-// tooltip it has as every control does. Rules use it as the text box, list ... that it is; front
-// ends lay its parts out in a row.
+// A field: an editing control together with its caption and unit. Help topic and tooltip are those
+// of every control. The rules use a field as the text box, list ... that it is; front ends lay its
+// parts out in a row.
 #pragma once
 
 #include <optional>
@@ -15,8 +15,8 @@
 namespace kelvra::controls {
 
 struct FieldParts {
-    std::string label{};    // name of the caption's label; the unit's is that and "Unit"
-    std::string caption{};  // empty: no label, because the control says it or the row shares one
+    std::string label{};    // name of the caption's label; the unit's label adds "Unit" to it
+    std::string caption{};  // empty: no label; the control's text or the row's label serves
     std::string unit{};     // empty: none
     int helpTopic = 0;
 };
@@ -35,7 +35,7 @@ public:
 template <class Editor>
 class FieldOf : public Editor, public Field {
 public:
-    // `own` is what the kind of editor takes besides.
+    // `own` is what the kind of control takes after its declaration.
     template <class... Own>
     FieldOf(Control& parent, const std::string& name, const FieldParts& parts, Own&&... own)
         : Editor(parent, name, std::forward<Own>(own)...), Field(parent, parts) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A graph of one curve over an even x axis, with movable cursors and texts at places. Its parts
-// remember that they have changed, so that a painter draws those alone.
+// A graph of one curve over an even x axis, with movable cursors and with texts at positions. It
+// records which of its parts have changed, so that a painter draws only those.
 //
-// The program writes the axes of the whole graph; a person may look at a part of it. New axes that
-// the program writes then wait: the part stays in sight until the zoom ends, and the axes written
-// last are shown.
+// The program sets the axes of the whole graph; the user may zoom into a part of it. Axes that the
+// program sets during a zoom are shown when the zoom ends.
 #pragma once
 
 #include <optional>
@@ -24,7 +23,7 @@ public:
     struct Plot {
         double first = 0;  // x of the first value
         double step = 0;
-        std::vector<double> values;  // one that is not finite leaves a gap
+        std::vector<double> values;  // a value that is not finite leaves a gap
         bool operator==(const Plot&) const = default;
     };
     struct Axis {
@@ -58,28 +57,28 @@ public:
     const std::vector<Text>& Labels() const { return labels_; }
     TrackMode Track() const { return track_; }
 
-    // The program's own writes raise nothing. False, and nothing is written: there is no such
-    // index, a coordinate is not finite, or an axis does not rise from min to max.
+    // The program's writes raise no event. They give false and write nothing for an index that does
+    // not exist, a coordinate that is not finite, or an axis that does not rise from min to max.
     bool SetCurve(Plot curve);
     bool SetX(const Axis& axis) { return SetAxis(whole_.x, axis); }
     bool SetY(const Axis& axis) { return SetAxis(whole_.y, axis); }
-    bool AddCursor(const Cursor& cursor);  // its index is the highest
+    bool AddCursor(const Cursor& cursor);  // becomes the last one
     bool SetCursor(int index, const Cursor& cursor);
-    bool RemoveCursor(int index);  // those after it move down by one
+    bool RemoveCursor(int index);  // the later ones move down by one
     bool AddLabel(Text label);
     bool SetLabel(int index, Text label);
     bool RemoveLabel(int index);
-    void SetTrack(TrackMode track);  // another one ends a zoom
+    void SetTrack(TrackMode track);  // a different mode ends a zoom
 
-    // A person drags a cursor and lets it go. False as above, and for what the mouse can't do: drag
-    // a cursor that is hidden, or any while it draws zoom rectangles.
+    // The user drags a cursor and lets it go. False as above, and when the mouse could not do it:
+    // for a hidden cursor, or any cursor while the mouse draws zoom rectangles.
     bool DragCursor(int index, double x, double y);
     bool ReleaseCursor(int index);
     Event<int, double, double> cursorChange;  // index, x, y
     Event<int> cursorRelease;
 
-    // A person draws a rectangle to look at, and asks for the whole graph again. False as above,
-    // and while the mouse draws no zoom rectangles.
+    // The user draws a rectangle to zoom into, and asks for the whole graph again. False as above,
+    // and unless the mouse draws zoom rectangles.
     bool Zoom(const Axis& x, const Axis& y);
     void ZoomOut();
     Event<Axis, Axis> zoomIn;
@@ -87,10 +86,10 @@ public:
 
     struct ChangedParts {
         bool curve = false;
-        bool axes = false;  // those shown
+        bool axes = false;  // the shown ones
         bool labels = false;
         bool track = false;
-        std::vector<int> cursors;  // the indices; removed ones are known by the count alone
+        std::vector<int> cursors;  // indices; removals show only in CursorCount
     };
     // What has changed since the last call.
     ChangedParts TakeChangedParts();
@@ -105,7 +104,7 @@ private:
     Axes whole_;
     std::optional<Axes> part_;
     std::vector<Cursor> cursors_;
-    std::vector<bool> markedCursors_;  // by index, whether it is in changed_
+    std::vector<bool> markedCursors_;  // by index: already in changed_
     std::vector<Text> labels_;
     TrackMode track_ = TrackMode::CursorEvents;
     ChangedParts changed_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A grid of texts. Cells remember that they have changed, so that a painter draws those alone.
+// A grid of texts. Cells record that they have changed, so that a painter draws only those.
 #pragma once
 
 #include <optional>
@@ -29,7 +29,7 @@ public:
         CellText content;
         Look look;
         std::string tooltip;
-        bool editable = false;  // a person may type into it
+        bool editable = false;  // the user may type into it
         bool changed = false;   // since the last TakeChangedCells
 
         const std::string& Text() const { return content.Get(); }
@@ -49,33 +49,32 @@ public:
     void SetRows(int rows);  // new cells are empty
     void SetWidth(int column, int width);
 
-    // The writers of cells. A row or column (from 0) beyond the last one makes the grid grow to it.
-    // A look without a colour leaves the cell its own.
+    // Write a cell. A row or column (from 0) beyond the last one makes the grid grow to it. A look
+    // without a colour leaves the cell's colour as it is.
     void SetCell(int row, int column, std::string_view text, const Look& look);
     void SetCell(int row, int column, const util::Figure& figure, const Look& look);
-    // The same for a cell that is there and keeps what it says.
+    // Changes only the look of an existing cell.
     void SetLook(int row, int column, const Look& look);
 
     void SetCellTooltip(int row, int column, std::string_view text);
     void SetEditable(int row, int column, bool editable);
 
-    // Notifications of the mouse: the button goes down on a cell; it is a click when it goes up
-    // again.
+    // Mouse events: the button goes down on a cell; it goes up again, which makes a click.
     Event<int, int> mouseDown;
     Event<int, int> click;
-    // What a person does to a cell: a press, and for a whole click the click after it.
+    // The user presses a cell; a click is a press followed by ClickCell.
     void PressCell(int row, int column) { mouseDown.Raise(row, column); }
     void ClickCell(int row, int column) { click.Raise(row, column); }
 
-    // A person has typed a text into a cell that is editable; others raise nothing. What the cell
-    // then says is the listener's business.
+    // The user has typed a text into a cell. Raises nothing if the cell is not editable. The
+    // listener decides what the cell then says.
     void TypeCell(int row, int column, const std::string& text);
     Event<int, int, const std::string&> typed;
 
     Property<std::optional<Colour>> fixedBack{*this, std::nullopt};  // heading cells
     Property<std::optional<Colour>> emptyBack{*this, std::nullopt};  // where there are no cells
 
-    // Row and column of the cells that have changed since the last call.
+    // Row and column of each cell that has changed since the last call.
     std::vector<std::pair<int, int>> TakeChangedCells();
 
 private:
@@ -96,7 +95,7 @@ private:
     std::vector<std::pair<int, int>> changedCells_;
 };
 
-// The system's name for Grid::SetCell.
+// Grid::SetCell under its name in the system.
 void SetGridCell(Grid& grid, int row, int column, std::string_view text, Align align, bool bold,
                  bool italic, std::optional<Colour> backColour = std::nullopt);
 void SetGridCell(Grid& grid, int row, int column, const util::Figure& figure, Align align,

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The simple kinds of controls. What a person does comes in through the functions named after the
-// act (Press, Type, ...) and always raises the event; the program's own writes go to the
-// properties, and raise the event only where the comment at the property says so, and only for
-// another value.
+// The simple kinds of controls. What the user does comes in through functions named after the act
+// (Press, Type, ...), which always raise the event. The program writes to the properties, which
+// raise an event only where their comment says so, and only for a different value.
 #pragma once
 
 #include <string>
@@ -79,18 +78,18 @@ public:
         : Focusable(Kind::TextBox, parent, std::move(name)) {}
 
     const std::string& Text() const { return text_.Get(); }
-    // The program's own write: raises Change for another text. Ends an edit without a commit.
+    // The program's write: raises Change for a different text. Ends an edit without a commit.
     void SetText(std::string text);
     // Something has been typed since the last commit.
     bool Edited() const { return edited_; }
 
     Event<> change;
-    Event<> commit;  // Enter, or the person turns to another control after an edit
+    Event<> commit;  // Enter, or the user leaves the control after an edit
 
     void Type(std::string text);
     // Enter commits; every key is reported.
     void PressKey(const Key& key) override;
-    // The person turns to another control: commits what was typed since the last commit.
+    // The user leaves the control: commits what was typed since the last commit.
     void Leave();
 
 private:
@@ -107,7 +106,7 @@ public:
           caption(*this, std::move(captionText)) {}
 
     bool Checked() const { return checked_.Get(); }
-    // The program's own write: raises Click for another state.
+    // The program's write: raises Click for a different state.
     void SetChecked(bool checked);
 
     Event<> click;
@@ -157,8 +156,8 @@ public:
         visible = false;
     }
 
-    // A person has given the window another size, or asks it to close. What a close does is the
-    // window's rule; without one the window is hidden.
+    // The user resizes the window, or asks it to close. The window's rule decides what a close
+    // does; without a rule the window is hidden.
     Event<> resize;
     Event<> closeRequest;
     void PersonResizes(int width, int height);
@@ -169,7 +168,7 @@ public:
     Property<bool> topMost{*this, false};
     Property<std::string> tag{*this, {}};
 
-    // True where a rule of its own answers the close.
+    // True if the window has a rule for the close.
     bool closesByRule = false;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A list of texts, each with a number of the program's own (its item data); drop-down or open.
+// A list of texts, each with a number of the program's (its item data); drop-down or open.
 #pragma once
 
 #include <string>
@@ -35,14 +35,15 @@ public:
     int IndexOfData(int data) const;
     int IndexOfText(std::string_view text) const;
 
-    // Replaces the entries and selects none; raises nothing.
+    // Replaces the entries and selects none. Raises no event.
     void Fill(std::vector<Item> items);
     void Clear() { Fill({}); }
     void Add(std::string text, int data = 0);
-    // Selects without raising anything, as part of filling.
+    // Selects an entry without an event, as part of filling.
     void Preselect(int index);
 
-    // The program's own write: raises Click for another index. Beyond the entries selects none.
+    // The program's write: raises Click for a different index. An index beyond the entries selects
+    // none.
     void SetIndex(int index);
 
     Event<> click;

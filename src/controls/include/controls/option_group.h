@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Options of which one is selected. Each is a small control of its own inside the group: it has a
-// name, a tooltip, and can be disabled alone.
+// Options of which one is selected. Each is a small control inside the group, with its own name,
+// tooltip and enabled flag.
 #pragma once
 
 #include <memory>
@@ -25,7 +25,7 @@ public:
     Option(OptionGroup& group, int number, OptionMember member);
 
     bool Checked() const;
-    void Press();  // a person selects it
+    void Press();  // the user selects it
 
     Property<std::string> caption;
 
@@ -46,12 +46,12 @@ public:
     const Option& At(int option) const { return *options_[static_cast<std::size_t>(option)]; }
 
     int Selected() const { return selected_; }
-    // The program's own write: raises Click for another option. Others than 0 .. n-1 are ignored.
+    // The program's write: raises Click for a different option. Ignores options outside 0 .. n-1.
     void SetSelected(int option);
 
     Event<> click;
     void Select(int option);
-    // The selected option has the focus.
+    // The focus is on the selected option.
     void PressKey(const Key& key) { At(selected_).PressKey(key); }
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one place that turns a control into its kind. A visitor is called with the control as what it
-// is, Label& or Grid&, and gives back the same type for every kind.
+// The one place that turns a control into its kind. It calls the visitor with the control as its
+// own type, Label& or Grid&. The visitor returns the same type for every kind.
 #pragma once
 
 #include <type_traits>
@@ -22,7 +22,7 @@ const T& Own(const Control& control) {
     return static_cast<const T&>(control);
 }
 
-// Of a Control or a const Control; a form's own control is passed as its base.
+// Takes a Control or a const Control. Pass a form's own control as its base.
 template <class AnyControl, class Visitor>
 requires std::is_same_v<std::remove_const_t<AnyControl>, Control>
 decltype(auto) Visit(AnyControl& control, Visitor&& visitor) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// An adapter mirrors one control record in one widget: the record's changes reach the widget by
-// Update, a person's acts on the widget reach the record's act functions. Neither comes back.
+// An adapter mirrors one control record in one widget. Update brings changes of the record to the
+// widget; acts of the user on the widget go to the record's act functions. Neither is sent back.
 #pragma once
 
 namespace kelvra::desktop {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What all adapters do alike: enabled, visible, tooltip, names, sizes.
+// What all adapters do: enabled, visible, tooltip, names, sizes.
 #pragma once
 
 #include <QAction>
@@ -17,18 +17,18 @@ int Twips(int pixels);
 // Enabled, visible, tooltip, colours.
 void UpdateCommon(QWidget& widget, const controls::Control& control);
 
-// A text for a tooltip, which would take some texts for markup.
+// A tooltip text, protected from being taken for markup.
 QString TooltipText(const std::string& text);
 
-// The tooltip while the control has none.
+// The tooltip to show while the control has none.
 void SetOwnTooltip(QWidget& widget, const QString& text);
 
-// The control's caption, or its name where it has none, with the mnemonic marked as the toolkit
-// wants it.
+// The control's caption, or its name if it has none, with the mnemonic marked as the toolkit
+// expects it.
 QString MarkedText(const controls::Control& control, const std::string& caption);
 
-// For what opens a window that this front end doesn't have yet: the widget or menu entry stays
-// disabled, and says why. The record knows nothing of it.
+// For a control that opens a window which this front end doesn't have yet: the widget or menu entry
+// stays disabled and says why. The record is not changed.
 void Withhold(QWidget& widget);
 void Withhold(QAction& entry);
 bool Withheld(const QObject& shown);

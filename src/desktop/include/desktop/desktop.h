@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The desktop front end: the whole program behind Qt Widgets.
+// The desktop front end: the whole program with Qt Widgets.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@
 
 namespace kelvra::desktop {
 
-// The windows of a Kelvra. Best made when start-up is over, so that nothing is drawn twice.
+// The windows of a Kelvra. Create it after start-up, so that nothing is drawn twice.
 class Desktop {
 public:
     Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Adapters of what a form is filled in with: text boxes, check boxes, groups of options.
+// Adapters of the controls in a form: text boxes, check boxes, groups of options.
 #pragma once
 
 #include <QCheckBox>
@@ -12,8 +12,8 @@
 
 namespace kelvra::desktop {
 
-// Each letter is typed into the record; Enter and turning to another control commit. A text that is
-// being typed stays as it is unless the record says something else.
+// Each letter is typed into the record; Enter, and leaving the control, commit. A text that is
+// being typed stays unless the record gets a different one.
 class TextBoxAdapter final : public Adapter {
 public:
     TextBoxAdapter(controls::TextBox& box, QLineEdit& widget);
@@ -34,7 +34,7 @@ private:
     QCheckBox& widget_;
 };
 
-// One option of a group, beside the others in the same parent.
+// One option of a group; the options share a parent.
 class OptionAdapter final : public Adapter {
 public:
     OptionAdapter(controls::Option& option, QRadioButton& widget);
@@ -45,7 +45,7 @@ private:
     QRadioButton& widget_;
 };
 
-// What holds the options; the keyboard reaches the one that is selected.
+// The widget that contains the options; the keyboard reaches the selected one.
 class OptionGroupAdapter final : public Adapter {
 public:
     OptionGroupAdapter(const controls::OptionGroup& group, QWidget& widget,

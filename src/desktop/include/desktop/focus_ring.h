@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A ring around whatever in a frame has the focus: the toolkit's own is hardly seen on a dark
-// ground. Tables draw theirs themselves.
+// A ring around the focused widget of a frame: the toolkit's own is hardly visible on a dark
+// background. Tables draw their own.
 #pragma once
 
 #include <QPointer>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a grid is painted and edited: cells keep their own colours, which say something, so a
-// selection is a frame around them; headings are flat.
+// How a grid is painted and edited. The colours of cells have a meaning, so a selected cell keeps
+// them and gets a frame. Headings are flat.
 #pragma once
 
 #include <QHeaderView>
@@ -10,8 +10,8 @@
 
 namespace kelvra::desktop {
 
-// Paints cells, and edits them: what a person has typed goes to the record. A text that the record
-// gets while a cell is edited does not disturb the editor.
+// Paints and edits cells: the text that the user has typed goes to the record. A text that the
+// record gets meanwhile does not disturb the editor.
 class CellDelegate final : public QStyledItemDelegate {
 public:
     CellDelegate(controls::Grid& grid, QObject* parent)
@@ -21,7 +21,7 @@ public:
                const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
-    void setEditorData(QWidget*, const QModelIndex&) const override {}  // it has its text
+    void setEditorData(QWidget*, const QModelIndex&) const override {}  // set once, at the start
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pictures by the names that controls give them, drawn for this program as SVG in one style.
+// Pictures by the names that controls use, drawn for this program as SVG in one style.
 #pragma once
 
 #include <QIcon>
@@ -10,7 +10,7 @@ namespace kelvra::desktop {
 
 QIcon Icon(const std::string& name);
 
-// The picture at a size in logical pixels; "busy1" .. "busy8" are turned by an eighth each.
+// The picture at a size in logical pixels; "busy1" .. "busy8" are each turned by a further eighth.
 QPixmap PictureOf(const std::string& name, int size, qreal pixelRatio);
 
 }  // namespace kelvra::desktop

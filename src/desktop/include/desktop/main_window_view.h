@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The layout of the main window: menus, tool strip, calculation grid, and the area of the windows
+// The layout of the main window: menus, tool strip, calculation grid, and the area for the windows
 // inside it. Widgets and their adapters, no rules.
 #pragma once
 
@@ -19,13 +19,13 @@ class MainWindowView {
 public:
     MainWindowView(forms::MDIMain& form, Mirror& mirror);
 
-    // To be called when all that is in the frame is there: from then on it may be seen.
+    // Call when everything in the frame has been created: from here on it may be shown.
     void MirrorFrame();
 
     FrameWindow& Widget() { return widget_; }
     QMdiArea& Area() { return *area_; }
     GridWidget& Formulas() { return *formulas_; }
-    // For entries of the front end's own.
+    // For the front end's own entries.
     QMenu& WindowMenu() { return *windowMenu_; }
 
 private:

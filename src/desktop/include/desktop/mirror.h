@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// All adapters, and when they look: what has changed is painted at most 60 times a second, so that
-// a fast measurement never waits for pixels; while nothing changes, nothing runs. What a person's
-// click or key has changed is painted at once.
+// All adapters, and when they update: changes are painted at most 60 times a second, so that a fast
+// measurement never waits for painting. While nothing changes, nothing runs. Changes made by the
+// user's click or key are painted at once.
 #pragma once
 
 #include <QObject>
@@ -20,12 +20,12 @@ public:
     explicit Mirror(controls::Changes& changes);
     ~Mirror() override;
 
-    // The adapter shows its control from now on.
+    // From here on the adapter shows its control.
     void Add(const controls::Control& control, std::unique_ptr<Adapter> adapter);
 
-    // Shows everything that has changed, now.
+    // Shows all changes now.
     void Flush();
-    // The same, painted without delivering input, for what takes a while and delivers no events.
+    // The same, and paints them without delivering input; for long work that delivers no events.
     void PaintNow();
 
 protected:

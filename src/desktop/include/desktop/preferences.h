@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the desktop program itself keeps between runs, in a file of its own in the data folder: how
-// large the readings are shown. Settings of sensors are elsewhere.
+// What the desktop program keeps for itself between runs, in a file of its own in the data folder:
+// how large the readings are shown. The settings of sensors are elsewhere.
 #pragma once
 
 #include <QSettings>
@@ -12,7 +12,7 @@ class Preferences {
 public:
     explicit Preferences(const std::string& dataFolder);
 
-    // Steps of a table's font; 0 is the normal size.
+    // Steps of the table's font size; 0 is the normal size.
     int Zoom(const QString& table) const;
     void SetZoom(const QString& table, int steps);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The toolkit's event loop behind the program's interface.
+// The toolkit's event loop, as the program's Events.
 #pragma once
 
 #include <QTimer>
@@ -13,13 +13,13 @@ namespace kelvra::desktop {
 
 class QtEvents final : public platform::Events {
 public:
-    // `setClock` is null when the computer's clock is used. A clock of the program's own moves 1 ms
-    // a round and, outside rounds, on to the timer that is due next; that timer comes after as much
-    // of a person's time, who would see nothing otherwise.
+    // `setClock` is null when the computer's clock is used. Kelvra's own clock moves by 1 ms a
+    // round and, outside rounds, on to the timer that is due next. That timer still runs after its
+    // real interval, so that the user can follow.
     QtEvents(platform::Clock& clock, platform::SetClock* setClock);
 
-    // Delivers the toolkit's events. A measurement that runs thousands of passes a second asks far
-    // more often than a person can act, so events are delivered at most once in a millisecond.
+    // Delivers the toolkit's events. A measurement with thousands of passes a second calls this far
+    // more often than the user can act, so events are delivered at most once in a millisecond.
     void DoEvents(std::chrono::milliseconds patience) override;
     void Repaint() override {
         if (onRepaint) onRepaint();
@@ -28,9 +28,9 @@ public:
     void StopTimer(TimerId timer) override;
     void Quit() override;
 
-    // Paints what has changed; the windows provide it.
+    // Paints all changes; set by the windows.
     std::function<void()> onRepaint;
-    // The program has ended; what still waits for a person goes.
+    // The program has ended; closes the dialogs that wait for an answer.
     std::function<void()> onQuit;
 
     bool HasQuit() const { return quit_; }
@@ -43,8 +43,8 @@ private:
     platform::Clock& clock_;
     platform::SetClock* setClock_;
     platform::TimerList timers_;
-    QTimer due_;       // for the next of the timers
-    QTimer patience_;  // ends a wait when nothing else does
+    QTimer due_;       // for the timer that is due next
+    QTimer patience_;  // ends a wait if no event does
     std::chrono::steady_clock::time_point lastDelivery_{};
     bool inRound_ = false;
     bool quit_ = false;

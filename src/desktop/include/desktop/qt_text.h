@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Texts on their way to the toolkit and back: bytes inside, valid UTF-8 for people.
+// Texts to and from the toolkit: bytes inside, valid UTF-8 for display.
 #pragma once
 
 #include <QString>

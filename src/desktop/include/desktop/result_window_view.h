@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The layout of the result table's window: the table alone, as large as its rows.
+// The layout of the result table's window: only the table, as large as its rows.
 #pragma once
 
 #include <QMdiArea>
@@ -21,7 +21,7 @@ private:
     void FitWindow();
 
     forms::StatusForm& form_;
-    ChildWindow* window_;  // the area's
+    ChildWindow* window_;  // owned by the area
     GridWidget* table_ = nullptr;
     bool fitting_ = false;
 };

@@ -16,7 +16,7 @@ namespace kelvra::desktop {
 
 class LabelAdapter final : public Adapter {
 public:
-    // `named` is the control that the label names, with the letter of that control.
+    // `named` is the control that the label describes; the label shows its mnemonic.
     LabelAdapter(const controls::Label& label, QLabel& widget,
                  const controls::Control* named = nullptr);
     void Update() override;
@@ -48,7 +48,8 @@ private:
     QAction& action_;
 };
 
-// A list that the wheel turns only when it has the focus: a page may be scrolled over it.
+// A list that the wheel turns only when it has the focus, since the pointer may pass over it while
+// the page scrolls.
 class ListWidget final : public QComboBox {
 public:
     ListWidget() { setFocusPolicy(Qt::StrongFocus); }
@@ -72,7 +73,7 @@ private:
 
 class PictureAdapter final : public Adapter {
 public:
-    // The side of the picture in logical pixels.
+    // `size` is the side of the picture in logical pixels.
     PictureAdapter(const controls::Picture& picture, QLabel& widget, int size)
         : picture_(picture), widget_(widget), size_(size) {}
     void Update() override;

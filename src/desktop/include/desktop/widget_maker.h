@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one place that gives a control its widget: made by its kind, with its name for people and its
-// keys as the form declares them, and mirrored from then on. Views say where widgets go, and what
-// is special about them there.
+// The one place that creates the widget of a control: by its kind, with its accessible name and its
+// keys as the form declares them, and mirrored from here on. Views decide where widgets go, and
+// what is special about them there.
 #pragma once
 
 #include <QCheckBox>
@@ -24,27 +24,26 @@ class WidgetMaker {
 public:
     explicit WidgetMaker(Mirror& mirror) : mirror_(mirror) {}
 
-    // The widget goes into a layout or a parent of the caller's. The side of a picture is in
-    // logical pixels.
+    // The caller puts the widget into a layout or a parent. A picture's side is in logical pixels.
     QLabel* Make(const controls::Label& label);
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);
     QCheckBox* Make(controls::CheckBox& box);
-    QWidget* Make(controls::OptionGroup& group);  // options below each other
+    QWidget* Make(controls::OptionGroup& group);  // options in a column
     QComboBox* Make(controls::List& list);
     GridWidget* Make(controls::Grid& grid);
     QLabel* Make(const controls::Picture& picture, int side = ToolIcon);
     QFrame* Make(const controls::Frame& frame);
 
     // By the control's kind. Null for windows, menu entries and options, which are no widgets of
-    // their own, and for the kinds that no window has yet.
+    // their own, and for kinds that no window uses yet.
     QWidget* MakeAny(controls::Control& control);
 
-    // A new last row: caption, editor and unit of the field, in columns of their own. The caption's
-    // letter leads to the editor. The control must be a field.
+    // Adds a row at the end: caption, editor and unit of the field, in columns of their own. The
+    // caption's mnemonic leads to the editor. The control must be a field.
     void AddRow(QGridLayout& rows, controls::Control& control);
 
-    // A separator gives an entry, too.
+    // Also for a separator.
     QAction* AddEntry(QMenu& menu, controls::MenuItem& item);
 
     static constexpr int ToolIcon = 28;

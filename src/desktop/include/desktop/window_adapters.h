@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Adapters of windows: the frame of the program, and the windows inside it. A record's place moves
-// the window; of what a person does, a new size and a wish to close go back.
+// Adapters of windows: the frame of the program, and the windows inside it. A change of the
+// record's place moves the window. From the user, the record gets a new size and a request to
+// close.
 #pragma once
 
 #include <QMainWindow>
@@ -18,10 +19,10 @@ class FrameWindow final : public QMainWindow {
 public:
     explicit FrameWindow(controls::Window& window) : window_(window) {}
 
-    using QMainWindow::focusNextPrevChild;  // the windows inside pass the Tab key on
+    using QMainWindow::focusNextPrevChild;  // public, for the Tab key of the windows inside
 
 protected:
-    // The close is the record's rule; the program ends by it, not by the toolkit.
+    // The record's rule handles the close; the rule ends the program, not the toolkit.
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -43,21 +44,21 @@ private:
     controls::Geometry shown_{};
 };
 
-// A window inside the frame. It is never smaller than what is in it needs.
+// A window inside the frame, never smaller than its content needs.
 class ChildWindow final : public QMdiSubWindow {
 public:
-    // Puts itself into the area.
+    // Adds itself to the area.
     ChildWindow(controls::Window& window, QMdiArea& area);
 
-    // As far as the area has room, and never smaller than it can be.
+    // Limited by the room in the area and by the window's smallest size.
     void ResizeInside(const QSize& wanted);
-    // What the area has for it, from its corner on.
+    // The room in the area from the window's corner on.
     QSize Room() const;
-    std::function<void()> onRoom;  // the area has another size
+    std::function<void()> onRoom;  // the area's size has changed
     bool SizedByPerson() const { return sizedByPerson_; }
 
 protected:
-    // The Tab key walks through the whole frame, in and out of the windows inside it.
+    // The Tab key goes through the whole frame, in and out of the windows inside it.
     bool focusNextPrevChild(bool next) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -68,7 +69,7 @@ protected:
 private:
     controls::Window& window_;
     QMdiArea& area_;
-    bool held_ = false;  // by a person's mouse
+    bool held_ = false;  // by the user's mouse
     bool sizedByPerson_ = false;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Readings that can be read from the other end of the room: menu entries and keys that change the
-// size of a table's font, and the sizes kept from run to run. They mean the table that has the
-// focus, else the first one.
+// Readings that can be read from the other end of the room: menu entries and keys that change a
+// table's font size, and the sizes kept from run to run. They act on the table that has the focus,
+// else on the first one.
 #pragma once
 
 #include <QMenu>
@@ -14,7 +14,7 @@ namespace kelvra::desktop {
 
 class Zoom {
 public:
-    // Gives each table the size that it had in the last run.
+    // Gives each table its size from the last run.
     Zoom(Preferences& preferences, QMenu& menu, std::vector<GridWidget*> tables);
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two lines of a driver call in the debug log, one before it and one after it. Every call that
-// is logged gets them here. Nothing is formatted while logging is off.
+// The two lines of a driver call in the debug log, one before the call and one after it. All logged
+// calls get their lines here. Nothing is formatted while logging is off.
 #pragma once
 
 #include <string>
@@ -14,9 +14,9 @@
 
 namespace kelvra::driver {
 
-// The patterns of a call's two lines. {name} is the function's name, {all} are the arguments with
-// ", " between them, {trimmed} the same without the spaces that numbers begin with, {0} is the
-// first argument, {1} the next, and {result} is what came back.
+// The patterns of a call's two lines. {name} is the function's name, {all} the arguments with ", "
+// between them, {trimmed} the same without the leading spaces of numbers, {0} the first argument,
+// {1} the next, and {result} the result.
 struct LogForm {
     std::string_view start;
     std::string_view finish;
@@ -43,7 +43,7 @@ constexpr LogForm ArrayReading   {"{name}( {all} ) STARTING",         "{name} ->
 
 }  // namespace log_form
 
-// The lines of one call: made before it, finished after it.
+// The lines of one call: the constructor writes the first, Finish the second.
 class CallFrame {
 public:
     template <class... Arguments>
@@ -82,7 +82,7 @@ private:
     std::vector<std::string> arguments_;
 };
 
-// Calls the operation between its two lines.
+// Calls the operation and writes both lines.
 template <class... Parameters, class... Arguments>
 CallResult FramedCall(DebugLog& log, const LogForm& form, const Operation<Parameters...>& operation,
                       Arguments... arguments) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The debug log: a text file of all that is worth tracing, written while it is switched on. Opens,
+// The debug log: a text file that traces the driver calls, written while it is switched on. Opens,
 // appends and closes for every line, so that the last line before a crash is there.
 #pragma once
 
@@ -23,12 +23,12 @@ public:
     bool timeStamps = false;  // each line begins with the time of day: "00,043,200.000:"
     std::string header;       // each line's prefix, after the time and a space
 
-    // One line. Nothing happens while logging is off.
+    // Writes one line. Does nothing while logging is off.
     void Write(std::string_view text);
     // Deletes an existing log file, whether logging is on or off.
     void RemoveOld();
 
-    // Called once, with the system's reason, if the log can't be written while logging is on.
+    // Called once, with the system's message, if the log can't be written while logging is on.
     std::function<void(const std::string& path, const std::string& reason)> onFailure;
 
 private:

@@ -11,7 +11,7 @@
 namespace kelvra::driver {
 
 struct DeviceListEntry {
-    std::string resourceName;  // empty: no connected device at this place
+    std::string resourceName;  // empty: no connected device at this index
     std::string type;
     std::string serial;
     std::string name;  // may be empty
@@ -21,12 +21,12 @@ class DeviceCatalogue {
 public:
     explicit DeviceCatalogue(DeviceListOperations& operations) : operations_(operations) {}
 
-    // Up to the last place with a connected device; a single empty element when there is none.
+    // Up to the last index with a connected device; a single empty element if there is none.
     std::vector<DeviceListEntry> deviceList = std::vector<DeviceListEntry>(1);
 
-    // Reads the library's list (256 entries at most), sizes the display limits, and sets
-    // deviceTableChanged when fewer sensors are connected than the last time. Sizing the
-    // sensor table is left to discovery, which first saves what has gone.
+    // Reads the library's list (at most 256 entries), sizes the display limits, and sets
+    // deviceTableChanged when fewer sensors are connected than the last time. Discovery sizes the
+    // sensor table, because it first saves the settings of sensors that have gone.
     void BuildDeviceList(sensors::SensorTable& table);
 
     int Connected() const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two driver libraries in this process: loaded by name, their functions found by the names of
-// the operations. Neither a missing library nor a missing function is an error here; the log says
-// so, and calls fail.
+// The two driver libraries in this process: loaded by name, their functions found by the
+// operations' names. A missing library or function is no error here: it is logged, and the calls
+// fail.
 #pragma once
 
 #include <memory>
@@ -24,7 +24,7 @@ private:
     std::unique_ptr<platform::Library> deviceListLibrary_;
 };
 
-// Why a call gave MissingFunction, in words.
+// Why a call was a missing function, as text for the user.
 std::string MissingText(const OperationList& operations, const OperationBase& missing);
 
 }  // namespace kelvra::driver

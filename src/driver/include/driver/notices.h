@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the driver room tells upwards: how sensors are, and when one gets its settings.
+// What the driver room reports upwards: how sensors are, and when one gets its settings.
 #pragma once
 
 #include <string>
@@ -12,12 +12,13 @@ class SensorNotices {
 public:
     virtual ~SensorNotices() = default;
 
-    // A call for the slot's sensor has failed; `text` is all that is wrong with the sensor now,
+    // A call for the slot's sensor has failed. `text` has all of the sensor's current errors,
     // without a line break at its end.
     virtual void SensorFailed(int /*slot*/, const std::string& /*text*/) {}
-    // Something that was wrong with it is over, or it has gone.
+    // One of the sensor's errors is over, or the sensor has gone.
     virtual void SensorIsWell(int /*slot*/) {}
-    // Its channel could not be opened, and the session will be closed; the driver's words.
+    // The sensor's channel could not be opened, and the session will be closed. `text` is the
+    // driver's message.
     virtual void OpeningFailed(int /*slot*/, const std::string& /*text*/) {}
 };
 
@@ -34,12 +35,12 @@ struct SessionNews {
     util::Listeners<TransferMarks> marks;
 };
 
-// Who gives way during a transfer, which may take many slow calls.
+// Called during a transfer, which may take many slow calls.
 class TransferPace {
 public:
     virtual ~TransferPace() = default;
 
-    // Asked after each call; may let events run. False ends the transfer before its end.
+    // Called after each call of a transfer; may let events run. False ends the transfer early.
     virtual bool GoesOn() = 0;
 };
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one list of the driver libraries' functions. From it are made the operations and their names
-// in the log (operations.h), the test's fake driver, the benchmarks' instant sensors, and what the
-// virtual sensors export. A new function is one line here, and what it does in each of these.
+// The one list of the driver libraries' functions. The operations and their names in the log
+// (operations.h), the tests' fake driver, the benchmarks' instant sensors, and the exports of the
+// virtual sensors are made from it. A new function is one line here, and its behaviour in each of
+// these.
 //
-// The types are those of the C interface: statuses and whole numbers of 32 bits, switches of 16
-// (0 or 1), texts of 8-bit characters. Every function gives back its status, 0 for success. h is
-// the session's handle, ch the channel (slot index + 1); a pointer that is not const is an output.
+// The types are those of the C interface: statuses and whole numbers of 32 bits, switches of 16 (0
+// or 1), texts of 8-bit characters. Every function returns its status, 0 for success. h is the
+// session's handle, ch the channel (slot index + 1); a pointer that is not const is an output.
 #pragma once
 
 #include <cstdint>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The operations of the driver libraries, each a member with the name of its function: loaded by
-// that name, called, and named in the log. They are made from operation_list.h; the libraries are
-// plugged in by driver_library.h, or by a test. On 32-bit Windows the functions are called by
-// __stdcall.
+// The operations of the driver libraries. Each is a member with the name of its function, by which
+// it is loaded, called, and logged. They are made from operation_list.h; driver_library.h, or a
+// test, connects them to the functions. On 32-bit Windows the calling convention is __stdcall.
 #pragma once
 
 #include <cstdint>
@@ -39,7 +38,7 @@ struct CallResult {
 class OperationList {
 public:
     std::vector<OperationBase*> all;
-    std::string libraryFile;  // as it was looked for
+    std::string libraryFile;  // file name that was searched for
     bool libraryLoaded = false;
     std::string whyNotLoaded;
 };
@@ -51,7 +50,7 @@ public:
     }
 
     const char* const name;
-    void* address = nullptr;  // null: not there
+    void* address = nullptr;  // null: missing
 };
 
 template <class... Arguments>
@@ -66,7 +65,7 @@ public:
     }
 };
 
-// The operation with the parameters of a function: OperationFor<Status(Handle, Channel)>.
+// The operation for a function's signature: OperationFor<Status(Handle, Channel)>.
 template <class Signature>
 struct OperationOfSignature;
 template <class... Parameters>

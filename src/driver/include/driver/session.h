@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one driver session for all sensors: opening a slot's channel, closing everything, and what is
-// done with a failed status. The settings are sent elsewhere (transfer.h).
+// The one driver session for all sensors: opens a slot's channel, closes everything, and handles
+// failed statuses. The settings are sent elsewhere (transfer.h).
 #pragma once
 
 #include <string>
@@ -16,8 +16,8 @@ namespace kelvra::driver {
 struct SessionState {
     Handle instrumentHandle = 0;   // 0: no session
     bool configRunning = false;    // a transfer of settings runs
-    bool reconnectPrompt = false;  // the last failed opening is one that reconnecting may mend
-    bool sessionClosed = true;     // no session is left to be closed
+    bool reconnectPrompt = false;  // reconnecting may mend the last failed opening
+    bool sessionClosed = true;     // there is no session to close
 };
 
 class Session {
@@ -36,25 +36,26 @@ public:
     InstrumentOperations& operations;
     DebugLog& log;
 
-    // Opens the slot's channel: slot 0 opens the session, the others are added to it and stay
+    // Opens the slot's channel. Slot 0 opens the session; the others are added to it and stay
     // closed until there is one. A failure is reported and ends the session. In simulation mode the
-    // slot is open at once. The entry's sessionOpen says how it went.
+    // slot is open at once. The entry's sessionOpen has the outcome.
     void OpenSensor(int slot);
 
-    // Ends the session, if there is one: handle, flag and every slot's sessionOpen together.
+    // Ends the session, if there is one, and clears the handle, the flag and every slot's
+    // sessionOpen.
     void Close();
 
     // If the call has failed: logs it, adds it to the sensor's error text, and reports the text.
-    // The context is a short label of what was called.
+    // The context is a short label of the call.
     void ReportError(const CallResult& result, int slot, const char* context);
 
-    // What came of starting the measurements, or of fetching the slot's result: a failure is the
-    // sensor's error until the same call succeeds.
+    // The outcome of starting the measurements, or of fetching the slot's result. A failure stays
+    // the sensor's error until the same call succeeds.
     void ReportInitiate(const CallResult& result);
     void ReportFetch(const CallResult& result, int slot);
 
-    // The driver's words for a failed call, logged. A function that is missing gets Kelvra's words,
-    // a status that the driver has no words for is shown as a number.
+    // The driver's message for a failed call, logged. Kelvra's own message for a missing function;
+    // the status as a number if the driver has no message for it.
     std::string MessageFor(const CallResult& failed);
 
 private:
@@ -71,7 +72,7 @@ private:
     void ReportCall(const CallResult& result, int slot, const char* what, ErrorMember error);
     void TellFailed(int slot);
     std::string CallMessage(const CallResult& failed);
-    // The sensor's own words, an entry of its error queue.
+    // The oldest message of the driver's error queue.
     std::string CallQuery();
 
     sensors::SensorTable& table_;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sends single settings of one channel, each framed in the log. A setting with a label has its
-// status reported under it; one without is sent unchecked.
+// Sends single settings of one channel, each call framed in the log. The status of a setting with a
+// label is reported under that label; without a label it is not checked.
 #pragma once
 
 #include "driver/call_log.h"
@@ -15,7 +15,7 @@ public:
     SettingsSender(Session& session, int slot, TransferPace* pace)
         : session_(session), slot_(slot), pace_(pace) {}
 
-    // False once the pace has ended the transfer: the settings after that were not sent.
+    // False once the pace has ended the transfer: the later settings were not sent.
     bool Complete() const { return goesOn_; }
 
     template <class... Parameters, class... Values>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A buffer that the driver fills with a text; before the call it holds 256 spaces. Some bytes of
-// margin after it keep a text without a NUL, or one slightly too long, from doing harm.
+// A buffer that the driver fills with a text; before the call it holds 256 spaces. The margin after
+// it keeps a text without a NUL, or one slightly too long, from doing harm.
 #pragma once
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The small dialogs: the recording interval, the About box with its reports, and the information
-// entries of a sensor. All texts that come from the computer or a sensor are filled in elsewhere.
+// The small dialogs: the recording interval, the About box with its reports, and a sensor's
+// information entries. Texts from the computer or a sensor are filled in elsewhere.
 #pragma once
 
 #include "controls/kinds.h"
@@ -58,7 +58,7 @@ struct AboutForm : controls::Window {
     controls::RichText LizText{*this, "LizText"};
 };
 
-// Names on the left, values on the right, one line an entry.
+// Names on the left, values on the right, an entry per line.
 struct SensInfoForm : controls::Window {
     explicit SensInfoForm(controls::Changes& changes)
         : Window(changes, "SensInfoForm", "Sensor Information", {3000, 1800, 6900, 5400}) {}

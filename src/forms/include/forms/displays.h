@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows that show what one sensor has measured: its trace, its time slots as a graph, and its
-// time slots as a table with statistics. What is drawn, and what a drag means, is elsewhere.
+// time slots as a table with statistics. What is drawn, and what a drag does, is elsewhere.
 #pragma once
 
 #include "controls/graph.h"

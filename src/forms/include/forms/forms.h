@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// All windows of the program, there from the start, and the way from a name to a control, as
-// scripts address it. The windows hold state only; the rules that move it get at them through here.
+// All windows of the program, created at the start, and the way from a name to a control, as
+// scripts address it. The windows hold state only; the rules that change it reach them here.
 #pragma once
 
 #include <string_view>
@@ -42,9 +42,8 @@ struct Forms {
     // Null if no window has that name.
     controls::Window* FindFormByName(std::string_view name);
 
-    // NAME where only one control has that name, or WINDOW.NAME. A window is found by its own name,
-    // an option by its own name: "Option3", "SensAvgMode(1)". Upper and lower case are told
-    // apart.
+    // NAME if only one control has that name, or WINDOW.NAME. A window or an option is found by its
+    // own name: "Option3", "SensAvgMode(1)". Case matters.
     Found Find(std::string_view name);
 };
 

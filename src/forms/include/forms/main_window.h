@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window: menus, tool strip, connection indicator and calculation grid, as data. Its rules
+// The main window as data: menus, tool strip, connection indicator and calculation grid. Its rules
 // are elsewhere; closing it is one of them.
 #pragma once
 
@@ -56,7 +56,7 @@ struct MDIMain : Window {
     Label SensorLabel{MainTools, "SensorLabel", "Sensor"};
     List TimeSensor_select_new{MainTools, "TimeSensor_select_new", {}, -1, {.name = "Sensor"}};
 
-    // The indicator stands beside the frame of the notice, so that it stays when the notice goes.
+    // The indicator is beside the notice's frame, so that it stays when the notice goes.
     Picture picConnected{MainTools, "picConnected", "connectedPic", {.name = "Connection"}};
     Label ConSensors{MainTools, "ConSensors"};
     Frame ConnectedFrame{MainTools, "ConnectedFrame", "", {60, 1320, 6000, 420}};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The setup dialog: a header with sensor, mode and the input-error strip, and five pages below it.
-// Filling, storing and enabling are rules elsewhere; a close only hides the dialog.
+// Filling, storing and enabling are done by rules elsewhere; a close only hides the dialog.
 #pragma once
 
 #include "forms/setup_pages.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The header of the setup dialog and its five pages. A field is one line: its name, its labels and
-// help topic, and what its kind needs besides. What it shows comes from a sensor's settings.
+// help topic, and what its kind needs besides. Its content comes from a sensor's settings.
 #pragma once
 
 #include <string>
@@ -78,7 +78,7 @@ struct GeneralPage {
     TextField SensAvgMaxTime{AverageFrame, "SensAvgMaxTime", {"lblAvgMaxTime", "Max. Settl. Time"}};
     TextField SensAvgSlot{AverageFrame, "SensAvgSlot", {"lblAvgSlot", "Ref Timeslot #"}};
 
-    // The boxes of the two displays share their labels: only one display's are in sight.
+    // The boxes of the two displays share their labels: only one display's boxes are visible.
     Frame GraphFrame{GeneralFrame, "GraphFrame", "Graph Settings", {120, 3480, 5760, 1200}};
     CheckBox chkAutoScaleScope{GraphFrame, "chkAutoScaleScope", "Autoscale scope display"};
     CheckBox chkAutoScaleTime{GraphFrame, "chkAutoScaleTime", "Autoscale Time Display"};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The window of the result table, one row a sensor slot below the heading. Start-up lays the rows
-// and the other columns out; what the cells show and what a click does are rules elsewhere.
+// The window of the result table: a heading, then a row for each sensor slot. Start-up lays out the
+// rows and the other columns; what the cells show and what a click does are rules elsewhere.
 #pragma once
 
 #include "controls/grid.h"
@@ -12,7 +12,7 @@ struct StatusForm : controls::Window {
     // Wide enough for all columns (5000 twips) with a scroll bar and margins.
     explicit StatusForm(controls::Changes& changes)
         : Window(changes, "StatusForm", "Results", {60, 60, 5520, 4200}) {
-        closesByRule = true;  // and no rule closes it: the readings stay in sight
+        closesByRule = true;  // no rule closes it: the readings stay visible
         ResultGrid.SetWidth(0, 1200);
     }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The measurement cycle: what runs from Start to Stop. It keeps the program alive by letting events
-// run at fixed points; Stop, the windows and the timers act in those gaps and talk to it through
-// flags. It publishes what happens (listener.h) and shows nothing. Preparing a measurement is in
-// cycle_start.cpp, the passes are in cycle.cpp.
+// The measurement cycle: what runs from Start to Stop. It lets events run at fixed points; Stop,
+// the windows and the timers act there and talk to it through flags. It publishes what happens
+// (listener.h) and shows nothing. Preparing a measurement is in cycle_start.cpp, the passes are in
+// cycle.cpp.
 #pragma once
 
 #include <vector>
@@ -36,21 +36,22 @@ class Cycle final : public driver::TransferPace {
 public:
     explicit Cycle(const CycleParts& parts);
 
-    // Runs the whole measurement and returns after Stop, or after a start that failed: then the
-    // program stays as if measuring until Stop is pressed. Does nothing while it, or a sensor
-    // command, runs.
+    // Runs the whole measurement and returns after Stop. After a start that failed, it returns at
+    // once and the program stays as if measuring until Stop is pressed. Does nothing while it, or a
+    // sensor command, is running.
     void Start();
 
-    // Ends the measurement, and a recording, at the cycle's next look; the program is idle at once.
+    // Ends the measurement, and a recording, when the cycle next checks. The program counts as idle
+    // at once.
     void Stop();
 
-    // A transfer ends early when the measurement is to end.
+    // Ends a transfer early when the measurement is to end.
     bool GoesOn() override;
 
 private:
     enum class Opened { All, None, Failed, Ended };
 
-    // What belongs to one measurement.
+    // The data of one measurement.
     struct Run {
         std::vector<bool> measured;  // by slot: present and enabled at Start
         platform::Duration lastAwaited{};
@@ -78,7 +79,7 @@ private:
     void FetchSlot(int slot);
     void Close();
 
-    // The slot was enabled when the measurement started, and its sensor is still there.
+    // The slot was enabled when the measurement started, and its sensor is still present.
     bool Takes(int slot) const;
 
     CycleParts p_;

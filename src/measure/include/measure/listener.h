@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a measurement tells: the windows, later a recorder or a remote client, subscribe to it.
-// Listeners show or note what has happened and return; the measurement goes on by itself.
+// What a measurement publishes: the windows, later a recorder or a remote client, subscribe to it.
+// Listeners show or note what has happened and return; the measurement does not depend on them.
 #pragma once
 
 #include <string>
@@ -29,26 +29,26 @@ public:
 
     // The enabled sensors have the lowest slots now; none is open yet.
     virtual void Started() {}
-    // Which displays are wanted (MeasureState) has been decided anew.
+    // The wanted displays (MeasureState) have been determined again.
     virtual void ModesChanged() {}
     // A sensor could not be opened and has been switched off.
     virtual void SwitchedOff(int /*slot*/) {}
-    // Nothing will be measured. The program is as if measuring until Stop.
+    // Nothing will be measured. The program stays as if measuring until Stop.
     virtual void StartFailed(StartFailure /*why*/) {}
-    // All sensors are open and have their settings: passes follow.
+    // All sensors are open and have their settings; the passes follow.
     virtual void Prepared() {}
 
     // The sensors of a pass have been started.
     virtual void PassStarted() {}
-    // The slot's sensor is not complete yet, about once a second; `complaint` has the driver's
-    // words when asking it failed, else it is empty.
+    // The slot's sensor is not complete yet; sent about once a second. `complaint` has the driver's
+    // message if asking the sensor failed, else it is empty.
     virtual void Awaited(int /*slot*/, const std::string& /*complaint*/) {}
     // All results of the pass are there.
     virtual void PassMeasured() {}
-    // Events have run since; no sensor is waited for any more. The time is the monotonic clock's;
-    // the pass has lasted so long, from its preparation on.
+    // Events have run since PassMeasured, and no sensor is waited for. `now` is the monotonic
+    // clock's time; `lasted` counts from the pass's preparation.
     virtual void PassSeen(platform::Duration /*now*/, platform::Duration /*lasted*/) {}
-    // The pass waits for its deadline, which is so far away; about every millisecond.
+    // The pass waits until `left` has passed; sent about every millisecond.
     virtual void PassWaits(platform::Duration /*left*/) {}
     virtual void PassEnded() {}
 
@@ -58,8 +58,8 @@ public:
     virtual void SessionLost(const LostSession& /*lost*/) {}
 };
 
-// What happens at one slot in a pass. Many thousands a second: who needs only the course of a
-// measurement listens to that.
+// What happens at one slot in a pass, many thousands of times a second. Listeners that need only
+// the course of a measurement use MeasurementListener.
 class SlotListener {
 public:
     virtual ~SlotListener() = default;

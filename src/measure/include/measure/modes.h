@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which displays are wanted: that follows from the modes of the sensors that are switched on.
+// Determines which displays are wanted, from the modes of the sensors that are switched on.
 #pragma once
 
 #include "measure/listener.h"
@@ -13,7 +13,7 @@ public:
     Modes(const sensors::SensorTable& table, MeasureState& state, const News& news)
         : table_(table), state_(state), news_(news) {}
 
-    // Finds it anew and tells ModesChanged, also when it is as before: names may be others.
+    // Determines it again and sends ModesChanged even if nothing has changed, since names may have.
     void Find();
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Holds each pass back to the recording interval. While passes keep up, the deadlines are an
-// interval apart exactly, so a recording doesn't drift; after a pass that took longer they start
-// anew. Goes by the monotonic clock, so midnight and a clock that is set don't matter.
+// Holds each pass back to the recording interval. While passes keep up, the deadlines are exactly
+// an interval apart, so a recording doesn't drift; after a pass that took longer they start anew.
+// Uses the monotonic clock, so that midnight and a change of the clock don't matter.
 #pragma once
 
 #include <optional>
@@ -17,12 +17,12 @@ public:
     Pacing(MeasureState& state, platform::Host& host, const News& news)
         : state_(state), host_(host), news_(news) {}
 
-    // A measurement starts: no deadline yet.
+    // Call when a measurement starts: there is no deadline yet.
     void Reset() { lastDeadline_.reset(); }
     void PassBegins(platform::Duration now) { passBegan_ = now; }
-    // Waits until the pass has lasted as long as the recording interval, letting events run and
-    // telling how long it still waits. Without an interval, and once the measurement is to
-    // end, it returns at once.
+    // Waits until the pass has lasted as long as the recording interval. Meanwhile it lets events
+    // run and reports the time left. Returns at once without an interval, and when the measurement
+    // is to end.
     void WaitForDeadline();
 
 private:

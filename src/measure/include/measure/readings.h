@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fetches results from the driver, or from the simulation, and stores them in the sensor's entry.
-// What the driver leaves in the output is the reading, as it is; a failing fetch is the sensor's
-// error as well.
+// The reading is what the driver leaves in the output, even if the fetch fails; the failure becomes
+// the sensor's error.
 #pragma once
 
 #include "driver/session.h"
@@ -12,17 +12,18 @@ namespace kelvra::measure {
 
 class Readings {
 public:
-    // Most values of an array result.
+    // The most values of an array result.
     static constexpr int ArraySize = 1024;
 
     Readings(driver::Session& session, sensors::SensorTable& table, util::Random& random)
         : session_(session), table_(table), random_(random) {}
 
-    // One scalar reading: its power (W), the averaging count, the history, and (not in simulation
-    // mode) the slot's reading for a recording.
+    // Fetches a scalar reading: its power (W), the averaging count, the history, and (not in
+    // simulation mode) the slot's reading for a recording.
     void GetSingleReading(int slot);
 
-    // One array result into Results (W): as many values as came, or ArraySize zeros when none did.
+    // Fetches an array result into Results (W): the values received, or ArraySize zeros if there
+    // were none.
     void GetMultiReading(int slot);
 
 private:

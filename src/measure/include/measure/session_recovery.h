@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The way out of a lost driver session: when the driver has refused the session's handle during a
-// transfer, the session is opened again, the sensor gets its settings again, and the measurement
-// ends. Once in a measurement, after the transfer, and never inside itself.
+// Recovers from a lost driver session. When the driver has refused the session's handle during a
+// transfer, it opens the session again, sends the sensor its settings again, and ends the
+// measurement. Runs once in a measurement, after the transfer, and never inside itself.
 #pragma once
 
 #include <cstdint>
@@ -41,7 +41,7 @@ private:
     bool Reopen(int slot);
 
     Parts p_;
-    bool handleRefused_ = false;  // in the transfer that runs, or ran last
+    bool handleRefused_ = false;  // in the current or latest transfer
     std::int64_t recoveredInStart_ = 0;
 };
 

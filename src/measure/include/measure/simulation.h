@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the two simulated sensors read: steady levels with a little noise, and pulsed profiles over
-// a noise floor near -60 dBm.
+// The readings of the two simulated sensors: steady levels with a little noise, and pulsed profiles
+// over a noise floor near -60 dBm.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ namespace kelvra::measure {
 double SimulatedReading(int slot, util::Random& random);
 
 // An array result in W: ScopePoints values in trace mode, TSlotCount in time slot mode, none in
-// others; never more than `most`.
+// other modes; never more than `most`.
 std::vector<double> SimulatedArray(const sensors::SensorSettings& settings, int most,
                                    util::Random& random);
 

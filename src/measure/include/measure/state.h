@@ -8,7 +8,7 @@ namespace kelvra::measure {
 
 struct MeasureState {
     bool measuring = false;           // from Start to Stop
-    bool stopRequested = false;       // the cycle is to end at its next look
+    bool stopRequested = false;       // the cycle is to end when it next checks
     bool traceModeActive = false;     // an enabled sensor measures in trace mode
     bool timeSlotModeActive = false;  // an enabled sensor measures in time slot mode
     std::int32_t recordInterval = 0;  // s between passes while recording; 0: no recording
@@ -18,12 +18,12 @@ struct MeasureState {
     std::int64_t starts = 0;   // measurements started in this run of the program
     std::int64_t passes = 0;   // completed since start-up
 
-    // The handlers that run are to return at their next look.
+    // Running handlers are to return when they next check.
     bool Ending() const { return stopRequested || exiting; }
 };
 
-// Covers a handler that must not be entered again, nor beside another one of its kind, nor after
-// the exit routine. Where it gives false the handler returns at once.
+// Guards a handler that must not be entered again, nor run with another one of its kind, nor after
+// the exit routine. If the guard is false, the handler returns at once.
 class CommandGuard {
 public:
     explicit CommandGuard(MeasureState& state)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a run needs besides its front end: the computer's files and libraries, and the clock and
-// the random numbers that the command line has chosen.
+// random numbers that the command line has chosen.
 #pragma once
 
 #include <memory>
@@ -17,11 +17,10 @@ namespace kelvra::options {
 
 class Surroundings {
 public:
-    // The command line is what start-up reads; without a seed the random numbers differ from run to
-    // run.
+    // Start-up reads the command line. Without a seed the random numbers differ from run to run.
     Surroundings(const Options& options, const std::vector<std::string>& commandLine);
 
-    // The program's own clock, null when it is the computer's.
+    // Kelvra's own clock; null if the computer's is used.
     platform::SetClock* OwnClock() { return ownClock_.get(); }
     platform::Clock& Clock() { return ownClock_ ? *ownClock_ : *nativeClock_; }
     platform::Files& Files() { return *files_; }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's name and version, as the build has them.
+// The program's name and version, from the build.
 #pragma once
 
 #include "platform/computer.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The four basic operations by name, so that the function table and the evaluation loop, which runs
-// them without a call, mean the same. A division by 0 gives a value that is not finite.
+// The four basic operations by name, so that the function table and the evaluation loop, which
+// inlines them, agree. A division by 0 gives a value that is not finite.
 #pragma once
 
 namespace kelvra::parser {

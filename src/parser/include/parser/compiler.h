@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Turns the text of a formula into an expression table: characters into tokens, tokens into entries
-// and operands. The order of evaluation is settled by evaluation_order, values by literals.
+// and operands. evaluation_order settles the order of evaluation, literals parses values.
 #pragma once
 
 #include <string>
@@ -11,14 +11,14 @@
 
 namespace kelvra::parser {
 
-// Fills one table from one text, once. The table is emptied first and keeps its buffers; after a
-// failure it holds what was compiled so far.
+// Fills one table from one text, once. Empties the table first and reuses its buffers. After a
+// failure the table holds what was compiled so far.
 class Compiler {
 public:
-    // The text has no blanks at its ends and outlives the compiler.
+    // The text has no spaces at its ends and must outlive the compiler.
     Compiler(std::string_view text, ExpressionTable& table);
 
-    // False with a message in Error().
+    // False after an error, with a message in Error().
     bool Compile();
 
     const std::string& Error() const { return error_; }
@@ -51,11 +51,11 @@ private:
     std::string_view text_;
     ExpressionTable& table_;
     std::string error_;
-    std::int32_t position_ = 0;  // of the character in hand, from 1; UTF-8 counts as characters
+    std::int32_t position_ = 0;  // of the current character, from 1; UTF-8 counts as characters
     std::int32_t depth_ = 0;
     std::size_t tokenStart_ = 0;
-    std::string comparison_;            // comparison signs that follow each other
-    std::string_view pendingFunction_;  // a name with two arguments that awaits its ";"
+    std::string comparison_;            // consecutive comparison signs
+    std::string_view pendingFunction_;  // a two-argument name that awaits its ";"
     const Function* pendingRow_ = nullptr;
     bool operatorSeen_ = false;  // this character ends the operand before it
 };

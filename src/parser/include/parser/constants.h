@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Constants of the formula language. They have 15 digits where formulas have always had 15, so
-// that results agree to the last digit shown; numbers of full precision would differ.
+// Constants of the formula language. They have 15 digits, as formulas have always had, so that
+// results agree to the last digit shown; constants of full precision would give others.
 #pragma once
 
 namespace kelvra::parser {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// In which order the entries of a table are evaluated, and which entry receives the result of
-// which. Works on priority levels alone; neither texts nor values matter here.
+// The order in which the entries of a table are evaluated, and which entry receives each result.
+// Depends on priority levels alone, not on texts or values.
 #pragma once
 
 #include <span>
@@ -9,12 +9,12 @@
 
 namespace kelvra::parser {
 
-// Fills order: higher levels first, equal ones from left to right. Slot 0 is left alone.
+// Fills order: higher levels first, equal levels from left to right. Leaves slot 0 alone.
 void SetEvaluationOrder(std::span<ExpressionEntry> table);
 
-// Fills receiver and receivingArgument: each entry in evaluation order feeds the neighbour, among
-// those not yet evaluated, with the higher level, on a tie the left one. Arguments that receive a
-// result lose their variable.
+// Fills receiver and receivingArgument. In evaluation order, each entry feeds the neighbour with
+// the higher level among those not yet evaluated; on a tie, the left one. An argument that receives
+// a result loses its variable.
 void LinkResults(std::span<ExpressionEntry> table);
 
 }  // namespace kelvra::parser

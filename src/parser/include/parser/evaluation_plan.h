@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A compiled table made ready to run many times: the operations in their order, side by side in
-// memory, bound to their functions and to the arguments they feed. Holds values, no texts.
+// A compiled table prepared for many runs: the operations in their order, contiguous in memory,
+// bound to their functions and to the arguments they feed. Holds values, no texts.
 #pragma once
 
 #include <array>
@@ -16,15 +16,16 @@ namespace kelvra::parser {
 
 class EvaluationPlan {
 public:
-    // Takes over a compiled table (slot 0 is not used).
+    // Takes a compiled table (slot 0 is not used).
     void Build(std::span<const ExpressionEntry> table);
 
-    // Gives each argument that a variable feeds the variable's value, or all of them one value.
+    // Gives every argument that a variable feeds the variable's value, or the same value to all of
+    // them.
     void Load(std::span<const Argument> variables);
     void Load(double value);
 
-    // Runs the operations; the value of the last, or nothing when one has failed. Results are kept
-    // up to there.
+    // Runs the operations and gives the value of the last one; nothing after a failure, which ends
+    // the run.
     std::optional<double> Run(util::Random& random);
 
     // The operation that failed in the last run.
@@ -34,7 +35,7 @@ public:
     };
     Failure LastFailure() const;
 
-    // Writes values of arguments and results into the table the plan was built from.
+    // Writes the values of arguments and results into the table that the plan was built from.
     void CopyValues(std::span<ExpressionEntry> table) const;
 
 private:
@@ -44,7 +45,7 @@ private:
         double (*ofOne)(double);
         double (*ofTwo)(double, double);
         std::array<double, 2> arguments;
-        // Which of them the step before feeds. Its result is at hand then; waiting for it to come
+        // Which arguments the previous step feeds. Its result is passed on directly: a round trip
         // through memory would take longer than the operation.
         std::array<bool, 2> takesLast;
         double value;

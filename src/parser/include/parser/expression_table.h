@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A formula as a flat table: one entry for each operation, and the variables that feed it. The
-// compiler fills it, the evaluation plan runs it, the dump lists it; nothing here computes.
+// compiler fills it, the evaluation plan runs it, the dump lists it; this file computes nothing.
 #pragma once
 
 #include <array>
@@ -30,7 +30,7 @@ struct ExpressionEntry {
     std::array<Argument, 2> arguments;
     std::int32_t argumentCount = 0;      // number of arguments, 1 or 2
     std::int32_t receiver = 0;           // entry that receives the result, 0 for the root
-    std::int32_t receivingArgument = 0;  // which of its arguments (1 or 2) receives it
+    std::int32_t receivingArgument = 0;  // which of the receiver's arguments (1 or 2) that is
     double value = 0;                    // last result
     std::int32_t position = 0;           // 1-based character that created the entry
     std::int32_t priority = 0;           // higher is evaluated earlier
@@ -40,8 +40,8 @@ struct ExpressionEntry {
 struct ExpressionTable {
     std::vector<ExpressionEntry> entries;  // slot 0 is never used
     std::vector<Argument> variables;       // slot 0 is never used
-    int variableCount = 0;  // one above MaxVariables when a formula has failed for that
-    std::string names;      // all tokens, one behind the other; never grows while in use
+    int variableCount = 0;  // MaxVariables + 1 after a formula has failed for too many
+    std::string names;      // all tokens, one after the other; never grows while in use
 
     int LastEntry() const { return static_cast<int>(entries.size()) - 1; }
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one table of operators and functions: code, name, where it may stand, how it is computed. A
-// new function is a row here and, unless it fits the row, a function beside it.
+// The one table of operators and functions: code, name, where it may appear, how it is computed. A
+// new function is a row here and, if no existing function fits, a function elsewhere.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace kelvra::parser {
 
-// Which names may stand before an opening bracket, and with how many arguments.
+// Which names may precede an opening bracket, and with how many arguments.
 enum class NameList { Operators, OneArgument, TwoArguments };
 
 struct Function {
@@ -18,16 +18,16 @@ struct Function {
     std::int32_t level = 0;  // added to ten times the bracket depth
     std::string_view name;   // lower case
 
-    // How it is computed: the one that fits the number of arguments is set, "rnd" has neither. A
-    // value that is not finite is a failure, see results.h.
+    // The one for the number of arguments is set; "rnd" has neither. A value that is not finite is
+    // a failure, see results.h.
     double (*ofOne)(double) = nullptr;
     double (*ofTwo)(double, double) = nullptr;
 };
 
-// The row of a name in any case; nothing if there is none.
+// The row of a name in any case; null if there is none.
 const Function* FindFunction(std::string_view name);
 
-// The first row with the code; nothing if there is none.
+// The first row with the code; null if there is none.
 const Function* FindFunction(std::int32_t id);
 
 // Code of a name in any case, -1 if there is none.

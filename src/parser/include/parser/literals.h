@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Operands that are values: numbers with and without a unit of measure, and pi. What is none of
-// them is a variable's name or a mistake, which the compiler tells apart.
+// Operands that are values: numbers with and without a unit, and pi. Any other operand is the name
+// of a variable or an error, which the compiler decides.
 #pragma once
 
 #include <optional>
@@ -8,15 +8,15 @@
 
 namespace kelvra::parser {
 
-// A-Z and a-z only, whatever the locale.
+// A-Z and a-z only, in every locale.
 bool IsLetter(char c);
 
 // A number followed by a unit, with or without a prefix: 10mV, 5KHz, 3Kg, in SI units (0.01, 5000,
-// 3). Whatever stands before the first letter is the number; without a digit it is 0.
+// 3). Everything before the first letter is read as the number; without a digit it is 0.
 std::optional<double> ParseUnitValue(std::string_view token);
 
 // Digits with at most one ".", commas among the digits before it, an exponent with E or D; nothing
-// else. Reading stops at a comma: 1,5 is 1. A number that no double can hold is none.
+// else. Reading stops at a comma: 1,5 is 1. Nothing for a number that no double can hold.
 std::optional<double> ParseNumber(std::string_view token);
 
 // The value of an operand that is a number with a unit, pi in any case, or a number.

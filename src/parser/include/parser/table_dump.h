@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A listing of an expression table for people who look for a fault: two heading lines, the names of
-// the columns, a line for each entry, columns divided by tabs.
+// A listing of an expression table for finding errors: two heading lines, the names of the columns,
+// a line for each entry, columns separated by tabs.
 #pragma once
 
 #include <functional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Wall clock, monotonic clock and sleep. The computer's own is in platform/posix; SetClock is one
-// that moves only when it is told to, for repeatable runs and for tests.
+// Wall clock, monotonic clock and sleep. The computer's own is in platform/posix. SetClock moves
+// only when the program moves it, for repeatable runs and for tests.
 #pragma once
 
 #include <chrono>
@@ -31,7 +31,7 @@ public:
     void Sleep(Duration duration) override { Advance(duration); }
 
     void Advance(Duration duration) { elapsed_ += duration; }
-    // Does nothing for a moment that is past.
+    // Does nothing if that moment has passed.
     void AdvanceTo(Duration monotonic);
 
 private:

@@ -27,7 +27,7 @@ struct LoadedLibrary {
     std::string why;                   // the system's words when it could not be loaded
 };
 
-// The program's version as its build says.
+// The program's version, from the build.
 struct ProgramVersion {
     std::string product;
     int major = 0, minor = 0, revision = 0;
@@ -39,31 +39,31 @@ public:
 
     // Folder of the application's own files (the INI file, help), without a separator at the end.
     virtual std::string ProgramFolder() = 0;
-    // A path of the original's drive C, "C:\DebugKelvra.txt", as it is on this computer.
+    // A path on drive C, "C:\DebugKelvra.txt", as it is on this computer.
     virtual std::string DrivePath(const std::string& windowsPath) = 0;
     virtual std::string Join(const std::string& folder, const std::string& name) = 0;
-    // The words after the program's name, joined by blanks.
+    // The words after the program's name, joined by spaces.
     virtual std::string CommandLine() = 0;
     virtual ProgramVersion Version() = 0;
-    // Local time of the program file: the .EXE in the program folder, else the running program.
+    // Local time of the program file: Kelvra.EXE in the program folder, else the running program.
     virtual std::optional<LocalTime> ProgramFileDate() = 0;
 
     virtual const util::NumberForm& Numbers() = 0;
     virtual std::string DateText(const LocalTime& time) = 0;  // the locale's short form
     virtual std::string TimeText(const LocalTime& time) = 0;
 
-    // By the library's plain name ("psdrv_32"), from the driver folder, then the folder of the
-    // running program; nowhere else.
+    // By the library's plain name ("psdrv_32"). Looks in the driver folder, then in the folder of
+    // the running program, and nowhere else.
     virtual LoadedLibrary LoadDriverLibrary(const std::string& name) = 0;
 
-    // Key paths as on Windows, with "HKLM\" or "HKCU\" in front.
+    // Key paths are those of Windows and begin with "HKLM\" or "HKCU\".
     virtual std::error_code WriteRegistry(const std::string& key, const std::string& name,
                                           const std::string& value) = 0;
-    // Nothing when there is no such value, or when it can't be read.
+    // Nothing when there is no such value, or it can't be read.
     virtual std::optional<std::string> ReadRegistry(const std::string& key,
                                                     const std::string& name) = 0;
-    // The file in which Kelvra keeps the registry itself. Nothing where the system has a registry,
-    // in which the device-list library finds the values by its own means.
+    // The file in which Kelvra keeps the registry. Nothing on systems with a registry of their own,
+    // where the device-list library reads it directly.
     virtual std::optional<std::string> OwnRegistry() = 0;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The folder of Kelvra's own files, which several Kelvras may use at once. Who changes a file there
-// holds a lock meanwhile, from reading it to replacing it; who uses the folder holds another one,
-// by which others see it. A program that is killed holds nothing any more.
+// The folder of Kelvra's own files, which several Kelvras may use at once. A program that changes a
+// file there holds one lock from reading the file to replacing it. A program that uses the folder
+// holds another lock, which shows the others that it is there. Both locks end with the process.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace kelvra::platform {
 
-// Held while files of the folder are changed, by one at a time. Waits for others, but not for ever.
+// Held while files of the folder are changed, by one program at a time. Waits up to 2 s for others.
 class FolderLock {
 public:
     FolderLock(Files& files, const std::string& folder);
@@ -19,7 +19,8 @@ public:
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    // Why it is not held. A file system without locks is no error: there it protects nobody.
+    // Why the lock is not held. No error on a file system without locks, where nothing is
+    // protected.
     const std::error_code& Error() const { return error_; }
 
 private:
@@ -28,7 +29,7 @@ private:
     std::error_code error_;
 };
 
-// That this program uses the folder, from Begin on as long as the object lives.
+// Shows other programs that this one uses the folder, from Begin until the object is destroyed.
 class FolderUse {
 public:
     explicit FolderUse(Files& files) : files_(files) {}
@@ -36,10 +37,11 @@ public:
     FolderUse(const FolderUse&) = delete;
     FolderUse& operator=(const FolderUse&) = delete;
 
-    // Once; removes what killed programs have left in the folder, and looks for others.
+    // Call once. Removes what killed programs have left in the folder, and looks for other
+    // programs.
     void Begin(std::string folder);
     void LookAgain();
-    // What the last look found: another program in the folder, or a failure.
+    // Results of the last look: whether another program uses the folder, and any failure.
     bool Shared() const { return shared_; }
     const std::error_code& Error() const { return error_; }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What Kelvra asks or shows outside its own windows. Nothing here stops a measurement: a question
-// is asked and the answer comes later, or at once where nobody has to be waited for.
+// What Kelvra asks or shows outside its own windows. Nothing here stops a measurement: the answer
+// to a question comes later, or at once where there is no user to wait for.
 #pragma once
 
 #include <functional>
@@ -25,14 +25,14 @@ struct ScreenSize {
 
 class Dialogs {
 public:
-    // Nothing when the question was cancelled.
+    // Nothing when the user has cancelled the question.
     using Answer = std::function<void(std::optional<std::string> text)>;
 
     virtual ~Dialogs() = default;
 
     // Shows a message box and returns. An empty title is the program's name.
     virtual void Message(const std::string& title, const std::string& text, MessageIcon icon) = 0;
-    // The same for a program that is about to end: returns when the box has been confirmed.
+    // The same for a program that is about to end: returns when the user has confirmed the box.
     virtual void LastMessage(const std::string& text) = 0;
 
     virtual void Prompt(const std::string& text, const std::string& proposed, Answer answer) = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The event loop as the rules see it: timers, and rounds in which pending events run. A front end
-// has the loop itself; TimerList is the part that front ends without a toolkit share.
+// The event loop as the rules see it: timers, and rounds in which pending events run. The loop
+// itself belongs to the front end; TimerList is for front ends without a toolkit.
 #pragma once
 
 #include <chrono>
@@ -16,13 +16,12 @@ public:
 
     virtual ~Events() = default;
 
-    // Lets the events that are pending now run: clicks, timers, whatever. Handlers are entered
-    // again from here, so a caller reloads what it holds by slot index afterwards. With nothing
-    // pending it may wait up to `patience` for the first event.
+    // Lets pending events run: clicks, timers and so on. Handlers may be entered again from here,
+    // so afterwards the caller reloads entries by slot index. With nothing pending it may wait up
+    // to `patience` for the first event.
     virtual void DoEvents(std::chrono::milliseconds patience = {}) = 0;
 
-    // Shows what has changed, now, without letting any event run. Where nothing is drawn it does
-    // nothing.
+    // Shows all changes now, without letting any event run. Does nothing where nothing is drawn.
     virtual void Repaint() = 0;
 
     // Runs the handler every `interval` from now on, never inside itself.
@@ -30,8 +29,8 @@ public:
                                std::function<void()> handler) = 0;
     virtual void StopTimer(TimerId timer) = 0;
 
-    // Ends the event loop: no further event is delivered, the loop returns when the handlers that
-    // run have returned.
+    // Ends the event loop: no further event is delivered, and the loop returns once the running
+    // handlers have returned.
     virtual void Quit() = 0;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The few file operations that Kelvra needs, one virtual function each, so that a test can make the
-// n-th one fail, be short, or stop the program. Whole-file work is in file_tools.h.
+// n-th one fail, fall short, or stop the program. Whole-file work is in file_tools.h.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ public:
 
     enum class LockKind { Exclusive, Shared };
 
-    // A file or folder that is open; -1 is none.
+    // An open file or folder; -1 is none.
     using Handle = int;
 
     virtual ~Files() = default;
@@ -41,7 +41,7 @@ public:
     // Up to `size` bytes; 0 at the end of the file.
     virtual std::error_code Read(Handle handle, char* bytes, std::size_t size,
                                  std::size_t& read) = 0;
-    // Up to all of the bytes: may write fewer.
+    // May write fewer bytes than there are.
     virtual std::error_code Write(Handle handle, std::string_view bytes, std::size_t& written) = 0;
     virtual std::error_code Sync(Handle handle) = 0;
     virtual std::error_code Close(Handle handle) = 0;
@@ -49,22 +49,22 @@ public:
     virtual std::error_code Remove(const std::string& path) = 0;
     // The new file gets the permissions of the old one.
     virtual std::error_code CopyPermissions(const std::string& from, Handle to) = 0;
-    // Names of what is in the folder, in no order.
+    // Names of the folder's entries, in no particular order.
     virtual std::error_code List(const std::string& folder, std::vector<std::string>& names) = 0;
-    // Opens the file, made if missing, and locks it without waiting:
-    // resource_unavailable_try_again while another lock is in the way. A lock ends with Unlock, or
-    // with the process, however that ends.
+    // Opens the file, creating it if missing, and locks it without waiting:
+    // resource_unavailable_try_again when another lock excludes this one. The lock ends with Unlock
+    // or with the process.
     virtual std::error_code Lock(const std::string& path, LockKind kind, Handle& handle) = 0;
     virtual void Unlock(Handle handle) = 0;
-    // The file that a chain of links ends at; the path itself where there is no link.
+    // The file at the end of a chain of links; the path itself if it is no link.
     virtual std::string ResolveLinks(const std::string& path) = 0;
     virtual bool Exists(const std::string& path) = 0;
-    // False for a file that is there and may not be written.
+    // Whether the file is there and may be written.
     virtual bool Writable(const std::string& path) = 0;
     virtual std::error_code MakeFolders(const std::string& path) = 0;
-    // In bytes, nothing for a file that is not there.
+    // In bytes; nothing for a missing file.
     virtual std::optional<std::uint64_t> Size(const std::string& path) = 0;
-    // Local time of the last change, nothing for a file that is not there.
+    // Local time of the last change; nothing for a missing file.
     virtual std::optional<LocalTime> ModifiedAt(const std::string& path) = 0;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Everything Kelvra asks of the computer and of the person in front of it, in one place. A front
-// end supplies the interactive part (Events, Dialogs), platform/posix the rest; tests supply what
-// they want to control.
+// Everything Kelvra asks of the computer and of the user, in one place. A front end supplies the
+// interactive part (Events, Dialogs), platform/posix the rest; tests supply what they want to
+// control.
 #pragma once
 
 #include "platform/clock.h"

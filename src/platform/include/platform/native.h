@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The computer that the program was built for, behind the interfaces of this room. The one place
-// where a front end gets them.
+// The computer that the program was built for, through the interfaces of this room. Front ends get
+// them only here.
 #pragma once
 
 #include <memory>
@@ -26,23 +26,23 @@ struct ComputerOptions {
 
 std::unique_ptr<Files> NativeFiles();
 std::unique_ptr<Clock> NativeClock();
-// The error says why the data folder could not be made; the computer is there all the same.
+// The error says why the data folder could not be made; the computer is returned all the same.
 std::unique_ptr<Computer> NativeComputer(Files& files, const ComputerOptions& options,
                                          std::error_code& dataFolderError);
 
-// For a program's first step: a standard stream that it was started without becomes an empty input,
-// or an output that fails. Otherwise the first files opened would be taken for it.
+// Call first in a program. A standard stream that is closed becomes an empty input, or an output
+// that fails. Otherwise the first files opened would take its place.
 void HoldStandardStreams();
 
 // Standard input for "-". Null, with an error, for a file that can't be read.
 std::unique_ptr<LineInput> OpenLineInput(const std::string& path, std::error_code& error);
 
-// From now on a request of the system to end the program (a signal that is not ignored already) is
-// noted instead of ending it at once, and an output that nobody reads any more is an error of the
-// write, as is a file that would become larger than the user may have.
+// From here on, a request by the system to end the program (a signal that is not ignored already)
+// is noted and no longer ends it. Writing to a closed pipe, or beyond the user's file-size limit,
+// becomes an error of the write.
 void WatchForTermination();
 bool TerminationRequested();
-// Becomes readable with the first request, for event loops that sleep on descriptors.
+// Becomes readable at the first request, for event loops that sleep on descriptors.
 int TerminationDescriptor();
 
 }  // namespace kelvra::platform

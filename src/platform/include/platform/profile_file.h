@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A profile file (INI file) on disk: loaded once, saved once. A file that is missing reads as empty
-// and is no error; any other failure to read is kept, and a save after it is refused, so that a
-// file which could not be read is never overwritten. What the lines mean is ProfileText's business.
+// A profile file (INI file) on disk: loaded once, saved once. A missing file reads as empty and is
+// no error. Any other failure to read is kept, and refuses a later save: a file that could not be
+// read is never overwritten. ProfileText interprets the lines.
 #pragma once
 
 #include <string>
@@ -19,8 +19,8 @@ public:
     ProfileText& Text() { return text_; }
     const std::error_code& LoadError() const { return loadError_; }
 
-    // Replaces the file if the text has changed. A text above LargestFile, which could not be read
-    // again, is refused.
+    // Replaces the file if the text has changed. Refuses a text above LargestFile, which could not
+    // be read again.
     std::error_code Save();
 
 private:

@@ -11,8 +11,8 @@ inline bool IsLineBreak(char c) {
     return c == '\r' || c == '\n';
 }
 
-// From within a line. A loop of its own: the library's search for one of several characters is
-// several times slower.
+// From within a line. Written as a loop because the library's search for one of several characters
+// is several times slower.
 inline std::size_t EndOfLine(std::string_view text, std::size_t at) {
     while (at < text.size() && !IsLineBreak(text[at])) ++at;
     return at;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Profile strings (the text of an INI file): sections of key=value lines, edited in place with one
-// pass over the text. Lines that are not concerned keep their bytes, whatever these are. Where the
-// text comes from and goes to is ProfileFile's business.
+// pass over the text. Lines that are not edited keep their bytes. ProfileFile loads and saves the
+// text.
 //
-// The rules are those of the Windows profile functions: names without regard to ASCII case, the
-// first section and in it the first key of a name win, blanks around names and values are not part
-// of them, one pair of quotes around a value is taken off when reading, nothing is escaped when
-// writing, a value that is there already changes nothing. A line without "=" is a key without a
-// value: it counts as the key, but reads as the fallback.
+// The rules are those of the Windows profile functions. Names ignore ASCII case. The first section
+// of a name counts, and the first key in it. Spaces and tabs around names and values are not part
+// of them. Reading takes one pair of quotes off a value; writing escapes nothing, and writing a
+// value that is already there changes nothing. A line without "=" is a key without a value: it
+// counts as the key, but reads as the fallback.
 #pragma once
 
 #include <optional>
@@ -21,9 +21,9 @@ class ProfileText {
 public:
     explicit ProfileText(std::string bytes = {});
 
-    // The value as a caller's buffer of 750 characters with its NUL would hold it: 749 bytes at
-    // most. Nothing when the key is not there or has no value; or the fallback, without its
-    // trailing spaces and one pair of quotes, cut alike.
+    // At most 749 bytes of the value: what fits into a caller's buffer of 750 characters with its
+    // NUL. Find gives nothing when the key is missing or has no value. Read gives the fallback
+    // then, without its trailing spaces and one pair of quotes, cut in the same way.
     static constexpr std::size_t BufferSize = 750;
     std::optional<std::string> Find(std::string_view section, std::string_view key) const;
     std::string Read(std::string_view section, std::string_view key,
@@ -38,24 +38,25 @@ public:
     bool Changed() const { return changed_; }  // since construction
 
 private:
-    // A heading and the lines up to the next one. Only the first has no heading.
+    // A heading and the lines up to the next heading. Only the first section has no heading.
     struct Section {
-        std::size_t begin = 0;  // in the bytes that came
+        std::size_t begin = 0;  // in bytes_
         std::size_t size = 0;
-        std::size_t nameAt = 0;  // in its text, trimmed
+        std::size_t nameAt = 0;  // in the section's text, trimmed
         std::size_t nameSize = 0;
-        std::optional<std::string> edited;  // instead of those bytes
+        std::optional<std::string> edited;  // replaces those bytes
     };
 
-    // Its parts count from its beginning, which counts from that of its section.
+    // A line; its offsets count from its beginning, which is an offset in its section.
     struct Line {
         std::size_t begin = 0;
-        std::size_t valueAt = 0;  // of a key: after the "=", or without one after the name
+        std::size_t valueAt = 0;  // of a key: after the "=", or after the name if there is none
         std::size_t end = 0;      // before the line break, if it has one
         bool hasValue = false;
     };
 
-    // A key's line, or where it would be added: behind the last line of its section.
+    // A key's line, or, when not found, the last line of the section, after which it would be
+    // added.
     struct Place {
         Line line;
         bool found = false;
@@ -77,8 +78,7 @@ private:
 
     std::string bytes_;
     std::vector<Section> sections_;
-    mutable std::size_t lastFound_ =
-        0;  // a block of settings asks for the same one again and again
+    mutable std::size_t lastFound_ = 0;  // a block of settings asks for the same section many times
     bool changed_ = false;
 };
 

@@ -16,11 +16,11 @@ public:
     void Stop(Events::TimerId timer);
     void Clear() { timers_.clear(); }
 
-    // Runs each timer that is due and not running already, once, in the order in which they fell
-    // due. Ticks that were missed meanwhile are dropped.
+    // Runs each timer that is due and not already running, once, in the order of their due times.
+    // Missed ticks are dropped.
     void RunDue(Duration now);
 
-    // When the next timer falls due; nothing without timers. A running timer counts from its end.
+    // When the next timer is due; nothing without timers. A running timer counts from its end.
     std::optional<Duration> NextDue() const;
 
 private:

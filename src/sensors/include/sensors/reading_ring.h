@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The last thirty readings of one channel, or of one time slot, and their spread. Knows nothing of
-// sensors; who reads and when is the cycle's business.
+// The last thirty readings of one channel or one time slot, and their spread. Knows nothing of
+// sensors; the cycle decides who reads and when.
 #pragma once
 
 #include <array>
@@ -9,7 +9,7 @@
 
 namespace kelvra::sensors {
 
-// Of the thirty levels: in dBm, the sample standard deviation (divided by n - 1) in dB.
+// Over the thirty levels: mean in dBm, sample standard deviation (divided by n - 1) in dB.
 struct LevelStatistics {
     double max = 0;
     double min = 0;
@@ -25,20 +25,20 @@ public:
     void Add(double powerW);
     void Reset() { *this = ReadingRing(); }
 
-    // The ring itself, unused places 0; where the last reading is (-1: there is none yet); and
-    // whether writing has started over at the front.
+    // The ring (unused places are 0), the index of the last reading (-1: none yet), and whether
+    // writing has wrapped around to the front.
     std::span<const double, Length> Values() const { return values_; }
     int Index() const { return index_; }
     bool Wrapped() const { return wrapped_; }
 
-    // Thirty readings are there.
+    // The ring holds thirty readings.
     bool Full() const { return wrapped_ || index_ == Length - 1; }
 
-    // Level in dBm of the last reading's magnitude; there must be one.
+    // Level in dBm of the last reading's magnitude. Requires a reading.
     double LastLevel() const { return levels_[static_cast<std::size_t>(index_)]; }
 
-    // Both give nothing before the ring is full. The levels are kept as they come, so that a
-    // reading costs one logarithm.
+    // Nothing before the ring is full. The levels are kept as they come, so that a reading costs
+    // one logarithm.
     std::optional<double> Sigma() const;
     std::optional<LevelStatistics> Statistics() const;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One sensor position, connected, simulated or free: what belongs to the sensor that is there, and
-// what stays with the position.
+// One sensor slot, connected, simulated or free: what belongs to the sensor in it, and what stays
+// with the slot.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace kelvra::sensors {
 
-// From the appearance of a sensor until it goes: who it is and what has been measured with it.
+// What lasts from the appearance of a sensor until it goes: its identity and its measurements.
 struct SensorPresence {
     std::string resourceName{};  // driver resource descriptor; empty: the slot is free
     bool present = false;
@@ -24,7 +24,7 @@ struct SensorPresence {
     bool newTraceData = false;
     bool slotStatsActive = false;
     std::string logicalName{};
-    std::string givenName{};  // by the user; empty: the device list names it, or its slot
+    std::string givenName{};  // by the user; empty: named by the device list or the slot
     bool namedBySlot = false;
     std::string sensorId{};         // type, ";", serial number
     std::int32_t measPending = 0;   // 1: started and not yet complete
@@ -35,16 +35,16 @@ struct SensorPresence {
     std::vector<ReadingRing> slotStats{};  // one for each time slot
     std::int32_t avgCountRead = 0;
     bool settingsChanged = false;
-    std::string lastErrorText{};  // of its opening and its last transfer
-    std::string initiateError{};  // empty: the last call was good; likewise the next
+    std::string lastErrorText{};  // from its opening and its last transfer
+    std::string initiateError{};  // empty: the last such call succeeded; likewise fetchError
     std::string fetchError{};
     bool triggerNowRequest = false;
 };
 
-// The model, "PS-101": of a simulated sensor, which has no id, its resource says it.
+// The model, "PS-101". A simulated sensor has no id; its resource names the model.
 std::string_view TypeOf(const SensorPresence& sensor);
 
-// All that is wrong with the sensor, empty when nothing is; no line break at the end.
+// All errors of the sensor, empty if there are none; no line break at the end.
 std::string ErrorOf(const SensorPresence& sensor);
 
 struct SensorEntry : SensorPresence {
@@ -52,8 +52,8 @@ struct SensorEntry : SensorPresence {
     std::int16_t slotTriggerCursor = 0;           // how many the display shows
     std::int16_t traceTriggerCursor = 0;
 
-    // Nothing is left of the presence before, except for how many time slots there are: they are
-    // counted by the settings, and start anew.
+    // Replaces the former presence. Only the number of time slots stays, which the settings
+    // determine; their statistics start anew.
     void Begin(SensorPresence presence);
 };
 

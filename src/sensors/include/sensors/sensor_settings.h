@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a user can set on one sensor. Times in s, frequencies in Hz, levels in dBm, differences in
-// dB. Defaults, file keys and order are in settings_fields.h; here is the plain record.
+// dB. Defaults, file keys and order are in settings_fields.h; this is the plain record.
 #pragma once
 
 #include <cstdint>
@@ -33,7 +33,7 @@ struct SensorSettings {
     bool TSlotTable{};
     double TSlotExclStart{};
     double TSlotExclStop{};
-    std::int16_t TSlotExclDispInSlot{};  // slot, counted from 0, in which the exclusion is drawn
+    std::int16_t TSlotExclDispInSlot{};  // slot, from 0, in which the exclusion is drawn
     std::int16_t ScopePoints{};
     double ScopeTime{};
     double ScopeOffset{};

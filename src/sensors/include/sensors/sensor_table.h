@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table of sensor positions that the whole application shares, and what belongs to a position
-// beside its entry: display limits and the latest readings. Channel = slot index + 1.
+// The table of sensor slots that the whole application shares, and what belongs to a slot besides
+// its entry: display limits and the latest readings. Channel = slot index + 1.
 #pragma once
 
 #include <array>
@@ -44,19 +44,19 @@ struct SensorTable {
         return entries[static_cast<std::size_t>(slot)];
     }
 
-    // The sensors that are there, in the order of their slots.
+    // The connected or simulated sensors, in the order of their slots.
     std::vector<SensorEntry*> Present();
 
-    // The table with that many slots (1 .. 32767): what is kept stays, new elements are set up. A
-    // locked table is not resized; trying to is an error of the caller, which a debug build stops
-    // at.
+    // Resizes the table to that many slots (1 .. 32767): existing elements are kept, new ones are
+    // set up. Does nothing while the table is locked; that is an error of the caller, and a debug
+    // build stops.
     void Resize(int slots);
     void ResizeScaling(int elements);
 
-    // Everything that belongs to the two slots changes places; CurrentSensor follows its sensor.
+    // Exchanges everything that belongs to the two slots; CurrentSensor follows its sensor.
     void SwapSlots(int a, int b);
 
-    // Whether the user has switched this sensor off in this run; a simulated one goes by its
+    // Whether the user has switched this sensor off in this run. A simulated sensor is known by its
     // resource.
     bool SwitchedOff(const SensorEntry& entry) const;
     void RememberSwitch(const SensorEntry& entry);
@@ -80,15 +80,15 @@ private:
     SensorTable& table_;
 };
 
-// Makes the working arrays of the slot ready for its mode: time slot statistics (time slot mode),
-// the ring of readings (continuous average, burst); the other modes have none.
+// Prepares the slot's working arrays for its mode: time slot statistics (time slot mode), the ring
+// of readings (continuous average, burst). The other modes have none.
 void PrepareWorkArrays(SensorTable& table, int slot);
 
-// The slot's mode has become another one: results of the former mode go, and the working arrays are
-// made ready.
+// Call after the slot's mode has changed: drops the results of the former mode and prepares the
+// working arrays.
 void ChangeMode(SensorTable& table, int slot);
 
-// The slot gives its sensor up and is free.
+// Frees the slot.
 void ReleaseSlot(SensorEntry& entry);
 
 }  // namespace kelvra::sensors

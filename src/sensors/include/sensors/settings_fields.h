@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The one list of settings fields: name, where a file keeps it, type, default. Reset, load, save
-// and dump all loop over it; a new setting is a line here and a member of SensorSettings.
+// and dump all loop over it. A new setting is a line here and a member of SensorSettings.
 #pragma once
 
 #include <span>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The calculation grid: two formulas of the user over the latest readings, computed once a pass.
-// Cells below the heading are editable: a front end lets them be typed into, or clicks, which asks
-// for the new text. The formula language itself is parser/.
+// The calculation grid: two of the user's formulas over the latest readings, computed once a pass.
+// Cells below the heading are editable: a front end lets the user type into them, or sends clicks,
+// which ask for the new text. The formula language itself is in parser/.
 #pragma once
 
 #include <memory>
@@ -24,15 +24,15 @@ public:
     void LayOut();
 
     // Writes the result of both rows: the value as "0.000" (0.000 for a formula that fails), or
-    // "---" when a variable names no sensor with a scalar reading. A row without a name is left
-    // alone. The result cell's tooltip says what is wrong.
+    // "---" when a variable names no sensor with a scalar reading. Skips a row without a name. The
+    // result cell's tooltip has the error.
     void Compute();
     void PassMeasured() override { Compute(); }
 
 private:
     static constexpr int FormulaRows = 2;
 
-    // A row's evaluator, made when the row is computed first, and the formula that is in it.
+    // A row's evaluator, created when the row is first computed, and the formula it holds.
     struct Evaluator {
         std::unique_ptr<parser::MathParser> parser;
         std::string formula;
@@ -40,7 +40,8 @@ private:
 
     void ComputeRow(int row);
     parser::MathParser& EvaluatorOf(int row);
-    // Name of the first variable that has no reading, empty if all have one; binds the others.
+    // Binds the variables to the readings. The name of the first variable without a reading; empty
+    // if all have one.
     std::string BindReadings(parser::MathParser& parser);
     void AskText(int row, int column);
     void SetText(int row, int column, std::string_view text);
@@ -51,9 +52,9 @@ private:
     Evaluator evaluators_[FormulaRows];
 };
 
-// What a variable's name means: "X2W" is the second slot in W, "X1dB" the first one in dBm.
+// What a variable's name refers to: "X2W" is the second slot in W, "X1dB" the first in dBm.
 struct ReadingName {
-    int slot = -1;  // -1: the name has neither form
+    int slot = -1;  // -1: the name has neither of these forms
     bool inDbm = false;
 };
 ReadingName ParseReadingName(std::string_view name);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How many sensors are connected.
+// Shows how many sensors are connected.
 #pragma once
 
 #include "forms/main_window.h"
 
 namespace kelvra::ui {
 
-// 0 is the simulation.
+// 0 means the simulation.
 void ShowConnected(forms::MDIMain& window, int sensors);
 
 }  // namespace kelvra::ui

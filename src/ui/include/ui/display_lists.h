@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sensor lists of the two displays: the sensors that measure in trace mode, and those in time
-// slot mode. The first one is selected.
+// slot mode. The first one becomes selected.
 #pragma once
 
 #include "forms/forms.h"

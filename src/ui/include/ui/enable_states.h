@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which controls of the main window and the setup dialog can be used: one function that finds it
-// from what there is, and one writer. Nothing else enables or disables these controls.
+// Which controls of the main window and the setup dialog can be used: one function that determines
+// it from the state, and one writer. Nothing else enables or disables these controls.
 #pragma once
 
 #include "driver/catalogue.h"
@@ -14,14 +14,14 @@ enum class Activity {
     Idle,
     Opening,    // Start opens the sensors and sends their settings
     Measuring,  // passes run
-    Held,       // Start has failed; Stop leaves this
+    Held,       // Start has failed; Stop ends this
     Command,    // zeroing, a self test, or a look at the information entries runs
 };
 
 struct Situation {
     Activity activity = Activity::Idle;
     bool simulation = false;
-    // Of the current sensor.
+    // The current sensor's.
     driver::Capabilities model = driver::Capabilities::Unknown;
     sensors::SensorSettings settings;
 };
@@ -30,9 +30,9 @@ struct EnableStates {
     bool start = false;
     bool stop = false;
     bool commands = false;   // zero, zero all, self test, information: frame and pictures
-    bool averaging = false;  // what belongs to averaging, its switch excepted
+    bool averaging = false;  // the averaging controls, except for the switch
     bool averagingSlot = false;
-    bool traceAveraging = false;  // the same of the trace mode
+    bool traceAveraging = false;  // the same for the trace mode
     bool dutyCycle = false;
     bool triggerPage = false;
     bool advancedPage = false;

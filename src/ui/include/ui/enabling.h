@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Keeps the enable states of the main window and the setup dialog: finds them anew when something
-// has happened that they depend on.
+// Keeps the enable states of the main window and the setup dialog: determines them again when
+// something they depend on has changed.
 #pragma once
 
 #include "forms/forms.h"
@@ -15,7 +15,8 @@ class Enabling final : public measure::MeasurementListener, public CurrentSensor
 public:
     Enabling(forms::Forms& forms, const sensors::SensorTable& table, SensorSelection& selection);
 
-    // After the settings of the current sensor have changed, or the simulation has begun or ended.
+    // Call after the settings of the current sensor have changed, or the simulation has begun or
+    // ended.
     void Refresh();
 
     void Started() override { Enter(Activity::Opening); }

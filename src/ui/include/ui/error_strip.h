@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The errors of sensors: in the setup dialog's strip and in the main window's notice. An error
-// belongs to its sensor; shown is that of the lowest slot that has one. Failed openings, which
-// nothing can go on from, are shown in a message box.
+// Shows the errors of sensors in the setup dialog's strip and in the main window's notice. An error
+// belongs to its sensor; the error of the lowest slot that has one is shown. Openings that fail end
+// the start, and are shown in a message box.
 #pragma once
 
 #include <string>
@@ -27,7 +27,7 @@ public:
 
     void Started() override { Refresh(); }  // sensors have changed places
 
-    // After sensors have come or gone.
+    // Call after sensors have come or gone.
     void Refresh();
 
     bool ErrorShown() const { return errorShown_; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rules of the main window's frame: where the child windows stand, which are visible, the menu
-// entries that show windows, and the colours.
+// The rules of the main window's frame: the places of the child windows, which are visible, the
+// menu entries that show windows, and the colours.
 #pragma once
 
 #include "forms/forms.h"
@@ -16,11 +16,11 @@ public:
     MainWindow(forms::Forms& forms, measure::MeasureState& state, platform::Host& host);
 
     void ApplyColourScheme();
-    // Where the windows stand at start-up; the displays are hidden.
+    // Gives the windows their places at start-up; the displays are hidden.
     void PlaceWindows();
 
-    // Shows or hides the displays and gives them their places: the displays share the height beside
-    // the result table, the slot table stands below it. A place without room is not applied.
+    // Shows or hides the displays and arranges the windows: the displays share the height beside
+    // the result table, and the slot table is below it. A place without room is not applied.
     void ArrangeWindows();
     void ModesChanged() override { ArrangeWindows(); }
 
@@ -35,7 +35,7 @@ private:
     platform::Host& host_;
 };
 
-// Makes the window stay above others, or not, where it is.
+// Keeps the window above others, or not; it stays in its place.
 void AlwaysOnTop(controls::Window& window, bool onTop);
 
 }  // namespace kelvra::ui

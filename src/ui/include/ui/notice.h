@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window's notice: one line in a frame that is visible while there is something to say. It
-// has three ranks, and the highest that has a text is shown: a sensor's error, trouble with files,
-// and what the measurement waits for or has met. Hiding one shows the next.
+// The main window's notice: one line in a frame that is visible while there is a text to show.
+// There are three ranks; the text of the highest rank is shown: a sensor's error, trouble with
+// files, and what the measurement waits for or has met. Hiding one shows the next.
 #pragma once
 
 #include <array>
@@ -19,11 +19,11 @@ public:
     Notice(forms::MDIMain& window, const sensors::SensorTable& table)
         : window_(window), table_(table) {}
 
-    // A sensor's error; an empty text ends it.
+    // A sensor's error; an empty text removes it.
     void ShowError(std::string text) { Set(Rank::Error, std::move(text)); }
 
-    // Trouble with a file, until the same file could be read or written. With trouble with several
-    // files the first of them is shown.
+    // Trouble with a file, shown until that file could be read or written. Of several files, the
+    // first by path is shown.
     void ShowFileTrouble(const std::string& path, std::string text);
     void EndFileTrouble(const std::string& path);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The File menu's entry for recording: offered from the first pass on.
+// The File menu's entry for recording, available from the first pass on.
 #pragma once
 
 #include "forms/main_window.h"

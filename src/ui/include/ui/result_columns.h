@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where things are in the result table: row 0 is the heading, then one row for each slot.
+// The layout of the result table: row 0 is the heading, followed by one row for each slot.
 #pragma once
 
 namespace kelvra::ui {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The result table: one row for each slot with the sensor's name and its latest results. A click on
-// the name switches the sensor on or off, for the next Start; a press selects it. The status column
-// is elsewhere (status_marks.h).
+// the name switches the sensor on or off, for the next Start; a press makes it the current sensor.
+// status_marks.h writes the status column.
 #pragma once
 
 #include "forms/status_form.h"
@@ -20,18 +20,19 @@ public:
     // Heading, column widths, and a numbered row for each slot.
     void LayOut();
 
-    // The name cell of a slot: name on green when enabled, on grey when not, empty when absent.
+    // The name cell of a slot: green if the sensor is enabled, grey if not, empty if there is none.
     void PaintName(int slot);
-    // Name cell, and the value cells of an absent sensor emptied; row of the spare element too.
+    // The name cell, and empty value cells if the sensor is absent. Also for the spare element's
+    // row.
     void PaintPresence(int slot);
-    // The value cells are emptied and keep their colour.
+    // Empties the value cells; they keep their colour.
     void ClearValues(int slot);
 
     void Started() override;
     void SwitchedOff(int slot) override { PaintName(slot); }
     void SlotStarted(int /*slot*/) override {}
     void SlotComplete(int /*slot*/) override {}
-    // Scalar results are on white, where array results come in the cells are grey.
+    // Cells for scalar results are white; they are grey where arrays arrive.
     void ReadingArrived(int slot) override;
     void ArrayArrived(int slot) override { MarkValues(slot, controls::Grey); }
 
@@ -40,7 +41,7 @@ private:
     void PressCell(int row, int column);
     void ClickCell(int row, int column);
     bool IsName(int row, int column) const;
-    // Switches a present sensor on or off.
+    // Switches the slot's sensor on or off, if there is one.
     void ToggleEnabled(int slot);
 
     controls::Grid& grid_;

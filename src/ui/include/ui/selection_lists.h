@@ -13,8 +13,8 @@ class SelectionLists final : public measure::MeasurementListener, public Current
 public:
     SelectionLists(forms::Forms& forms, sensors::SensorTable& table, SensorSelection& selection);
 
-    // After the table has changed. Raises no event of the lists. A current sensor that is not
-    // listed leaves no entry selected.
+    // Call after the table has changed. Raises no event of the lists. If the current sensor is not
+    // listed, no entry is selected.
     void Refresh();
 
     void Started() override { Refresh(); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The modes that the setup dialog offers for a sensor's model; what it enables is in
+// The modes that the setup dialog offers for a sensor's model. What they enable is in
 // enable_states.h.
 #pragma once
 
@@ -8,8 +8,8 @@
 
 namespace kelvra::ui {
 
-// Fills the mode list for the model and selects the sensor's mode (or leaves the selection when the
-// list doesn't have it). An unknown model leaves the list as it is.
+// Fills the mode list for the model and selects the sensor's mode; if the list doesn't have it, the
+// selection stays. An unknown model leaves the list as it is.
 void ApplySensorCapabilities(forms::SetupForm& dialog, const sensors::SensorEntry& entry);
 
 }  // namespace kelvra::ui

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What sensors are called: the name that the user has given in the setup dialog, else that of the
-// device list, else the channel number. The user's name is kept where the device-list library finds
-// it again; where Kelvra itself keeps that place, it is read from there.
+// The names of sensors: the name that the user has given in the setup dialog, else the device
+// list's name, else the channel number. The user's name is stored in the registry, where the
+// device-list library finds it. If Kelvra keeps the registry itself, it reads the name there.
 #pragma once
 
 #include <string>
@@ -32,17 +32,18 @@ public:
     explicit SensorName(const Parts& parts);
 
     void CurrentSensorChanged() override;
-    // Sensors have changed places: those that are named by their slots get other names.
+    // Sensors have changed places: those named by their slots get new names.
     void Started() override;
 
-    // A sensor has appeared in the slot: looks for the user's name.
+    // Call when a sensor has appeared in the slot: reads the user's name for it.
     void FindGivenName(int slot);
-    // Names the slot's sensor, which the device list calls so; true when it had another name.
+    // Names the slot's sensor; `listed` is its name in the device list. True if it had another
+    // name.
     bool Name(int slot, const std::string& listed);
 
-    // Takes the name box's text for the slot; one without a visible character becomes the channel
-    // number. A slot without a sensor has no name; a simulated sensor's is not stored. A name that
-    // can't be stored is the sensor's name as long as it is plugged in.
+    // Takes the name box's text for the slot. A text without a visible character becomes the
+    // channel number. A slot without a sensor gets no name, and a simulated sensor's name is not
+    // stored. A name that can't be stored lasts as long as the sensor is plugged in.
     void StoreLogicalName(int slot);
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Which sensor is the current one: the sensor that the setup dialog shows and that the File menu
-// loads and saves. Whoever shows something of it listens here.
+// loads and saves. Code that shows it listens here.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ class CurrentSensorListener {
 public:
     virtual ~CurrentSensorListener() = default;
 
-    // Another sensor is the current one, or it has another slot or name than before.
+    // Another sensor has become the current one, or its slot or name has changed.
     virtual void CurrentSensorChanged() = 0;
 };
 
@@ -24,15 +24,15 @@ public:
 
     util::Listeners<CurrentSensorListener> listeners;
 
-    // Makes a present sensor the current one, also one that is switched off.
+    // Makes a present sensor the current one, even if it is switched off.
     void Select(int slot);
 
-    // After the table has changed. The current sensor stays the current one as long as it is
-    // present, in every slot; after that the first one that is switched on is, if there is any.
+    // Call after the table has changed. The current sensor remains the current one while it is
+    // present, even in another slot. After that it is the first sensor that is switched on, if any.
     void Refresh();
 
 private:
-    // As the listeners know it.
+    // The current sensor, as last reported to the listeners.
     struct Known {
         int slot = -1;
         std::string sensor;

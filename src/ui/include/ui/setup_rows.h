@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The fields of the setup dialog: one table, a row for each, with the setting that it edits and the
-// unit in which it shows it. Showing loops over it; who adds a setting adds a row.
+// The fields of the setup dialog: one table with a row for each field, its setting and the unit in
+// which it is shown. Showing loops over the table; a new setting needs a new row.
 #pragma once
 
 #include <span>
@@ -17,20 +17,20 @@ using SetupField =
                  controls::ListField forms::SetupForm::*,
                  controls::OptionField forms::SetupForm::*>;
 
-// So many shown units are so many stored ones.
+// How many shown units make how many stored ones.
 struct SetupUnit {
     double shown = 1;
     double stored = 1;
 };
 
-// How a field shows its setting where there is more to it than number, mark, or index.
+// How a field shows its setting if not simply as a number, a mark, or an index.
 enum class SetupRule {
     Plain,
     ItemData,       // a list selects the entry with that item data
-    NearestEntry,   // an index beyond the list selects its end
+    NearestEntry,   // an index beyond the list selects its last entry
     TrueIsFirst,    // of a pair of options
-    AlwaysChecked,  // whatever is stored
-    Thousandths,    // no more than three decimals
+    AlwaysChecked,  // ignores the setting
+    Thousandths,    // at most three decimals
 };
 
 struct SetupRow {
@@ -43,8 +43,8 @@ struct SetupRow {
 // In the order of the pages.
 std::span<const SetupRow> SetupRows();
 
-// Fills all fields from one sensor's settings. The entries of ShowExclInTSlot are those of the slot
-// count that was shown so far; another count refills them by its own change.
+// Fills all fields from one sensor's settings. ShowExclInTSlot has the entries for the slot count
+// that was shown so far; showing another count refills it.
 void ShowSettings(forms::SetupForm& form, const sensors::SensorSettings& settings);
 
 // The same for the scales of the two displays.

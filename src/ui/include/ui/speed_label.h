@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The speed figure (passes in a second, pauses between them excepted) and the busy picture. The
-// picture moves on about once a second as long as a measurement goes on.
+// The speed figure (passes per second, not counting pauses between them) and the busy picture,
+// which moves about once a second during a measurement.
 #pragma once
 
 #include <cstdint>

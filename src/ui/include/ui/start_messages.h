@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Says why a measurement could not start.
+// Tells the user why a measurement could not start.
 #pragma once
 
 #include "measure/listener.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The result table's status column: the bar that moves on with every pass, and "CONF" while a
-// sensor gets its settings.
+// The result table's status column: the bar that grows with every pass, and "CONF" while a sensor
+// gets its settings.
 #pragma once
 
 #include <string_view>
@@ -19,7 +19,7 @@ public:
                 platform::Events& events)
         : grid_(form.ResultGrid), table_(table), events_(events) {}
 
-    // The bar has a point at its end while the sensor is waited for.
+    // The bar ends with a point while the sensor is waited for.
     void SlotStarted(int slot) override { ShowActivity(slot, true); }
     void SlotComplete(int slot) override { ShowActivity(slot, false); }
     void ReadingArrived(int /*slot*/) override {}

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A number together with the pattern in which it is written. Readings come far faster than anyone
-// reads them, so their texts are made when somebody looks.
+// reads them, so the text is made only when it is asked for.
 #pragma once
 
 #include <cstdint>

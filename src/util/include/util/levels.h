@@ -7,10 +7,10 @@
 namespace kelvra::util {
 
 // Level in dBm of a power in W: 10 * ln(P) / ln(10) + 30. A power of 0 or below counts as 1e-100 W,
-// so it reads -970 dBm; what is not a number stays so.
+// so it reads -970 dBm; NaN stays NaN.
 double WToDbm(double powerW);
 
-// Every element, a power in W of either sign, becomes the level in dBm of its magnitude.
+// Replaces each element, a power in W of either sign, by the level in dBm of its magnitude.
 void ArrayW2dBm(std::span<double> values);
 
 // Power in W of a level in dBm: 10 ^ (L / 10 - 3).

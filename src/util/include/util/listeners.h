@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Those who want to hear of something, as an interface that each of them implements. They are added
-// while the program is wired and outlive the news.
+// Listeners of one kind, as an interface that each of them implements. They are added while the
+// program is wired and must outlive this list.
 #pragma once
 
 #include <vector>

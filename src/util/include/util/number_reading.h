@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Numbers out of texts that people and files supply, without regard to the locale, and the
-// rounding that brings them into whole-number fields. Never fails: there is always a number.
+// Reads numbers from the texts of users and files, independently of the locale, and rounds them for
+// whole-number fields. Text without a number reads as 0.
 #pragma once
 
 #include <cstdint>
@@ -9,23 +9,23 @@
 
 namespace kelvra::util {
 
-// The longest number at the start of the text: blanks skipped, sign, digits, "." and fraction,
-// exponent ("E" or "e"); the rest is ignored, no number at all is 0. A magnitude above the range of
-// double is infinite, one below it 0.
+// The longest number at the start of the text: leading spaces skipped, then sign, digits, "." and
+// fraction, exponent ("E" or "e"). The rest is ignored; no number reads as 0. A magnitude above the
+// range of double is infinite, one below it is 0.
 double ReadNumber(std::string_view text);
 
-// The same, and how many characters at the start of the text were the number (0: there was none).
+// The same, with how many characters at the start of the text were the number (0: none).
 struct NumberRead {
     double value = 0;
     std::size_t length = 0;
 };
 NumberRead ReadNumberAt(std::string_view text);
 
-// A whole number alone in the text (sign, digits), nothing if there is anything else in it or it
-// leaves the range.
+// A whole number (sign, digits) that is all of the text; nothing for anything else, or out of
+// range.
 std::optional<std::int64_t> ReadWholeNumber(std::string_view text);
 
-// The nearest whole number, halves to the even neighbour; nothing outside the range (or for NaN).
+// The nearest whole number, halves to the even neighbour; nothing out of range or for NaN.
 std::optional<std::int16_t> RoundToInt16(double value);
 std::optional<std::int32_t> RoundToInt32(double value);
 

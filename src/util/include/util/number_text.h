@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Numbers as texts. Three families: the locale-independent text of files, logs and formula
-// positions; the fixed patterns of grid cells; and the locale's own general form. All stand on
+// Numbers as text. Three families: the locale-independent text of files, logs and formula
+// positions; the fixed patterns of grid cells; and the locale's general form. All use
 // std::to_chars; none allocates more than its result.
 #pragma once
 
@@ -15,24 +15,25 @@ struct NumberForm {
     std::string grouping;  // between thousands; empty where the locale has none
 };
 
-// Up to 15 significant digits with a period, a blank before what is not negative, no zero before
+// Up to 15 significant digits with a period, a space before anything not negative, no zero before
 // the point (" .1"), "E" form below 1E-04 and from 1E+15 on (" 1E-05"). " NaN", " Inf" and "-Inf"
-// for what is not finite.
+// for values that are not finite.
 std::string NumberText(double value);
 std::string NumberText(std::int64_t value);
 
-// The same without the leading blank.
+// The same without the leading space.
 std::string TrimmedNumberText(double value);
 std::string TrimmedNumberText(std::int64_t value);
 
-// Like TrimmedNumberText, with as many digits (up to 17) as it takes to read the same double back.
+// Like TrimmedNumberText, with as many digits (up to 17) as are needed to read the same double
+// back.
 std::string ExactNumberText(double value);
 
-// Shortest decimal that reads back the same, as JSON has it: "0.1", "-30", "1e-100".
+// The shortest decimal that reads back the same, as in JSON: "0.1", "-30", "1e-100".
 std::string ShortestNumberText(double value);
 
-// Pattern "0.000" (any number of decimals, 0 to 15): fixed point, a zero before the point, halves
-// as the exact value has them. What rounds to zero has no sign.
+// Pattern "0.000" (0 to 15 decimals): fixed point, a zero before the point, rounded by the exact
+// binary value. A value that rounds to zero has no sign.
 std::string FixedText(double value, int decimals, const NumberForm& form);
 
 // Pattern "0.0000E+00": one digit, four decimals, signed exponent of at least two digits.

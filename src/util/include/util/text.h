@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Small operations on texts. A text is bytes: mostly UTF-8, but whatever a file or a driver sent
-// is kept as it came. Letters are told apart in ASCII alone, whatever the locale.
+// Small operations on text. Text is bytes: mostly UTF-8, but bytes from a file or a driver are kept
+// as they came. Only ASCII letters have upper and lower case, in every locale.
 #pragma once
 
 #include <cstdint>
@@ -9,10 +9,10 @@
 
 namespace kelvra::util {
 
-// Without blanks (spaces alone) at both ends.
+// Without the spaces at both ends.
 std::string_view TrimSpaces(std::string_view text);
 
-// Without spaces and tabs at both ends, as the rules of profile strings have it.
+// Without the spaces and tabs at both ends, as profile strings are trimmed.
 std::string_view TrimBlanks(std::string_view text);
 
 // Surrounding spaces removed, then every CR and LF at both ends.
@@ -25,7 +25,7 @@ std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 bool EqualNoCase(std::string_view a, std::string_view b);
 
-// Up to the first occurrence of the separator, and what follows it (nothing without one).
+// The text up to the first separator, and what follows it (nothing if there is no separator).
 struct SplitText {
     std::string_view before;
     std::string_view after;
@@ -33,14 +33,14 @@ struct SplitText {
 };
 SplitText SplitAtFirst(std::string_view text, char separator);
 
-// A buffer that a library has filled: up to its first NUL, or without one up to its trailing
-// blanks.
+// The text in a buffer that a library has filled: up to the first NUL, or without its trailing
+// spaces if there is no NUL.
 std::string TextOfBuffer(std::string_view buffer);
 
-// Valid UTF-8 for people to read: each byte that belongs to no valid sequence becomes U+FFFD.
+// Valid UTF-8 for display: each byte that belongs to no valid sequence becomes U+FFFD.
 std::string ShownText(std::string_view bytes);
 
-// Bytes as upper-case hexadecimal digits of a 32-bit word, without leading zeros: 255 -> "FF".
+// The value in upper-case hexadecimal digits, without leading zeros: 255 -> "FF".
 std::string HexText(std::uint32_t value);
 
 }  // namespace kelvra::util
