@@ -24,10 +24,7 @@ void TextBoxAdapter::Update() {
 
 CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)
     : box_(box), widget_(widget) {
-    QObject::connect(&widget_, &QCheckBox::clicked, [this] {
-        box_.Toggle();
-        Update();  // the mark is the record's, whatever the widget has ticked by itself
-    });
+    QObject::connect(&widget_, &QCheckBox::clicked, [this] { box_.Toggle(); });
 }
 
 void CheckBoxAdapter::Update() {
