@@ -19,7 +19,7 @@ QSize SizeOf(const controls::Geometry& place) {
     return {Pixels(place.width), Pixels(place.height)};
 }
 
-// The record hears of sizes that a person has given, not of those that it gave itself.
+// The record hears of sizes that the user has given, not of those that it gave itself.
 void ReportSize(controls::Window& window, const QResizeEvent& event) {
     if (SizeOf(window.place.Get()) != event.size() && event.oldSize().isValid())
         window.PersonResizes(Twips(event.size().width()), Twips(event.size().height()));
@@ -45,7 +45,7 @@ void FrameWindowAdapter::Update() {
     const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
     const controls::Geometry& place = window_.place.Get();
-    // A size that a person has given comes back as the record's, with the corner that it knows.
+    // A size that the user has given comes back as the record's, with the corner that it knows.
     if (!SameCorner(shown_, place))
         widget_.setGeometry(OnScreen(place));
     else if (shown_ != place && widget_.size() != SizeOf(place))

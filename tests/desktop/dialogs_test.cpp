@@ -48,10 +48,10 @@ private slots:
     void MessagesWaitForTheWindowAndForEachOther() {
         QtDialogs dialogs;
         QWidget window;
-        for (const char* text : {"one", "two"})
-            dialogs.Message("", text, platform::MessageIcon::Information);
+        dialogs.Message("", "one", platform::MessageIcon::Information);
         window.show();
         dialogs.SetParent(window);
+        dialogs.Message("", "two", platform::MessageIcon::Information);
         for (const char* text : {"one", "two"}) {
             const auto shown = Visible<QMessageBox>(window);
             QCOMPARE(shown.size(), 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table that shows a grid, and what a person does to it: presses and clicks cells with the
+// The table that shows a grid, and what the user does to it: presses and clicks cells with the
 // mouse, or with Enter and Space on the keyboard; where the grid lets cells be edited, these begin
 // to edit, as F2 and typing do. Ctrl+C copies the selected cells, Ctrl and the wheel enlarge the
 // font. Its rows are those below the grid's heading, row 0.
@@ -22,7 +22,7 @@ public:
     qreal Scale() const;            // to the normal size
     std::function<void()> onFit;    // gives columns and rows the room that the font needs
     std::function<void()> onNeed;   // the table needs other room than before
-    std::function<void()> onWheel;  // by a person's wheel
+    std::function<void()> onWheel;  // by the user's wheel
 
     // The most that a column takes: some characters, so that every column of a table without a
     // scroll bar stays in sight; as much as it wants in others.
