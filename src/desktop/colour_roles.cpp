@@ -53,7 +53,7 @@ void UpdateColours(QWidget& widget, const controls::Control& control) {
     if (roles.back == QPalette::NoRole) return;
     const auto& back = control.back.Get();
     const auto& fore = control.fore.Get();
-    QPalette own;  // the palette around the widget, for a widget without a colour
+    QPalette own;  // colours that are not set come from the palette around the widget
     own.setResolveMask(0);
     if (back) {
         const QColor colour = ToolkitColour(*back);

@@ -16,7 +16,7 @@ public:
     Waiting(const measure::MeasureState& state, platform::Clock& clock)
         : state_(state), clock_(clock) {}
 
-    // An error when no measurement is running. There is no time limit without one.
+    // An error when no measurement is running. Without a limit it waits as long as it takes.
     std::optional<std::string> ForPasses(std::int64_t passes,
                                          std::optional<platform::Duration> limit);
     void ForTime(platform::Duration time);
