@@ -24,6 +24,7 @@ void Discovery::Search() {
 }
 
 void Discovery::Tick() {
+    p_.store.LookForOthers();
     changed_ = vanished_ = false;
     p_.catalogue.BuildDeviceList(p_.table);
     SaveWhatHasGone();

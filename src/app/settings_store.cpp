@@ -103,15 +103,17 @@ bool SettingsStore::HasUnsaved() const {
 std::string SettingsStore::WriteUnsaved() {
     LookForOthers();
     if (const auto error = Write()) return Complaint("saved", error.message());
+    std::string complaint;
     for (auto& [sensorId, kept] : kept_) {
         if (!kept.unsaved) continue;
-        if (!kept.read)
-            return Complaint("saved", "those of " + sensorId +
-                                          " in the file could not be read before, and would be "
-                                          "lost");
-        kept.inFile = *std::exchange(kept.unsaved, {});
+        if (kept.read)
+            kept.inFile = *std::exchange(kept.unsaved, {});
+        else
+            complaint = Complaint("saved", "those of " + sensorId +
+                                               " in the file could not be read before, and would "
+                                               "be lost");
     }
-    return {};
+    return complaint;
 }
 
 std::error_code SettingsStore::Write() {

@@ -57,6 +57,7 @@ void Kelvra::StartDebugLog() {
         windows.notice.ShowFileTrouble(path,
                                        "The debug log can't be written: " + path + ": " + reason);
     };
+    log.onRecovery = [this](const std::string& path) { windows.notice.EndFileTrouble(path); };
     const std::string commandLine = util::UpperCase(host.computer.CommandLine());
     log.enabled = commandLine.find("DEBUG") != std::string::npos;
     log.path = host.computer.DrivePath(DebugFile);

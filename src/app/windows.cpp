@@ -17,10 +17,10 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       speed(forms.mdiMain, host),
       enabling(forms, table, selection),
       recordMenu(forms.mdiMain),
-      displayLists(forms, table),
+      displayLists(forms, table, selection),
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
-      sensorName({forms.setupForm, table, host.computer, results, selection, lists, notice}) {
+      sensorName({forms.setupForm, table, host.computer, results, selection, notice}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
 }

@@ -62,7 +62,8 @@ void QtDialogs::Open(QDialog& dialog, std::function<void(bool accepted)> finishe
     QObject::connect(&dialog, &QDialog::finished, [finished = std::move(finished)](int result) {
         finished(result == QDialog::Accepted);
     });
-    dialog.open();
+    dialog.setModal(false);  // Stop stays within reach
+    dialog.show();
 }
 
 void QtDialogs::Message(const std::string& title, const std::string& text,

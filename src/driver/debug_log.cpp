@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "driver/debug_log.h"
 
+#include <utility>
+
 #include "platform/file_tools.h"
 #include "util/text.h"
 
@@ -9,9 +11,9 @@ namespace kelvra::driver {
 void DebugLog::Write(std::string_view text) {
     if (!enabled) return;
     const std::error_code error = platform::AppendToFile(files_, path, Line(text));
-    if (!error || failed_) return;
-    failed_ = true;
-    if (onFailure) onFailure(path, error.message());
+    if (std::exchange(failed_, static_cast<bool>(error)) == failed_) return;
+    if (failed_ && onFailure) onFailure(path, error.message());
+    if (!failed_ && onRecovery) onRecovery(path);
 }
 
 std::string DebugLog::Line(std::string_view text) {

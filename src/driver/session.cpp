@@ -26,6 +26,7 @@ void Session::OpenSensor(int slot) {
     if (table_.simulationMode) {
         entry.sessionOpen = true;
         entry.waitTicks = 0;
+        state.sessionClosed = false;
         return;
     }
     entry.sessionOpen = false;

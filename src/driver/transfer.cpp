@@ -215,9 +215,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
         sensors::SensorEntry& entry = table_[slot];
         entry.lastErrorText.clear();
         entry.settingsChanged = false;  // an edit during the transfer sets it again
-        session_.log.header = LogHeader(session_.state.instrumentHandle, slot);
         const bool complete = Send(slot);
-        session_.log.header.clear();
         if (complete)
             ReportOutcome(slot);
         else
@@ -229,7 +227,7 @@ void ConfigurationTransfer::ConfigureSensor(int slot) {
 
 // The sensor's type decides which settings it takes, not the name that the user has given it.
 bool ConfigurationTransfer::Send(int slot) {
-    SettingsSender send(session_, slot, pace_);
+    SettingsSender send(session_, slot, LogHeader(session_.state.instrumentHandle, slot), pace_);
     InstrumentOperations& op = session_.operations;
     const sensors::SensorSettings& settings = table_[slot].settings;
     const std::string_view type = sensors::TypeOf(table_[slot]);
@@ -245,10 +243,14 @@ bool ConfigurationTransfer::Send(int slot) {
 }
 
 void ConfigurationTransfer::ReportOutcome(int slot) {
-    if (table_[slot].lastErrorText.empty())
+    sensors::SensorEntry& entry = table_[slot];
+    if (entry.lastErrorText.empty()) {
+        entry.initiateError.clear();
+        entry.fetchError.clear();
         news_.notices.Tell(&SensorNotices::SensorIsWell, slot);
-    else
-        news_.notices.Tell(&SensorNotices::SensorFailed, slot, sensors::ErrorOf(table_[slot]));
+    } else {
+        news_.notices.Tell(&SensorNotices::SensorFailed, slot, sensors::ErrorOf(entry));
+    }
 }
 
 }  // namespace kelvra::driver

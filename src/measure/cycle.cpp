@@ -35,12 +35,12 @@ void Cycle::Pass() {
         if (!prepared || p_.state.Ending()) return;
         rounds_.AfterCall();
     }
+    if (p_.state.Ending()) return;
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
     const auto& listeners = p_.news.measurement;
-    const platform::Duration began = p_.host.clock.Monotonic();
     Initiate();
     listeners.Tell(&MeasurementListener::PassStarted);
-    Poll(began);
+    Poll(p_.host.clock.Monotonic());
     if (p_.state.Ending()) return;
     Fetch();
     if (p_.state.Ending()) return;
@@ -68,11 +68,11 @@ bool Cycle::PrepareSlot(int slot) {
         }
         sensors::PrepareWorkArrays(p_.table, slot);
         Configure(slot);
-        if (p_.state.exiting) return false;
+        if (p_.state.Ending()) return false;
     }
     if (p_.table[slot].settingsChanged) {
         Configure(slot);
-        if (p_.state.exiting) return false;
+        if (p_.state.Ending()) return false;
         if (!p_.table.simulationMode) sensors::PrepareWorkArrays(p_.table, slot);
     }
     sensors::SensorEntry& entry = p_.table[slot];
@@ -165,6 +165,7 @@ bool Cycle::GoesOn() {
 }
 
 void Cycle::Fetch() {
+    rounds_.LookSoon();
     for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
         if (!Takes(slot) || !p_.table[slot].sessionOpen || p_.table[slot].settingsChanged) continue;
         FetchSlot(slot);

@@ -36,6 +36,10 @@ void Cycle::Begin() {
     ++p_.state.starts;
     run_ = {};
     pacing_.Reset();
+    for (sensors::SensorEntry& entry : p_.table.entries) {
+        entry.initiateError.clear();
+        entry.fetchError.clear();
+    }
     BringEnabledToFront();
     p_.news.measurement.Tell(&MeasurementListener::Started);
     p_.modes.Find();

@@ -12,9 +12,8 @@ void Modes::Find() {
 }
 
 bool Modes::AnyMeasuresIn(sensors::Mode mode) const {
-    return std::any_of(table_.entries.begin(), table_.entries.end(), [&](const auto& entry) {
-        return entry.present && entry.enabled && entry.settings.Mode == mode;
-    });
+    return std::any_of(table_.entries.begin(), table_.entries.end(),
+                       [&](const auto& entry) { return sensors::MeasuresIn(entry, mode); });
 }
 
 }  // namespace kelvra::measure

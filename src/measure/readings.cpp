@@ -33,11 +33,11 @@ void Readings::FetchScalar(int slot) {
     const driver::CallResult result =
         op.psdrv_meass_fetchMeasurement(handle, channel, &entry.lastReading);
     reading.Finish(entry.lastReading);
-    session_.ReportFetch(result, slot);
     const driver::CallFrame counting(session_.log, driver::log_form::Reading, op.psdrv_avg_getCount,
                                      handle, channel, entry.avgCountRead);
-    op.psdrv_avg_getCount(handle, channel, &entry.avgCountRead);
+    const driver::CallResult counted = op.psdrv_avg_getCount(handle, channel, &entry.avgCountRead);
     counting.Finish(entry.avgCountRead);
+    session_.ReportFetch(result.Failed() ? result : counted, slot);
 }
 
 void Readings::GetMultiReading(int slot) {

@@ -12,8 +12,9 @@ constexpr std::string_view HandleComplaint = "arameter 1 out of";
 
 }  // namespace
 
-void SessionRecovery::SensorFailed(int /*slot*/, const std::string& text) {
-    if (text.find(HandleComplaint) != std::string::npos) handleRefused_ = true;
+void SessionRecovery::SensorFailed(int slot, const std::string& /*text*/) {
+    const std::string& ofTransfer = p_.table[slot].lastErrorText;
+    if (ofTransfer.find(HandleComplaint) != std::string::npos) handleRefused_ = true;
 }
 
 void SessionRecovery::TransferEnds(int slot) {
@@ -37,9 +38,14 @@ bool SessionRecovery::Reopen(int slot) {
         if (p_.state.exiting || p_.table[opened].sessionOpen) continue;
         p_.session.OpenSensor(opened);
     }
-    if (p_.state.exiting || !p_.table[slot].sessionOpen) return false;
+    if (p_.state.exiting) return false;
+    if (!p_.table[slot].sessionOpen) {
+        if (!p_.table[slot].enabled)
+            p_.news.measurement.Tell(&MeasurementListener::SwitchedOff, slot);
+        return false;
+    }
     p_.transfer.ConfigureSensor(slot);
-    return true;
+    return p_.table[slot].sessionOpen && !handleRefused_;
 }
 
 }  // namespace kelvra::measure

@@ -98,6 +98,10 @@ std::string_view TypeOf(const SensorPresence& sensor) {
     return id.substr(0, id.find(';'));
 }
 
+bool MeasuresIn(const SensorEntry& entry, std::int32_t mode) {
+    return entry.present && entry.enabled && entry.settings.Mode == mode;
+}
+
 void SensorEntry::Begin(SensorPresence presence) {
     presence.slotStats.assign(slotStats.size(), {});
     static_cast<SensorPresence&>(*this) = std::move(presence);

@@ -81,10 +81,6 @@ void IniWrite(platform::ProfileText& file, std::string_view section, std::string
 void TransferSettings(SensorSettings& settings, platform::ProfileText& file, std::string_view stem,
                       Transfer transfer) {
     const SensorSettings defaults = DefaultSettings();
-    if (transfer == Transfer::Reset) {
-        settings = defaults;
-        return;
-    }
     for (const SettingsField* field : FileFields())
         IniSetting(file, SectionOf(stem, *field), *field, settings, defaults, transfer);
     settings.ContMeas = false;
@@ -113,10 +109,6 @@ void WriteChanges(const SensorSettings& settings, const SensorSettings& known,
 std::error_code TransferSettings(SensorSettings& settings, platform::Files& files,
                                  const std::string& path, std::string_view stem,
                                  Transfer transfer) {
-    if (transfer == Transfer::Reset) {
-        settings = DefaultSettings();
-        return {};
-    }
     platform::ProfileFile file(files, path);
     TransferSettings(settings, file.Text(), stem, transfer);
     return transfer == Transfer::Write ? file.Save() : file.LoadError();

@@ -1,25 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/display_lists.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 namespace kelvra::ui {
 
-void DisplayLists::ModesChanged() {
-    Fill(forms_.timeSlotDisp.Timeslot_Sensorselect, sensors::TimeSlot);
-    Fill(forms_.scopeDisp.Scope_Sensorselect, sensors::Trace);
+DisplayLists::DisplayLists(forms::Forms& forms, const sensors::SensorTable& table,
+                           SensorSelection& selection)
+    : forms_(forms), table_(table) {
+    selection.listeners.Add(*this);
 }
 
-void DisplayLists::Fill(controls::List& list, sensors::Mode mode) {
+void DisplayLists::ModesChanged() {
+    Fill(forms_.timeSlotDisp.Timeslot_Sensorselect, sensors::TimeSlot, -1);
+    Fill(forms_.scopeDisp.Scope_Sensorselect, sensors::Trace, -1);
+}
+
+void DisplayLists::ListedChanged() {
+    controls::List& slots = forms_.timeSlotDisp.Timeslot_Sensorselect;
+    controls::List& traces = forms_.scopeDisp.Scope_Sensorselect;
+    Fill(slots, sensors::TimeSlot, slots.Data());
+    Fill(traces, sensors::Trace, traces.Data());
+}
+
+void DisplayLists::Fill(controls::List& list, sensors::Mode mode, int selected) {
     std::vector<controls::List::Item> items;
-    for (int slot = 0; slot < table_.Slots(); ++slot) {
-        const sensors::SensorEntry& entry = table_[slot];
-        if (entry.present && entry.enabled && entry.settings.Mode == mode)
-            items.push_back({entry.logicalName, slot});
-    }
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (sensors::MeasuresIn(table_[slot], mode))
+            items.push_back({table_[slot].logicalName, slot});
     list.Fill(std::move(items));
-    list.Preselect(0);
+    list.Preselect(std::max(list.IndexOfData(selected), 0));
 }
 
 }  // namespace kelvra::ui

@@ -33,6 +33,7 @@ void ErrorStrip::Open(const std::string& text) {
     errorShown_ = true;
     notice_.ShowError(text);
     dialog_.lblInputError.caption = text;
+    dialog_.InputErrorFrame.visible = true;
     SetHeaderHeight(dialog_.Frame1, OpenHeight);
 }
 
@@ -40,6 +41,7 @@ void ErrorStrip::Close() {
     errorShown_ = false;
     notice_.ShowError({});
     dialog_.lblInputError.caption = "";
+    dialog_.InputErrorFrame.visible = false;
     SetHeaderHeight(dialog_.Frame1, ClosedHeight);
 }
 

@@ -11,7 +11,7 @@
 namespace kelvra::ui {
 
 void Notice::Set(Rank rank, std::string text) {
-    texts_[static_cast<std::size_t>(rank)] = std::move(text);
+    Text(rank) = std::move(text);
     Show();
 }
 
@@ -51,7 +51,7 @@ void Notice::PassWaits(platform::Duration left) {
 }
 
 void Notice::PassEnded() {
-    const bool standing = !texts_[0].empty() || !texts_[1].empty();
+    const bool standing = !Text(Rank::Error).empty() || !Text(Rank::Files).empty();
     Set(Rank::Course, {});
     if (!standing) window_.lblMeasAwait.caption = " ";
 }

@@ -73,6 +73,13 @@ void ResultTable::Started() {
     }
 }
 
+// A ring of readings that has begun anew has no spread yet.
+void ResultTable::ModesChanged() {
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (!table_[slot].history.Full() && !grid_.At(RowOf(slot), SigmaColumn).Text().empty())
+            SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false);
+}
+
 void ResultTable::MarkValues(int slot, controls::Colour back) {
     for (const ResultColumn column : MarkedColumns)
         grid_.SetLook(RowOf(slot), column, {Align::Left, false, false, back});
@@ -113,6 +120,7 @@ void ResultTable::ClickCell(int row, int column) {
     if (!IsName(row, column)) return;
     ToggleEnabled(row - 1);
     selection_.Select(row - 1);
+    selection_.TellListed();
 }
 
 }  // namespace kelvra::ui

@@ -12,7 +12,8 @@ SelectionLists::SelectionLists(forms::Forms& forms, sensors::SensorTable& table,
       dialogList_(forms.setupForm.SensSelect),
       mainList_(forms.mdiMain.TimeSensor_select_new) {
     selection_.listeners.Add(*this);
-    mainList_.click.Connect([this] { selection_.Select(mainList_.Data()); });
+    for (controls::List* list : {&dialogList_, &mainList_})
+        list->click.Connect([this, list] { selection_.Select(list->Data()); });
 }
 
 void SelectionLists::Refresh() {

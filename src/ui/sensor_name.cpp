@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/sensor_name.h"
 
+#include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "driver/session.h"
+#include "util/number_reading.h"
 #include "util/number_text.h"
 #include "util/text.h"
 
@@ -16,6 +19,14 @@ constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
 
 bool IsBlank(std::string_view name) {
     return util::TrimSpaces(name).empty();
+}
+
+// What a device sends as its serial number must not end the name of the value.
+std::string RegistryName(std::string sensorId) {
+    std::replace_if(
+        sensorId.begin(), sensorId.end(), [](char c) { return c == '=' || c == '\r' || c == '\n'; },
+        '_');
+    return sensorId;
 }
 
 std::string SlotName(int slot) {
@@ -45,13 +56,17 @@ void SensorName::Started() {
 
 void SensorName::FindGivenName(int slot) {
     sensors::SensorEntry& entry = p_.table[slot];
-    if (p_.computer.OwnRegistry())
-        entry.givenName = p_.computer.ReadRegistry(NamesKey, entry.sensorId).value_or("");
+    if (const auto given = given_.find(entry.sensorId); given != given_.end()) {
+        entry.givenName = given->second;
+    } else if (p_.computer.OwnRegistry()) {
+        entry.givenName = p_.computer.ReadRegistry(NamesKey, RegistryName(entry.sensorId));
+        if (entry.givenName && util::ReadWholeNumber(*entry.givenName)) entry.givenName = "";
+    }
 }
 
 bool SensorName::Name(int slot, const std::string& listed) {
     sensors::SensorEntry& entry = p_.table[slot];
-    const std::string& own = IsBlank(entry.givenName) ? listed : entry.givenName;
+    const std::string own = entry.givenName.value_or(listed);
     entry.namedBySlot = IsBlank(own);
     std::string name = entry.namedBySlot ? SlotName(slot) : own;
     if (entry.logicalName == name) return false;
@@ -68,15 +83,17 @@ void SensorName::StoreLogicalName(int slot) {
     entry.logicalName = box.Text();
     entry.givenName = entry.namedBySlot ? std::string() : entry.logicalName;
     if (!entry.sensorId.empty()) Store(slot);
-    if (entry.enabled) p_.results.PaintName(slot);
-    p_.lists.Refresh();
+    p_.results.PaintName(slot);
+    p_.selection.TellListed();
 }
 
 void SensorName::Store(int slot) {
     const sensors::SensorEntry& entry = p_.table[slot];
+    given_.insert_or_assign(entry.sensorId, *entry.givenName);
     const std::string name(util::TrimSpaces(entry.logicalName));
     const std::string path = p_.computer.OwnRegistry().value_or("registry");
-    const std::error_code error = p_.computer.WriteRegistry(NamesKey, entry.sensorId, name);
+    const std::error_code error =
+        p_.computer.WriteRegistry(NamesKey, RegistryName(entry.sensorId), name);
     if (error)
         p_.notice.ShowFileTrouble(
             path, "The sensor's name could not be stored: " + path + ": " + error.message());

@@ -20,7 +20,13 @@ void SensorSelection::Refresh() {
     };
     const int same = first(
         [&](const sensors::SensorEntry& entry) { return entry.resourceName == known_.sensor; });
-    Select(same >= 0 ? same : first([](const auto& entry) { return entry.enabled; }));
+    const int on = first([](const auto& entry) { return entry.enabled; });
+    const int any = first([](const auto&) { return true; });
+    Select(same >= 0 ? same : on >= 0 ? on : any);
+}
+
+void SensorSelection::TellListed() {
+    listeners.Tell(&CurrentSensorListener::ListedChanged);
 }
 
 void SensorSelection::Tell() {

@@ -68,8 +68,8 @@ TEST_F(PresenceTest, TheUsersNameLastsAndOneOfSpacesIsNone) {
         std::string typed, name, kept;
     } cases[] = {
         {"output", "output", "output"},
-        {"  ", "1", "A"},  // for this run the channel, then the device list's again
-        {"", "1", "A"},
+        {"  ", "1", "1"},
+        {"", "1", "1"},
     };
     StartWith(2);
     for (const auto& c : cases) {

@@ -23,16 +23,26 @@ protected:
         for (const char name : places)
             driver.devices.push_back({{name}, "PS-101", {name}, name == '.' ? 0 : 1});
     }
+    // After each search, for nothing may change any more.
+    void ExpectSlots(const std::string& plugged, const std::string& slots) {
+        Plug(plugged);
+        for (int tick = 1; tick <= 2; ++tick) {
+            Tick();
+            EXPECT_EQ(Slots(), slots) << plugged << tick;
+        }
+    }
     void Switch(int slot) { program->forms.statusForm.ResultGrid.click.Raise(slot + 1, 0); }
-    std::string Connection() const { return program->forms.mdiMain.ConSensors.caption.Get(); }
 };
 
 TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
     const platform::LocalTime march{2005, 3, 7, 1, 2, 3, 0};
-    const std::tuple<int, std::optional<platform::LocalTime>, std::string, std::string> cases[] = {
+    const struct {
+        int revision;
+        std::optional<platform::LocalTime> date;
+        std::string commandLine, rest;
+    } cases[] = {
         {22, march, "/Debug", "1.0.22 from 3/7/2005 [DEBUG MODE]"},
         {0, {}, "DEB UG", "1.0 from "},
-        {1, march, "x -debugX", "1.0.1 from 3/7/2005 [DEBUG MODE]"},
     };
     for (const auto& [revision, date, commandLine, rest] : cases) {
         fake.computer.version.revision = revision;
@@ -50,23 +60,21 @@ TEST_F(StartupTest, SimulatedSensorsHaveTheSettingsOfTheirSlots) {
     EXPECT_EQ(program->table[1].settings.TrigLevel, -7);
     EXPECT_EQ(program->table[0].settings.TrigLevel, -30);
     EXPECT_EQ(program->forms.mdiMain.SensSyncMode.Text(), "Async");
-    EXPECT_FALSE(program->forms.mdiMain.FileSaveData.enabled);
 }
 
 TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
-    const std::tuple<std::string, std::string, std::string> cases[] = {
+    const struct {
+        std::string places, slots, text;
+    } cases[] = {
         {"A", "A.......", "1 sensor connected"},
         {"A.C", "AC.", "2 sensors connected"},
-        {".B", "B.", "1 sensor connected"},
         {"ABCDEFGHIJ", "ABCDEFGHIJ", "10 sensors connected"},
     };
     for (const auto& [places, slots, text] : cases) {
         Plug(places);
         Start();
         EXPECT_EQ(Slots(), slots) << places;
-        EXPECT_EQ(Connection(), text);
-        EXPECT_EQ(program->forms.mdiMain.ConSensors.fore.Get(), controls::Green);
-        EXPECT_EQ(program->table.entries.size(), slots.size() + 1);
+        EXPECT_EQ(program->forms.mdiMain.ConSensors.caption.Get(), text);
         EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), program->catalogue.Connected());
     }
 }
@@ -86,11 +94,7 @@ TEST_F(StartupTest, EveryStepLeavesTheSensorsWhereTheyBelong) {
     Plug("AB");
     Start();
     for (const auto& [plugged, slots] : steps) {
-        Plug(plugged);
-        for (int tick = 1; tick <= 2; ++tick) {
-            Tick();
-            EXPECT_EQ(Slots(), slots) << plugged << tick;
-        }
+        ExpectSlots(plugged, slots);
         EXPECT_EQ(program->table.simulationMode, plugged.empty());
     }
 }
@@ -116,34 +120,17 @@ TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {
     Plug("AB");
     Start();
     Switch(1);
-    const auto expect = [this](const std::string& plugged, const std::string& slots) {
-        Plug(plugged);
-        Tick();
-        Tick();
-        EXPECT_EQ(Slots(), slots) << plugged;
-    };
-    expect("AB", "AB-");
-    expect("ABC", "AB-C");
-    expect(".BC", "B-C.");
-    expect("", "SensSim1SensSim2......");
+    ExpectSlots("AB", "AB-");
+    ExpectSlots("ABC", "AB-C");
+    ExpectSlots(".BC", "B-C.");
+    ExpectSlots("", "SensSim1SensSim2......");
     Switch(0);
-    expect("", "SensSim1-SensSim2......");
+    ExpectSlots("", "SensSim1-SensSim2......");
     EXPECT_EQ(Cell(0, 0).look.back, controls::Grey);
-    expect("AB", "AB-");
+    ExpectSlots("AB", "AB-");
     Switch(1);
-    expect("A", "A.......");
-    expect("AB", "AB");
-}
-
-TEST_F(StartupTest, ANameOfTheDeviceListIsTakenOverAndNoneIsTheChannel) {
-    Plug("AB");
-    driver.devices[1].name = "";
-    Start();
-    EXPECT_EQ(Slots(), "A2");
-    driver.devices[0].name = "new";
-    Tick();
-    EXPECT_EQ(Slots(), "new2");
-    EXPECT_EQ(Cell(0, 0).Text(), "new");
+    ExpectSlots("A", "A.......");
+    ExpectSlots("AB", "AB");
 }
 
 }  // namespace kelvra::app

@@ -117,7 +117,6 @@ private slots:
         const auto options = page.Show(group)->findChildren<QRadioButton*>();
         page.Hear(group.click, "click");
         QCOMPARE(options.at(1)->toolTip(), "not now");
-        QVERIFY(options.at(0)->isChecked() && !options.at(1)->isEnabled());
         options.at(0)->setFocus();
         QTest::keyClick(options.at(0), Qt::Key_Down);
         QCOMPARE(group.Selected(), 2);

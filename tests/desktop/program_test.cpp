@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 
-#include "desktop/colour_roles.h"
 #include "desktop/running_desktop.h"
 
 namespace kelvra::desktop {
@@ -66,29 +64,6 @@ private slots:
         QCOMPARE(running.kelvra.state.starts, 2);
     }
 
-    void ANameCellSwitchesItsSensor() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        const auto& entry = running.kelvra.table[1];
-        ClickCell(running.Results(), 1, 0);
-        QVERIFY(!entry.enabled);
-        QCOMPARE(running.kelvra.table.currentSensor, 1);
-        running.desktop.Painter().Flush();
-        QCOMPARE(running.Results().item(1, 0)->background().color(), ToolkitColour(controls::Grey));
-        QTest::keyClick(&running.Results(), Qt::Key_Return);
-        QVERIFY(entry.enabled);
-    }
-
-    void TheSensorListChoosesTheCurrentSensor() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        auto& box = running.Find<QComboBox>("TimeSensor_select_new");
-        QCOMPARE(box.count(), 2);
-        QTest::keyClick(&box, Qt::Key_Down);
-        QCOMPARE(running.kelvra.table.currentSensor, 1);
-        QCOMPARE(running.Find<QComboBox>("SensSyncMode").currentText(), "Async");
-    }
-
     void AnEditedFormulaIsComputed() {
         const QTemporaryDir data;
         RunningDesktop running(data);
@@ -141,10 +116,9 @@ private slots:
             Qt::KeyboardModifiers with;
             int zoom;
         } cases[] = {
-            {Qt::Key_Plus, {}, 1},   {Qt::Key_Plus, Qt::KeypadModifier, 2},
-            {Qt::Key_Equal, {}, 3},  {Qt::Key_0, {}, 0},
-            {Qt::Key_Minus, {}, -1}, {Qt::Key_0, {}, 0},
-            {Qt::Key_Equal, {}, 1},
+            {Qt::Key_Plus, {}, 1},  {Qt::Key_Plus, Qt::KeypadModifier, 2},
+            {Qt::Key_0, {}, 0},     {Qt::Key_Minus, {}, -1},
+            {Qt::Key_Equal, {}, 0}, {Qt::Key_Equal, {}, 1},
         };
         {
             RunningDesktop running(data);

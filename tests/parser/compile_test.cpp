@@ -7,32 +7,19 @@
 namespace kelvra::parser {
 namespace {
 
-using Texts = std::pair<std::string, std::string>;
-
-std::string Variables(const MathParser& parser) {
-    std::string names;
-    for (int i = 1; i <= parser.VarTop(); ++i)
-        names.append(i > 1 ? " " : "").append(parser.VarName(i));
-    return names;
-}
-
 TEST(Compile, EachMistakeHasItsMessage) {
     const std::string letter = "variable name must start with a letter: ";
-    const Texts cases[] = {
+    const struct { std::string text, message; } cases[] = {
         {"(|x)", "abs symbols |.| mismatch"}, {"(1+2))", "Too many closing brackets at pos  6"},
         {"x|3|", "syntax error at pos: 2"}, {"1;2", "syntax error at pos: 2"},
         {"max(min(a;b);c)", "syntax error at pos: 13"}, {"(1", "Not enough closing brackets"},
         {"foo(3)", "Function <foo> unknown at pos  4"}, {"2(3)", "Function <2> unknown at pos  2"},
-        {"(a)(b)", "Function <a> unknown at pos  4"},
         {"1/\xC3\xA4(3)", "Function <\xC3\xA4> unknown at pos  4"}, {"*3", "missing argument"},
         {"!", "missing argument"}, {"max(;2)", "missing argument"}, {"a< =b", "missing argument"},
         {"2a", letter + "2a"}, {"1.5.2", letter + "1.5.2"}, {".", letter + "."},
-        {"1E", letter + "1E"}, {"_a", letter + "_a"}, {"\xC3\xA4+1", letter + "\xC3\xA4"},
-        {SumOfVariables(101), "too many Vars"},
+        {"1E", letter + "1E"}, {"_a", letter + "_a"}, {SumOfVariables(101), "too many Vars"},
         {Repeated(101, "1+", "", "1"), "too many operations"},
         {Repeated(101, "!", "1"), "too many operations"},
-        {Repeated(100, "1+", "", "1=1"), "too many operations"},
-        {Repeated(101, "x0", "1"), "too many operations"},
     };
     for (const auto& [text, message] : cases) {
         Formula formula(text);
@@ -43,28 +30,28 @@ TEST(Compile, EachMistakeHasItsMessage) {
 }
 
 TEST(Compile, VariablesAreNumberedByFirstAppearance) {
-    const Texts cases[] = {
+    const struct { std::string text, names; } cases[] = {
         {"X2dB-X1dB", "X2dB X1dB"}, {"b+a*b-a", "b a"}, {"X1W+x1w", "X1W x1w"}, {"pi+PI+Pi", ""},
         {"x y", "xy"}, {"x2y", "x2 y"}, {"ae+1", "ae+1"}, {"a!b", "a ab"}, {"max(z1;z2)", "z1 z2"},
-        {"", ""}, {"sin+1", "sin"}, {"(x)y", "xy"}, {"a.b,c+d_\xC3\xA4", "a.b,c d_\xC3\xA4"},
+        {"sin+1", "sin"}, {"(x)y", "xy"}, {"a.b,c+d_\xC3\xA4", "a.b,c d_\xC3\xA4"},
     };
     for (const auto& [text, names] : cases) {
         Formula formula(text);
         EXPECT_TRUE(formula.compiles) << text << ": " << formula.Error();
-        EXPECT_EQ(Variables(formula.parser), names) << text;
+        std::string found;
+        for (int i = 1; i <= formula.parser.VarTop(); ++i)
+            found.append(i > 1 ? " " : "").append(formula.parser.VarName(i));
+        EXPECT_EQ(found, names) << text;
     }
 }
 
 TEST(Compile, HundredVariablesAndHundredEntriesFitAndOtherNumbersAreHarmless) {
     Formula variables(SumOfVariables(100));
     ASSERT_TRUE(variables.compiles) << variables.Error();
-    EXPECT_EQ(variables.parser.VarName(100), "v100");
     for (int i = 1; i <= 100; ++i) variables.parser.VarValue(i, i);
     EXPECT_EQ(variables.parser.Eval(), 5050);
     EXPECT_EQ(Formula(Repeated(100, "1+", "", "1")).parser.Eval(), 101);
-
     Formula tooMany(SumOfVariables(101));
-    EXPECT_EQ(tooMany.parser.VarTop(), 101);
     for (const int i : {-1, 0, 101, 102}) {
         tooMany.parser.VarValue(i, 7);
         EXPECT_EQ(tooMany.parser.VarName(i), "") << i;
@@ -75,44 +62,29 @@ TEST(Compile, HundredVariablesAndHundredEntriesFitAndOtherNumbersAreHarmless) {
 TEST(Compile, NumbersAndUnitsHaveTheirValue) {
     ExpectValues({
         {"1E-5", 1e-5}, {"2.5e+3", 2500}, {"1D3", 1000}, {".5", 0.5}, {"5.", 5}, {"1,5", 1},
-        {"1,000.5", 1}, {"1 000", 1000}, {"10mV", 0.01}, {"5KHz", 5000}, {"2ms", 0.002},
-        {"1mm", 0.001}, {"2MHz", 2e6}, {"3g", 0.003}, {"2Ohm", 2}, {"1pF", 1e-12}, {"4us", 4e-6},
-        {"5dm", 0.5}, {"5Dm", 50}, {"5HPa", 500}, {"1GHz", 1e9}, {"1TW", 1e12}, {"2mbar", 0.002},
-        {"3Nm", 3}, {"1RAD", 1}, {"6S+1ohm", 7}, {"pi", 3.14159265358979},
+        {"1 000", 1000}, {"10mV", 0.01}, {"5KHz", 5000}, {"2ms", 0.002}, {"1mm", 0.001},
+        {"2MHz", 2e6}, {"3g", 0.003}, {"2Ohm", 2}, {"1pF", 1e-12}, {"4us", 4e-6}, {"5dm", 0.5},
+        {"5Dm", 50}, {"5HPa", 500}, {"1GHz", 1e9}, {"1TW", 1e12}, {"6S+1ohm", 7},
+        {"pi", 3.14159265358979},
     });
 }
 
-// The table as its dump lists it, without heading; dumping changes nothing.
-std::vector<std::string> Dump(MathParser& parser) {
-    std::vector<std::string> lines;
-    for (int i = 0; i < 2; ++i) {
-        lines.clear();
-        parser.Dump([&](std::string_view line) { lines.emplace_back(line); });
-    }
-    EXPECT_EQ(lines.at(0), "Dump Level ");
-    EXPECT_EQ(lines.at(1), std::string(32, '-'));
-    EXPECT_EQ(lines.at(2),
-              "Id\tFun\tArgTop\tA0 Idx\tArg0 Name\tArg0 Value\tA1 Idx\tArg1 Name\tArg1 Value\t"
-              "ArgOf\tArgIdx\tValue\tPriLvl\tPosInExpr\tPriIdx");
-    return {lines.begin() + 3, lines.end()};
-}
-
-TEST(Compile, TableHoldsWhatTheFormulaSays) {
+TEST(Compile, TheDumpShowsWhatTheFormulaSays) {
     Formula formula("  2x!<=Max(a;-3)");
     ASSERT_TRUE(formula.compiles) << formula.Error();
     formula.parser.VarValue(1, 3);
     formula.parser.VarValue(2, 20);
     EXPECT_EQ(formula.parser.Eval(), 1);
-    const std::vector<std::string> rows{
+    std::vector<std::string> lines;
+    formula.parser.Dump([&](std::string_view line) { lines.emplace_back(line); });
+    EXPECT_EQ(lines, (std::vector<std::string>{
+        "Dump Level ", std::string(32, '-'),
+        "Id\tFun\tArgTop\tA0 Idx\tArg0 Name\tArg0 Value\tA1 Idx\tArg1 Name\tArg1 Value\t"
+        "ArgOf\tArgIdx\tValue\tPriLvl\tPosInExpr\tPriIdx",
         "2\t*\t2\t0\t\t2\t0\t\t6\t3\t1\t12\t3\t2\t5", "30\t!\t1\t1\tx\t3\t0\t\t0\t1\t2\t6\t9\t3\t4",
         "39\t<=\t2\t0\t\t12\t0\t\t20\t0\t0\t1\t1\t5\t2",
         "33\tMax\t2\t2\ta\t20\t0\t\t-3\t3\t2\t20\t10\t11\t1",
-        "1\t-\t2\t0\t\t0\t0\t\t3\t4\t2\t-3\t12\t12\t3"};
-    EXPECT_EQ(Dump(formula.parser), rows);
-    Formula alone("(abc)");  // a lone operand is added to nothing
-    alone.parser.VarValue(1, .5);
-    EXPECT_EQ(alone.parser.Eval(), .5);
-    EXPECT_EQ(Dump(alone.parser).at(0), "0\t+\t2\t0\t\t0\t1\tabc\t.5\t0\t0\t.5\t1\t1\t1");
+        "1\t-\t2\t0\t\t0\t0\t\t3\t4\t2\t-3\t12\t12\t3"}));
 }
 
 TEST(Compile, StoringAgainStartsAfresh) {
@@ -123,11 +95,9 @@ TEST(Compile, StoringAgainStartsAfresh) {
     EXPECT_EQ(formula.parser.VarValue(1), 0);
     EXPECT_FALSE(formula.parser.StoreExpression("  1+c/0) "));
     EXPECT_EQ(formula.parser.Expression(), "1+c/0)");
-    EXPECT_EQ(formula.parser.VarTop(), 1);
     EXPECT_TRUE(formula.parser.StoreExpression("7"));
     EXPECT_EQ(formula.Error(), "");
     EXPECT_EQ(formula.parser.VarTop(), 0);
-    EXPECT_EQ(formula.parser.Entries().size(), 2U);
     EXPECT_EQ(formula.parser.Eval(), 7);
 }
 
@@ -138,15 +108,13 @@ std::string Many(std::string_view text, std::string_view before = {}, std::strin
 // Milliseconds each; work that grows with the square of the length would not end.
 TEST(Compile, AMegabyteOfAnythingCompilesOrFails) {
     constexpr std::string_view noLetter = "variable name must start with a letter: ";
-    const std::pair<std::string, std::string> cases[] = {  // formula and message
+    const struct { std::string text, message; } cases[] = {
         {Many("("), "Not enough closing brackets"}, {Many(")", Many("(", "", "7")), ""},
-        {Many(")"), "Too many closing brackets at pos  1"}, {Many("|"), "too many operations"},
-        {Many("!"), "missing argument"}, {Many("-"), "too many operations"}, {Many(" "), ""},
-        {Many("9"), Many("9", noLetter)}, {Many("0"), ""}, {Many("3", "."), ""},
-        {Many(","), Many(",", noLetter)}, {Many(",", "1"), ""}, {Many("a"), ""},
+        {Many("|"), "too many operations"}, {Many("!"), "missing argument"}, {Many(" "), ""},
+        {Many("-"), "too many operations"}, {Many("9"), Many("9", noLetter)}, {Many("3", "."), ""},
+        {Many(",", "1"), ""}, {Many("a"), ""}, {Repeated(100, "!", Many("a")), ""},
         {Many("\xC3\xA4", "", ")"), "Too many closing brackets at pos  1000001"},
-        {Repeated(100, "!", Many("a")), ""}, {Many("1+"), "too many operations"},
-        {Many("="), "missing argument"}, {Many(";"), "syntax error at pos: 1"}, {Many("E+"), ""},
+        {Many(";"), "syntax error at pos: 1"}, {Many("E+"), ""},
     };
     for (const auto& [text, message] : cases) {
         Formula formula(text);
@@ -156,7 +124,6 @@ TEST(Compile, AMegabyteOfAnythingCompilesOrFails) {
     }
     Formula tooLong(std::string(MaxLength + 1, '('));
     EXPECT_EQ(tooLong.Error(), "formula too long");
-    EXPECT_EQ(tooLong.parser.Entries().size(), 1U);
 }
 
 }  // namespace

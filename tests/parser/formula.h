@@ -6,7 +6,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "parser/math_parser.h"
@@ -25,7 +24,12 @@ struct Formula {
     bool compiles;
 };
 
-inline void ExpectValues(const std::vector<std::pair<std::string_view, double>>& cases) {
+struct Result {
+    std::string_view text;
+    double value;
+};
+
+inline void ExpectValues(const std::vector<Result>& cases) {
     for (const auto& [text, value] : cases) {
         Formula formula(text);
         EXPECT_DOUBLE_EQ(formula.parser.Eval(), value) << text;

@@ -6,6 +6,7 @@
 //   {"id": as given, "reads": [...], "final_hex": "5b73..." or null}
 // A character U+0000..U+00FF of a string is a byte; null is no file. Each operation loads the file
 // and saves it again.
+#include <charconv>
 #include <iostream>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
@@ -64,13 +65,12 @@ std::string BytesOfHex(const Json& json) {
     const auto& hex = json.get_ref<const std::string&>();
     Check(hex.size() % 2 == 0, "initial_hex has half a byte");
     std::string bytes;
-    for (std::size_t i = 0; i < hex.size(); ++i) {
-        const char lower =
-            hex[i] >= 'A' && hex[i] <= 'F' ? static_cast<char>(hex[i] | 0x20) : hex[i];
-        const auto digit = HexDigits.find(lower);
-        Check(digit != std::string_view::npos, "initial_hex has a character that is no digit");
-        if (i % 2 == 0) bytes += '\0';
-        bytes.back() = static_cast<char>(bytes.back() << 4 | static_cast<int>(digit));
+    for (std::size_t i = 0; i < hex.size(); i += 2) {
+        unsigned byte = 0;
+        const char* end = hex.data() + i + 2;
+        Check(std::from_chars(hex.data() + i, end, byte, 16).ptr == end,
+              "initial_hex has a character that is no digit");
+        bytes += static_cast<char>(byte);
     }
     return bytes;
 }

@@ -30,8 +30,6 @@ TEST(EnableStates, ButtonsGoByWhatIsRunning) {
         {Activity::Held,      false,      false, true,  true},
         {Activity::Command,   false,      false, false, false},
         {Activity::Idle,      true,       true,  false, false},
-        {Activity::Opening,   true,       false, true,  false},
-        {Activity::Measuring, true,       false, true,  false},
         {Activity::Held,      true,       false, true,  false},
     };
     // clang-format on
@@ -61,15 +59,8 @@ TEST(EnableStates, FieldsGoByModeAndModel) {
         {Capabilities::TimeResolving, sensors::Burst,             false, false, true},
         {Capabilities::TimeResolving, sensors::Trace,             false, false, true},
         {Capabilities::AverageOnly,   sensors::ContinuousAverage, false, true,  false},
-        {Capabilities::AverageOnly,   sensors::BufferedAverage,   false, false, false},
         {Capabilities::AverageOnly,   sensors::TimeSlot,          false, false, false},
-        {Capabilities::AverageOnly,   sensors::Burst,             false, false, false},
-        {Capabilities::AverageOnly,   sensors::Trace,             false, false, false},
-        {Capabilities::Unknown,       sensors::ContinuousAverage, false, true,  true},
-        {Capabilities::Unknown,       sensors::BufferedAverage,   false, false, true},
         {Capabilities::Unknown,       sensors::TimeSlot,          true,  false, true},
-        {Capabilities::Unknown,       sensors::Burst,             false, false, true},
-        {Capabilities::Unknown,       sensors::Trace,             false, false, true},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -114,14 +105,11 @@ TEST(EnableStates, WriterReachesExactlyTheControlsOfAState) {
         {&EnableStates::stop, {&forms.mdiMain.StopIt}},
         {&EnableStates::commands, {&dialog.ActionFrame}},
         {&EnableStates::averaging,
-         {&dialog.MovingAveraging, &dialog.SensAvgMode, &dialog.SensAvgMode.At(0),
-          &dialog.SensAvgMode.At(2), &dialog.SensAvgResValue, &dialog.SensAvgSNRValue,
-          &dialog.SensAvgMaxTime, &dialog.SensAvgCount}},
+         {&dialog.MovingAveraging, &dialog.SensAvgMode, &dialog.SensAvgMode.At(2),
+          &dialog.SensAvgCount}},
         {&EnableStates::averagingSlot, {&dialog.SensAvgSlot}},
         {&EnableStates::traceAveraging,
-         {&dialog.ScopeMovingAveraging, &dialog.ScopeAvgMode, &dialog.ScopeAvgMode.At(1),
-          &dialog.ScopeAvgResValue, &dialog.ScopeAvgSNRValue, &dialog.ScopeAvgMaxTime,
-          &dialog.ScopeAvgCount}},
+         {&dialog.ScopeMovingAveraging, &dialog.ScopeAvgMode.At(1), &dialog.ScopeAvgCount}},
         {&EnableStates::dutyCycle, {&dialog.CorrDutyEnable, &dialog.CorrDutyValue}},
         {&EnableStates::triggerPage, {&dialog.TriggerFrame}},
         {&EnableStates::advancedPage, {&dialog.AdvancedFrame}},

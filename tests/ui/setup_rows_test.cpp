@@ -43,8 +43,6 @@ TEST_F(SetupRowsTest, NumbersAreShownInTheUnitOfTheDialog) {
     settings_.CorrFreqVal = 1234567890;
     settings_.TrigDelay = -0.0012345678;
     settings_.TrigHoldOff = 0.0012345678;
-    settings_.AvgSNVal = 0.25;
-    settings_.TrigCount = -7;
     Show();
     const struct {
         const controls::TextBox& box;
@@ -52,8 +50,7 @@ TEST_F(SetupRowsTest, NumbersAreShownInTheUnitOfTheDialog) {
     } cases[] = {
         {form_.SensContAVTime, "12.3"},          {form_.SensBurstDropOut, "1.5"},
         {form_.CorrFreqValue, "1234.56789"},     {form_.SensTriggerDelay, "-1.235"},
-        {form_.SensTriggerHoldOff, "1.2345678"}, {form_.SensAvgSNRValue, "0.25"},
-        {form_.SensTriggerCount, "-7"},          {form_.SensTriggerLevel, "-30"},
+        {form_.SensTriggerHoldOff, "1.2345678"}, {form_.SensTriggerLevel, "-30"},
     };
     for (const auto& c : cases) EXPECT_EQ(c.box.Text(), c.text) << c.box.Name();
 }
@@ -61,20 +58,15 @@ TEST_F(SetupRowsTest, NumbersAreShownInTheUnitOfTheDialog) {
 TEST_F(SetupRowsTest, MarksOptionsAndEntriesFollowTheirSettings) {
     Show();
     EXPECT_TRUE(form_.CorrFreqEnable.Checked());  // the setting says no
-    EXPECT_FALSE(form_.CorrOffsetEnable.Checked());
-    EXPECT_EQ(form_.SensRange.Selected(), 0);
     EXPECT_FALSE(form_.SensTriggerNow.visible);
     settings_.CorrOffset = true;
-    settings_.RangeAuto = settings_.FreqHigh = false;
-    settings_.TrigSlope = 1;
+    settings_.RangeAuto = false;
     settings_.TrigSource = 0;
     settings_.Mode = sensors::Trace;
     form_.SensMode.Fill({{"Scope", sensors::Trace}, {"Cont Avg", sensors::ContinuousAverage}});
     Show();
     EXPECT_TRUE(form_.CorrOffsetEnable.Checked());
     EXPECT_EQ(form_.SensRange.Selected(), 1);
-    EXPECT_EQ(form_.SensSampFreq.Selected(), 1);
-    EXPECT_EQ(form_.SensTriggerSlope.Selected(), 1);
     EXPECT_EQ(form_.SensTrigger.Text(), "Single");
     EXPECT_EQ(form_.SensMode.Index(), 0);
     EXPECT_TRUE(form_.SensTriggerNow.visible);

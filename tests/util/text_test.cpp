@@ -9,23 +9,16 @@ using namespace std::string_literals;
 
 TEST(Text, IsTrimmedOfWhatTheRuleNamesAndOfNothingElse) {
     EXPECT_EQ(TrimSpaces("  a b\t "), "a b\t");
-    EXPECT_EQ(TrimSpaces("   "), "");
     EXPECT_EQ(TrimBlanks("\t a b\t "), "a b");
     EXPECT_EQ(TrimLineBreaks("\r\na\r\n\r\n"), "\r\na");
-    EXPECT_EQ(TrimLineBreaks("\r\n"), "");
-    const std::pair<std::string_view, std::string_view> cases[] = {
-        {" 12 ", "12"}, {"\r\n7\n", "7"}, {"  \r\n a \r\n  ", " a "},
-        {"", ""},       {" \r\n ", ""},   {"a\r\nb", "a\r\nb"},
-    };
-    for (const auto& [text, clean] : cases) EXPECT_EQ(CleanText(text), clean) << text;
+    EXPECT_EQ(CleanText("  \r\n a\r\nb \r\n  "), " a\r\nb ");
+    EXPECT_EQ(CleanText(" \r\n "), "");
 }
 
 TEST(Text, OfABufferEndsAtItsNulOrBeforeItsBlanks) {
-    const std::pair<std::string, std::string_view> cases[] = {
-        {"abc\0def"s, "abc"}, {"abc  \0"s, "abc  "}, {"abc   ", "abc"},
-        {"\0abc"s, ""},       {"    ", ""},          {"", ""},
-        {" a", " a"},
-    };
+    const struct {
+        std::string buffer, text;
+    } cases[] = {{"abc  \0def"s, "abc  "}, {" abc   ", " abc"}, {"\0abc"s, ""}, {"    ", ""}};
     for (const auto& [buffer, text] : cases) EXPECT_EQ(TextOfBuffer(buffer), text) << buffer;
 }
 
@@ -41,7 +34,7 @@ TEST(Text, KnowsNoLettersButThoseOfAscii) {
 TEST(ShownText, ReplacesEachByteOfNoValidSequence) {
     const std::string bad = "\xEF\xBF\xBD";
     // clang-format off
-    const std::pair<std::string, std::string> cases[] = {
+    const struct { std::string bytes, shown; } cases[] = {
         {"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
         {"a\xE4z", "a" + bad + "z"}, {"\xC3", bad}, {"\xE2\x82", bad + bad},
         {"\xC0\x80", bad + bad},                      // overlong

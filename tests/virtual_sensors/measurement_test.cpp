@@ -40,7 +40,6 @@ TEST(Corrections, MultiplyThePower) {
         {{{Setting::psdrv_corr_setOffset, 10}}, 1},  // not switched on
         {{{Setting::psdrv_corr_setOffset, 10}, {Setting::psdrv_corr_setOffsetEnabled, 1}}, 10},
         {{{Setting::psdrv_corr_setDutyCycle, 25}, {Setting::psdrv_corr_setDutyCycleEnabled, 1}}, 4},
-        {{{Setting::psdrv_corr_setSParamDeviceEnabled, 1}}, 1.0232929922807541},
         {{{Setting::psdrv_chan_setSourceGammaCorrEnabled, 1}}, 0.9025},
         {{{Setting::psdrv_chan_setCorrectionFrequency, 5e9}}, 1.0092528860766844},
     };

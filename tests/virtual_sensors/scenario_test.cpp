@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <string>
 
 #include "scenario_reader.h"
@@ -9,43 +8,24 @@
 namespace kelvra::virtual_sensors {
 namespace {
 
-TEST(ScenarioReader, ReadsEveryStatement) {
+TEST(ScenarioReader, ReadsWhatNoScriptHasInItsScenario) {
     const ScenarioResult result = ReadScenario(
-        "seed 7 # a comment\r\ntime polls 2 ms lock 3 s\nduration 0\nzero 10 us\nexternal 5 ms\n"
-        "source g -3 dBm\n\n"
-        "sensor PS-101 A1\n  name \"left # one\"\n  index 4\n  sees g -20 dB\n  noise 0.1 dB\n"
-        "  noise 2 nW\n"
+        "seed 7 # a comment\r\nzero 10 us\nexternal 5 ms\nsource g -3 dBm\n\n"
+        "sensor PS-101 A1\n  name \"left # one\"\n  index 4\n  noise 0.1 dB\n  noise 2 nW\n"
         "sensor PS-118 B2\n  unplugged\n"
-        "at 1.5 s plug B2\n"
-        "at call 9 of psdrv_chans_initiate unplug A1\n"
-        "fault psdrv_avg_setCount from 3 channel 2 status -5 \"no such count\"\n"
-        "fault psdrv_meass_fetchMeasurement call 2 value nan",
+        "fault psdrv_avg_setCount from 3 channel 2 status -5 \"no such count\"",
         "s");
     const Scenario& s = result.scenario;
     ASSERT_EQ(result.error, "");
     EXPECT_EQ(s.seed, 7U);
-    EXPECT_FALSE(s.computerTime);
-    EXPECT_EQ(s.pollStep, 0.002);
-    EXPECT_EQ(s.lockStep, 3);
-    EXPECT_EQ(s.fixedDuration, 0);
-    EXPECT_EQ(s.externalPeriod, 0.005);
     EXPECT_DOUBLE_EQ(s.zeroDuration, 1e-5);
+    EXPECT_EQ(s.externalPeriod, 0.005);
     ASSERT_EQ(s.sensors.size(), 2U);
     EXPECT_EQ(s.sensors[0].name, "left # one");
-    EXPECT_EQ(s.sensors[0].sees.at(0).couplingDb, -20);
-    EXPECT_EQ(s.sensors[0].noiseDb, 0.1);
-    EXPECT_EQ(s.sensors[0].noiseW, 2e-9);
-    EXPECT_EQ(s.sensors[1].index, 5U);
-    EXPECT_FALSE(s.sensors[1].plugged);
-    ASSERT_EQ(s.events.size(), 2U);
-    EXPECT_TRUE(s.events[0].time == 1.5 && s.events[0].plug);
-    EXPECT_EQ(s.events[1].operation, Operation::psdrv_chans_initiate);
-    EXPECT_EQ(s.events[1].call, 9);
-    ASSERT_EQ(s.faults.size(), 2U);
-    EXPECT_EQ(s.faults[0].operation, Operation::psdrv_avg_setCount);
+    EXPECT_TRUE(s.sensors[0].noiseDb == 0.1 && s.sensors[0].noiseW == 2e-9);
+    EXPECT_TRUE(s.sensors[1].index == 5 && !s.sensors[1].plugged);
+    ASSERT_EQ(s.faults.size(), 1U);
     EXPECT_TRUE(s.faults[0].first == 3 && s.faults[0].channel == 2 && s.faults[0].number == -5);
-    EXPECT_EQ(s.faults[0].message, "no such count");
-    EXPECT_TRUE(s.faults[1].last == 2 && std::isnan(s.faults[1].value));
 }
 
 TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
@@ -56,8 +36,6 @@ TEST(ScenarioReader, NamesThePlaceOfWhatIsWrongAndThenHasNoSensors) {
         {"beep", "unknown statement 'beep'"},
         {"sensor PS-101", "the serial number is missing"},
         {"sensor PS-102 1", "this serial number is there already"},
-        {"source h 1e999 dBm", "the level is no number or out of range"},
-        {"duration 5", "the unit of the time is missing"},
         {"sees h 0 dB", "no source 'h' above this line"},
         {"at 1 s unplug 2", "no sensor '2' above this line"},
         {"at call 0 of psdrv_init plug 1", "the number of the call is no number or out of range"},

@@ -40,6 +40,9 @@ public:
     // The failure of the last save, empty if there was none; for use after the windows have gone.
     const std::string& SaveFailure() const { return saveFailure_; }
 
+    // Looks whether other programs that use the folder have ended, if there were any.
+    void LookForOthers();
+
 private:
     // The known settings of a sensor since they were first read.
     struct Kept {
@@ -48,7 +51,6 @@ private:
         std::optional<sensors::SensorSettings> unsaved;
     };
 
-    void LookForOthers();
     void ShowUse();
     void NoteLoad(const platform::ProfileFile& file);
     void Keep(const std::string& sensorId, sensors::SensorSettings settings);

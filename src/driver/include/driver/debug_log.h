@@ -28,8 +28,10 @@ public:
     // Deletes an existing log file, whether logging is on or off.
     void RemoveOld();
 
-    // Called once, with the system's message, if the log can't be written while logging is on.
+    // Called with the system's message when the log can't be written while logging is on, and when
+    // it can be written again.
     std::function<void(const std::string& path, const std::string& reason)> onFailure;
+    std::function<void(const std::string& path)> onRecovery;
 
 private:
     std::string Line(std::string_view text);

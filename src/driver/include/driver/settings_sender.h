@@ -3,6 +3,9 @@
 // label is reported under that label; without a label it is not checked.
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "driver/call_log.h"
 #include "driver/session.h"
 
@@ -12,8 +15,9 @@ constexpr const char* Unchecked = nullptr;
 
 class SettingsSender {
 public:
-    SettingsSender(Session& session, int slot, TransferPace* pace)
-        : session_(session), slot_(slot), pace_(pace) {}
+    // The header begins each line of the calls in the log.
+    SettingsSender(Session& session, int slot, std::string header, TransferPace* pace)
+        : session_(session), slot_(slot), header_(std::move(header)), pace_(pace) {}
 
     // False once the pace has ended the transfer: the later settings were not sent.
     bool Complete() const { return goesOn_; }
@@ -28,16 +32,19 @@ public:
     void Send(const LogForm& form, const Operation<Handle, Channel, Parameters...>& operation,
               const char* label, Values... values) {
         if (!goesOn_) return;
+        session_.log.header = header_;
         const CallResult result =
             FramedCall(session_.log, form, operation, session_.state.instrumentHandle,
                        ChannelOf(slot_), values...);
         if (label != Unchecked) session_.ReportError(result, slot_, label);
+        session_.log.header.clear();  // others may write while the pace lets them
         goesOn_ = pace_ == nullptr || pace_->GoesOn();
     }
 
 private:
     Session& session_;
     int slot_;
+    std::string header_;
     TransferPace* pace_;
     bool goesOn_ = true;
 };

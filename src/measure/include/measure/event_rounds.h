@@ -13,7 +13,13 @@ public:
     explicit EventRounds(platform::Host& host) : host_(host) {}
 
     // Events have just run, or will run next.
-    void Restart(platform::Duration now) { lastRound_ = now; }
+    void Restart(platform::Duration now) {
+        lastRound_ = now;
+        LookSoon();
+    }
+
+    // Calls of another kind follow: how long they take is not known yet.
+    void LookSoon() { callsToLook_ = 1; }
 
     // Call after each driver call. Handlers may have run when it returns.
     void AfterCall() {

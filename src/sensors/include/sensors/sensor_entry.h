@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,7 +25,8 @@ struct SensorPresence {
     bool newTraceData = false;
     bool slotStatsActive = false;
     std::string logicalName{};
-    std::string givenName{};  // by the user; empty: named by the device list or the slot
+    // By the user; empty: its slot names it; nothing: the device list does.
+    std::optional<std::string> givenName{};
     bool namedBySlot = false;
     std::string sensorId{};         // type, ";", serial number
     std::int32_t measPending = 0;   // 1: started and not yet complete
@@ -56,5 +58,8 @@ struct SensorEntry : SensorPresence {
     // determine; their statistics start anew.
     void Begin(SensorPresence presence);
 };
+
+// It takes part in measurements, in this mode.
+bool MeasuresIn(const SensorEntry& entry, std::int32_t mode);
 
 }  // namespace kelvra::sensors

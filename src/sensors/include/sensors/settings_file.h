@@ -14,7 +14,7 @@
 
 namespace kelvra::sensors {
 
-enum class Transfer { Reset = 0, Read = 1, Write = 2 };
+enum class Transfer { Read, Write };
 
 // The types of values that files keep.
 using SettingValue = std::variant<bool, std::int16_t, std::int32_t, double, std::string>;

@@ -6,18 +6,21 @@
 #include "forms/forms.h"
 #include "measure/listener.h"
 #include "sensors/sensor_table.h"
+#include "ui/sensor_selection.h"
 
 namespace kelvra::ui {
 
-class DisplayLists final : public measure::MeasurementListener {
+class DisplayLists final : public measure::MeasurementListener, public CurrentSensorListener {
 public:
-    DisplayLists(forms::Forms& forms, const sensors::SensorTable& table)
-        : forms_(forms), table_(table) {}
+    DisplayLists(forms::Forms& forms, const sensors::SensorTable& table,
+                 SensorSelection& selection);
 
     void ModesChanged() override;
+    // The same with other names: the selected sensor stays selected.
+    void ListedChanged() override;
 
 private:
-    void Fill(controls::List& list, sensors::Mode mode);
+    void Fill(controls::List& list, sensors::Mode mode, int selected);
 
     forms::Forms& forms_;
     const sensors::SensorTable& table_;

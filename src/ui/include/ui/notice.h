@@ -40,6 +40,7 @@ public:
 private:
     enum class Rank { Error, Files, Course, Count };
 
+    std::string& Text(Rank rank) { return texts_[static_cast<std::size_t>(rank)]; }
     void Set(Rank rank, std::string text);
     void ShowFirstTrouble();
     void Show();

@@ -29,6 +29,7 @@ public:
     void ClearValues(int slot);
 
     void Started() override;
+    void ModesChanged() override;
     void SwitchedOff(int slot) override { PaintName(slot); }
     void SlotStarted(int /*slot*/) override {}
     void SlotComplete(int /*slot*/) override {}

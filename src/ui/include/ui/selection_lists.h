@@ -20,6 +20,7 @@ public:
     void Started() override { Refresh(); }
     void SwitchedOff(int /*slot*/) override { Refresh(); }
     void CurrentSensorChanged() override;
+    void ListedChanged() override { Refresh(); }
 
 private:
     sensors::SensorTable& table_;

@@ -4,6 +4,7 @@
 // device-list library finds it. If Kelvra keeps the registry itself, it reads the name there.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "forms/forms.h"
@@ -12,7 +13,7 @@
 #include "sensors/sensor_table.h"
 #include "ui/notice.h"
 #include "ui/result_table.h"
-#include "ui/selection_lists.h"
+#include "ui/sensor_selection.h"
 
 namespace kelvra::ui {
 
@@ -24,7 +25,6 @@ public:
         platform::Computer& computer;
         ResultTable& results;
         SensorSelection& selection;
-        SelectionLists& lists;
         Notice& notice;
     };
 
@@ -50,7 +50,8 @@ private:
     void Store(int slot);
 
     Parts p_;
-    std::string shownFor_;  // the resource of the sensor in the name box
+    std::map<std::string, std::string> given_;  // in this run, by SensorId; empty: by the slot
+    std::string shownFor_;                      // the resource of the sensor in the name box
 };
 
 }  // namespace kelvra::ui

@@ -15,7 +15,9 @@ public:
     virtual ~CurrentSensorListener() = default;
 
     // Another sensor has become the current one, or its slot or name has changed.
-    virtual void CurrentSensorChanged() = 0;
+    virtual void CurrentSensorChanged() {}
+    // Who is to be listed, or a name, is another one.
+    virtual void ListedChanged() {}
 };
 
 class SensorSelection {
@@ -26,6 +28,9 @@ public:
 
     // Makes a present sensor the current one, even if it is switched off.
     void Select(int slot);
+
+    // The user has switched or named a sensor.
+    void TellListed();
 
     // Call after the table has changed. The current sensor remains the current one while it is
     // present, even in another slot. After that it is the first sensor that is switched on, if any.
