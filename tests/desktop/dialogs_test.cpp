@@ -4,11 +4,8 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QScreen>
 
-#include "desktop/common.h"
 #include "desktop/running_desktop.h"
-#include "ui/result_columns.h"
 
 namespace kelvra::desktop {
 
@@ -26,22 +23,6 @@ class DialogsTest : public QObject {
     struct Passes : measure::MeasurementListener {
         void PassMeasured() override { ++count; }
         int count = 0;
-    };
-
-    // What the status column says whenever the table is painted.
-    struct Painted : QObject {
-        explicit Painted(QTableWidget& watched) : table(watched) {
-            table.viewport()->installEventFilter(this);
-        }
-        bool eventFilter(QObject*, QEvent* event) override {
-            if (event->type() != QEvent::Paint) return false;
-            QStringList now;
-            for (const int row : {0, 1}) now << table.item(row, ui::StatusColumn)->text();
-            texts << now.join('|');
-            return false;
-        }
-        QTableWidget& table;
-        QStringList texts;
     };
 
 private slots:
@@ -125,26 +106,6 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(answers, 0);
         QVERIFY(prompt == nullptr);
-    }
-
-    // The driver's next call may take seconds, in which no event is delivered.
-    void TheStateOfATransferIsPaintedAtOnce() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        Painted painted(running.Results());
-        auto& marks = running.kelvra.windows.marks;
-        marks.TransferBegins(0);
-        marks.TransferEnds(0);
-        marks.TransferBegins(1);
-        QCOMPARE(painted.texts, (QStringList{"CONF|", "|", "|CONF"}));
-    }
-
-    void TheFrameIsInTheMiddleOfTheScreenThatIsThere() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        const auto& place = running.kelvra.forms.mdiMain.place.Get();
-        QCOMPARE(2 * place.left + place.width, Twips(screen.width()));
     }
 };
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QClipboard>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -83,30 +82,6 @@ private slots:
         QCOMPARE(events_, one);
     }
 
-    void QuickClicksCountAndThoseThatExtendTheSelectionDoNot() {
-        ClickCell(*table_, 0, 1);
-        const QPoint middle = table_->visualRect(table_->model()->index(0, 1)).center();
-        QTest::mouseDClick(table_->viewport(), Qt::LeftButton, {}, middle);
-        QCOMPARE(events_.count("click 1 1"), 2);
-        events_.clear();
-        for (const auto key : {Qt::ShiftModifier, Qt::ControlModifier})
-            ClickCell(*table_, 2, 1, key);
-        QCOMPARE(events_, QStringList());
-        QCOMPARE(table_->selectedItems().size(), 2);
-    }
-
-    void SelectedCellsAndHeadingsKeepTheirColours() {
-        controls::SetGridCell(grid_, 1, 0, "", controls::Align::Left, true, false, controls::Green);
-        grid_.fixedBack = controls::DarkCyan;
-        mirror_->Flush();
-        table_->setCurrentCell(0, 0);
-        const QImage cells = table_->viewport()->grab().toImage();
-        QCOMPARE(cells.pixelColor(table_->visualRect(table_->model()->index(0, 0)).center()),
-                 QColor(0, 255, 0));
-        QCOMPARE(table_->horizontalHeader()->grab().toImage().pixelColor(2, 2),
-                 QColor(0, 0xC0, 0xC0));
-    }
-
     void CopyTakesTheSelectedCellsWithTabs() {
         table_->setRangeSelected({0, 1, 1, 2}, true);
         QTest::keyClick(table_.get(), Qt::Key_C, Qt::ControlModifier);
@@ -126,12 +101,8 @@ private slots:
         } cases[] = {
             {"Enter", [&] { key(Qt::Key_Return); }, "x",
              [&] { QTest::keyClick(Editor(), Qt::Key_Return); }, "type 1 1 x"},
-            {"Space", [&] { key(Qt::Key_Space); }, "y",
-             [&] { QTest::keyClick(Editor(), Qt::Key_Tab); }, "type 1 1 y"},
             {"F2", [&] { key(Qt::Key_F2); }, "z",
              [&] { QTest::keyClick(Editor(), Qt::Key_Escape); }, ""},
-            {"a click", [&] { ClickCell(*table_, 0, 1); }, "v", [&] { table_->setFocus(); },
-             "type 1 1 v"},
             {"typing", [&] { key(Qt::Key_W); }, "w", [&] { table_->setFocus(); }, "type 1 1 ww"},
             {"untouched", [&] { key(Qt::Key_F2); }, "", [&] { table_->setFocus(); }, ""},
         };
@@ -151,23 +122,6 @@ private slots:
             QCOMPARE(events_.join(','), c.event);
             QCOMPARE(table_->item(0, 1)->text(), c.begin);  // what the record says, and no other
         }
-        for (const Qt::Key other : {Qt::Key_F2, Qt::Key_W}) {
-            table_->setCurrentCell(0, 0);
-            key(other);
-            QVERIFY(Editor() == nullptr);
-        }
-    }
-
-    void ColumnsGrowWithTheirTextsAndStay() {
-        int growths = 0;
-        table_->onNeed = [&] { ++growths; };
-        const int before = table_->columnWidth(1);
-        for (const char* text : {"a text as long as this one is wide", "short"}) {
-            Set(1, 1, text);
-            mirror_->Flush();
-            QVERIFY(table_->columnWidth(1) > before);
-            QCOMPARE(growths, 1);
-        }
     }
 
     void RowZeroIsTheHeadingOfAGridThatGrows() {
@@ -181,20 +135,6 @@ private slots:
         mirror_->Flush();
         QCOMPARE(table_->rowCount(), 3);
         QCOMPARE(table_->columnWidth(1), 200);
-    }
-
-    void TheWheelZoomsInStepsAndOnlySoFar() {
-        int told = 0;
-        table_->onWheel = [&] { ++told; };
-        for (const int turn : {120, -120, -120}) {
-            QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, turn}, {}, Qt::ControlModifier,
-                              Qt::NoScrollPhase, false);
-            QApplication::sendEvent(table_->viewport(), &wheel);
-        }
-        QCOMPARE(table_->Zoom(), -1);
-        QCOMPARE(told, 3);
-        table_->SetZoom(1000);
-        QVERIFY(table_->Zoom() < 100);
     }
 };
 

@@ -6,11 +6,9 @@
 namespace kelvra::desktop {
 
 // The groups of tests, each made by its own file.
-std::unique_ptr<QObject> AdapterTests();
+std::unique_ptr<QObject> ControlsTests();
 std::unique_ptr<QObject> DialogsTests();
-std::unique_ptr<QObject> EntriesTests();
 std::unique_ptr<QObject> GridTests();
-std::unique_ptr<QObject> WindowTests();
 std::unique_ptr<QObject> ProgramTests();
 
 }  // namespace kelvra::desktop
@@ -19,8 +17,7 @@ int main(int argc, char** argv) {
     using namespace kelvra::desktop;
     QApplication application(argc, argv);
     int failures = 0;
-    for (const auto& make :
-         {AdapterTests, DialogsTests, EntriesTests, GridTests, WindowTests, ProgramTests})
+    for (const auto& make : {ControlsTests, DialogsTests, GridTests, ProgramTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }

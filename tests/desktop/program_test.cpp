@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QLineEdit>
-#include <QMenuBar>
 #include <QMessageBox>
+#include <QWindow>
 
 #include "desktop/running_desktop.h"
 
@@ -80,62 +79,70 @@ private slots:
         const QTemporaryDir data;
         RunningDesktop running(data);
         for (const int row : {0, 1}) ClickCell(running.Results(), row, 0);
-        QString said;
-        WhenAsked<QMessageBox>(running.Main(), [&](QMessageBox& box) {
-            said = box.text();
-            QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-        });
         running.Click("StartIt");
-        QTRY_COMPARE(said, "No operational sensor selected");
+        const auto* box = running.Main().findChild<QMessageBox*>();
+        QVERIFY(box != nullptr && box->isVisible());
+        QCOMPARE(box->text(), "No operational sensor selected");
     }
 
-    void WhatOpensAWindowThatIsNotThereIsDisabledForThisFrontEndOnly() {
+    void TheNextRunKeepsTheZoomOfATable() {
         const QTemporaryDir data;
-        RunningDesktop running(data);
-        auto& form = running.kelvra.forms.mdiMain;
-        form.FileSaveData.enabled = true;
-        form.Show_Settings.tooltip = "";
-        form.Show_Settings.MarkChanged();
-        running.desktop.Painter().Flush();
-        QStringList disabled;
-        for (QAction* menu : running.Main().menuBar()->actions())
-            for (QAction* entry : menu->menu()->actions())
-                if (!entry->isEnabled()) disabled << entry->text() + ": " + entry->toolTip();
-        const QString why = ": This window comes with a later version";
-        QCOMPARE(disabled, (QStringList{"&Record Data..." + why, "Settings always on &top" + why,
-                                        "&About" + why}));
-        const auto& settings = running.Find<QPushButton>("Show_Settings");
-        QVERIFY(!settings.isEnabled() && form.Show_Settings.enabled);
-        QCOMPARE(": " + settings.toolTip(), why);
-    }
-
-    void KeysZoomTheTableWithTheFocusAndTheNextRunKeepsIt() {
-        const QTemporaryDir data;
-        const struct {
-            Qt::Key key;
-            Qt::KeyboardModifiers with;
-            int zoom;
-        } cases[] = {
-            {Qt::Key_Plus, {}, 1},  {Qt::Key_Plus, Qt::KeypadModifier, 2},
-            {Qt::Key_0, {}, 0},     {Qt::Key_Minus, {}, -1},
-            {Qt::Key_Equal, {}, 0}, {Qt::Key_Equal, {}, 1},
-        };
-        {
+        for (const int zoom : {1, 2}) {
             RunningDesktop running(data);
             running.Start().setFocus();
-            const int width = running.Results().columnWidth(1);
-            for (const auto& c : cases) {
-                QTest::keyClick(&running.Main(), c.key, c.with | Qt::ControlModifier);
-                QCOMPARE(running.Results().Zoom(), c.zoom);
-            }
-            QVERIFY(running.Results().columnWidth(1) > width);
-            running.Find<GridWidget>("CalcGrid").setFocus();
-            for (int i = 0; i < 2; ++i)
-                QTest::keyClick(&running.Main(), Qt::Key_Plus, Qt::ControlModifier);
+            QTest::keyClick(&running.Main(), Qt::Key_Plus, Qt::ControlModifier);
+            QCOMPARE(running.Results().Zoom(), zoom);
         }
+    }
+
+    void TabVisitsTheControlsInReadingOrder() {
+        const QTemporaryDir data;
         RunningDesktop running(data);
-        QCOMPARE(running.Results().Zoom(), 1);
-        QCOMPARE(running.Find<GridWidget>("CalcGrid").Zoom(), 2);
+        running.kelvra.forms.mdiMain.StopIt.enabled = true;
+        running.desktop.Painter().Flush();
+        running.Start().setFocus();
+        QStringList visited;
+        do {
+            visited << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (visited.size() < 20 && QApplication::focusWidget() != &running.Start());
+        visited.removeAll("");
+        QCOMPARE(visited, (QStringList{"StartIt", "StopIt", "SensSyncMode", "TimeSensor_select_new",
+                                       "CalcGrid", "ResultGrid"}));
+    }
+
+    void TheFrameShowsItsRecordWithoutAnEcho() {
+        controls::Changes changes;
+        controls::Window record(changes, "W", "Old", {150, 150, 3000, 3000});
+        record.closesByRule = true;
+        int resizes = 0;
+        int closes = 0;
+        record.resize.Connect([&] { ++resizes; });
+        record.closeRequest.Connect([&] { ++closes; });
+        Mirror mirror(changes);
+        FrameWindow frame(record);
+        mirror.Add(record, std::make_unique<FrameWindowAdapter>(record, frame));
+        record.visible = true;
+        mirror.Flush();
+        record.caption = "New";
+        record.place = controls::Geometry{300, 300, 4500, 3750};
+        mirror.Flush();
+        QCoreApplication::processEvents();
+        QCOMPARE(frame.windowTitle(), "New");
+        QCOMPARE(frame.geometry(), QRect(20, 20, 300, 250));
+        QCOMPARE(resizes, 0);
+
+        frame.windowHandle()->setGeometry(50, 60, 320, 260);  // as the window manager does
+        QCoreApplication::processEvents();
+        mirror.Flush();
+        QCOMPARE(frame.geometry(), QRect(50, 60, 320, 260));
+        QCOMPARE(resizes, 1);
+        QCOMPARE(record.place->width, 4800);
+        QCOMPARE(record.place->height, 3900);
+
+        frame.close();
+        QCOMPARE(closes, 1);
+        QVERIFY(frame.isVisible());
     }
 
     void ClosingTheWindowEndsAMeasurementInOrder() {

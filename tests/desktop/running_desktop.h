@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
-#include <memory>
 
 #include "desktop/desktop.h"
 #include "options/surroundings.h"
@@ -24,14 +23,6 @@ inline void When(QObject& alive, std::function<bool()> condition, std::function<
         act();
     });
     look->start(5);
-}
-
-// Acts on the dialog of that kind that comes up.
-template <class Dialog>
-void WhenAsked(QObject& alive, std::function<void(Dialog&)> act) {
-    const auto dialog = [] { return qobject_cast<Dialog*>(QApplication::activeModalWidget()); };
-    When(
-        alive, [=] { return dialog() != nullptr; }, [=] { act(*dialog()); });
 }
 
 inline void ClickCell(QTableWidget& table, int row, int column, Qt::KeyboardModifiers keys = {}) {

@@ -3,14 +3,21 @@
 #include <QtTest>
 #include <functional>
 
-#include "desktop/colour_roles.h"
-#include "desktop/room.h"
+#include "desktop/mirror.h"
+#include "desktop/simple_adapters.h"
 #include "desktop/widget_maker.h"
 
 namespace kelvra::desktop {
 
-class EntriesTest : public QObject {
+class ControlsTest : public QObject {
     Q_OBJECT
+
+    // Outlives the records and widgets that a test puts into it.
+    struct Room {
+        controls::Changes changes;
+        controls::Window window{changes, "W", "", {}};
+        Mirror mirror{changes};
+    };
 
     // The widgets of a test's records, in a window that has the focus, and what the records report.
     // It goes before they do.
@@ -29,18 +36,89 @@ class EntriesTest : public QObject {
         auto* Show(Record& record) {
             auto* made = maker.Make(record);
             rows->addWidget(made);
-            Open();
-            return made;
-        }
-        void Open() {
             widget.show();
             QApplication::setActiveWindow(&widget);
             QCoreApplication::processEvents();
+            return made;
         }
         QStringList Taken() { return std::exchange(events, {}); }
     };
 
 private slots:
+    void APersonsActRaisesOneEventAndTheProgramsChangeNone() {
+        Room room;
+        controls::Button button(room.window, "B");
+        controls::MenuItem item(room.window, "M", "Old");
+        controls::List list(room.window, "L", {{"one", 1}, {"two", 2}}, 0);
+        QWidget parent;
+        QPushButton buttonWidget("Old", &parent);
+        QAction action;
+        action.setCheckable(true);
+        QComboBox box(&parent);
+        int events = 0;
+        for (controls::Event<>* event : {&button.click, &item.click, &list.click})
+            event->Connect([&] { ++events; });
+        room.mirror.Add(button, std::make_unique<ButtonAdapter>(button, buttonWidget));
+        room.mirror.Add(item, std::make_unique<MenuItemAdapter>(item, action));
+        room.mirror.Add(list, std::make_unique<ListAdapter>(list, box));
+        const struct {
+            const char* name;
+            std::function<void()> act;
+            std::function<void()> change;
+            std::function<bool()> shown;
+        } cases[] = {
+            {"button", [&] { QTest::mouseClick(&buttonWidget, Qt::LeftButton); },
+             [&] { button.caption = "New", button.enabled = false; },
+             [&] { return buttonWidget.text() == "New" && !buttonWidget.isEnabled(); }},
+            {"menu entry", [&] { action.trigger(); },
+             [&] { item.caption = "New", item.checked = true, item.enabled = false; },
+             [&] { return action.text() == "New" && action.isChecked() && !action.isEnabled(); }},
+            {"list",
+             [&] {
+                 QTest::keyClick(&box, Qt::Key_Down);
+                 QCOMPARE(list.Data(), 2);
+             },
+             [&] { list.Preselect(0); }, [&] { return box.currentIndex() == 0; }},
+        };
+        for (const auto& c : cases) {
+            events = 0;
+            c.act();
+            QVERIFY2(events == 1, c.name);
+            c.change();
+            QVERIFY2(!c.shown(), c.name);
+            QTRY_VERIFY2(c.shown(), c.name);
+            QVERIFY2(events == 1, c.name);
+        }
+    }
+
+    void LabelsPicturesAndFramesShowTheirRecords() {
+        Room room;
+        controls::Label label(room.window, "L");
+        controls::Picture picture(room.window, "P", "busy1");
+        controls::Frame frame(room.window, "F");
+        QWidget parent;
+        QLabel labelWidget(&parent);
+        QLabel pictureWidget(&parent);
+        QFrame frameWidget(&parent);
+        room.mirror.Add(label, std::make_unique<LabelAdapter>(label, labelWidget));
+        room.mirror.Add(picture, std::make_unique<PictureAdapter>(picture, pictureWidget, 20));
+        room.mirror.Add(frame, std::make_unique<FrameAdapter>(frame, frameWidget));
+        const QImage first = pictureWidget.pixmap().toImage();
+        label.caption = "<b>two</b>\r\nlines \xFF";
+        label.tooltip = "why";
+        label.back = controls::DarkBlue;
+        picture.image = "busy2";
+        frame.visible = false;
+        room.mirror.Flush();
+        QCOMPARE(labelWidget.text(), QString("<b>two</b>\nlines \uFFFD"));
+        QCOMPARE(labelWidget.textFormat(), Qt::PlainText);
+        QCOMPARE(labelWidget.accessibleName(), labelWidget.text());
+        QCOMPARE(labelWidget.toolTip(), "why");
+        QCOMPARE(labelWidget.palette().color(QPalette::WindowText), QColor(Qt::white));
+        QVERIFY(pictureWidget.pixmap().toImage() != first);
+        QVERIFY(!frameWidget.isVisibleTo(&parent));
+    }
+
     void ATextBoxTypesCommitsOnceAndKeepsItsCursor() {
         Room room;
         controls::TextBox box(room.window, "B");
@@ -126,76 +204,12 @@ private slots:
         QVERIFY(options.at(0)->isChecked() && !options.at(2)->isChecked());
         QCOMPARE(page.Taken().size(), 1);
     }
-
-    void AFieldIsARowAndItsLetterLeadsToItsEditor() {
-        Room room;
-        controls::TextField text(room.window, "T", {"lblT", "Up & down", "dB"});
-        controls::CheckField check(room.window, "C", {}, "On");
-        controls::OptionField options(room.window, "O", {"lblO", "Slope"},
-                                      std::vector<std::string>{"up", "down"});
-        Page page(room);
-        text.access.mnemonic = 'd';
-        options.access.mnemonic = 'S';
-        options.SetSelected(1);
-        for (controls::Control* field :
-             std::initializer_list<controls::Control*>{&text, &check, &options})
-            page.maker.AddRow(*page.rows, *field);
-        page.Open();
-        const auto label = [&](const char* name) { return page.widget.findChild<QLabel*>(name); };
-        QCOMPARE(label("lblT")->text(), "Up && &down");
-        QCOMPARE(label("lblTUnit")->text(), "dB");
-        QCOMPARE(page.widget.findChildren<QLabel*>().size(), 3);
-        QCOMPARE(page.widget.findChild<QLineEdit*>("T")->accessibleName(), "Up & down");
-        QTest::keyClick(&page.widget, Qt::Key_S, Qt::AltModifier);
-        QCOMPARE(QApplication::focusWidget()->objectName(), "O(1)");
-        QTest::keyClick(&page.widget, Qt::Key_D, Qt::AltModifier);
-        QCOMPARE(QApplication::focusWidget()->objectName(), "T");
-    }
-
-    void ColoursGoToTheRolesOfTheKindAndCanBeTakenBack() {
-        Room room;
-        controls::Label label(room.window, "L");
-        controls::Button button(room.window, "B");
-        controls::TextBox box(room.window, "T");
-        controls::CheckBox check(room.window, "C", "");
-        controls::List list(room.window, "I");
-        controls::Frame frame(room.window, "F");
-        Page page(room);
-        const struct {
-            controls::Control& control;
-            QPalette::ColorRole back, fore;
-        } cases[] = {
-            {label, QPalette::Window, QPalette::WindowText},
-            {button, QPalette::Button, QPalette::ButtonText},
-            {box, QPalette::Base, QPalette::Text},
-            {check, QPalette::Window, QPalette::WindowText},
-            {list, QPalette::Button, QPalette::ButtonText},
-            {frame, QPalette::Window, QPalette::WindowText},
-        };
-        for (const auto& c : cases) {
-            QWidget& widget = *page.maker.MakeAny(c.control);
-            widget.setParent(&page.widget);
-            const QPalette original = widget.palette();
-            c.control.back = controls::DarkBlue;
-            room.mirror.Flush();
-            QCOMPARE(widget.palette().color(c.back), ToolkitColour(controls::DarkBlue));
-            QCOMPARE(widget.palette().color(c.fore), QColor(Qt::white));
-            c.control.fore = controls::Red;
-            room.mirror.Flush();
-            QCOMPARE(widget.palette().color(c.fore), QColor(255, 0, 0));
-            c.control.back = std::nullopt;
-            c.control.fore = std::nullopt;
-            room.mirror.Flush();
-            QVERIFY2(widget.palette() == original, c.control.Name().c_str());
-            QVERIFY(!widget.autoFillBackground());
-        }
-    }
 };
 
-std::unique_ptr<QObject> EntriesTests() {
-    return std::make_unique<EntriesTest>();
+std::unique_ptr<QObject> ControlsTests() {
+    return std::make_unique<ControlsTest>();
 }
 
 }  // namespace kelvra::desktop
 
-#include "entries_test.moc"
+#include "controls_test.moc"
