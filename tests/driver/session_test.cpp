@@ -6,22 +6,6 @@
 
 namespace kelvra::driver {
 
-TEST_F(DriverTest, TheFirstSlotOpensTheSessionAndOthersAreAddedToIt) {
-    table_[0].waitTicks = table_[1].waitTicks = 5;
-    session_.OpenSensor(0);
-    session_.OpenSensor(1);
-    EXPECT_EQ(driver_.calls,
-              (Lines{"psdrv_init(USB::1, 1, 1)", "psdrv_AddSensor(12, 2, USB::2, 1, 1)"}));
-    EXPECT_EQ(LogLines(),
-              (Lines{"psdrv_init(USB::1, 1, 1, 0) STARTING",
-                     "psdrv_init FINISHED -> instrumentHandle:  12",
-                     "psdrv_AddSensor(12, 2, USB::2, 1, 1) STARTING", "psdrv_AddSensor FINISHED"}));
-    EXPECT_TRUE(table_[0].sessionOpen && table_[1].sessionOpen);
-    EXPECT_EQ(table_[0].waitTicks + table_[1].waitTicks, 0);
-    EXPECT_EQ(fake_.clock.Monotonic(), std::chrono::milliseconds(200));
-    EXPECT_FALSE(state_.sessionClosed);
-}
-
 TEST_F(DriverTest, NothingIsCalledForASlotThatCannotBeOpened) {
     table_[0].resourceName = "  ";
     session_.OpenSensor(0);
@@ -31,22 +15,6 @@ TEST_F(DriverTest, NothingIsCalledForASlotThatCannotBeOpened) {
     session_.OpenSensor(1);
     EXPECT_TRUE(table_[1].sessionOpen);
     EXPECT_EQ(driver_.calls, Lines());
-}
-
-TEST_F(DriverTest, AFailedInitLeavesNoHandleAndNothingToClose) {
-    Fail("psdrv_init", -5);
-    session_.OpenSensor(0);
-    EXPECT_EQ(state_.instrumentHandle, 0U);
-    EXPECT_FALSE(table_[0].sessionOpen);
-    EXPECT_EQ(driver_.Count("psdrv_close"), 0);
-    EXPECT_EQ(notices_, (Lines{"failed 0: psdrv_init\r\n  bad value\r\n  queue empty",
-                               "not opened 0: bad value\r\n(queue empty)"}));
-    EXPECT_EQ(LogLines(),
-              (Lines{"psdrv_init(USB::1, 1, 1, 0) STARTING",
-                     "   ERROR: Session  0, Code -5=0xFFFFFFFB", "   error_message: bad value",
-                     "   error_query: 'queue empty'", "psdrv_init FINISHED -> instrumentHandle:  0",
-                     "psdrv_error_message(  0, -5 ) STARTING", "psdrv_error_message -> FINISHED",
-                     "psdrv_error_query(  0, -5 ) STARTING", "psdrv_error_query -> FINISHED"}));
 }
 
 TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
@@ -75,17 +43,6 @@ TEST_F(DriverTest, WhatIsMissingIsNamedAndWhatHasNoWordsIsANumber) {
         EXPECT_EQ(notices_.back(), "not opened 0: " + words);
         EXPECT_FALSE(table_[0].sessionOpen);
     }
-}
-
-TEST_F(DriverTest, ATextOfTheDriverEndsInsideItsBuffer) {
-    const std::string full(256, 'x');
-    driver_.terminated = false;
-    for (const std::string& message : {full, std::string("short"), std::string("\xFF\xFE")}) {
-        driver_.message = message;
-        EXPECT_EQ(session_.MessageFor({-5}), message);
-    }
-    driver_.message = "";
-    EXPECT_EQ(session_.MessageFor({-5}), "-5");
 }
 
 TEST_F(DriverTest, TheLogSaysWhichLibraryOrFunctionIsNotThere) {

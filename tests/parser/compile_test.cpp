@@ -14,10 +14,9 @@ TEST(Compile, EachMistakeHasItsMessage) {
         {"x|3|", "syntax error at pos: 2"}, {"1;2", "syntax error at pos: 2"},
         {"max(min(a;b);c)", "syntax error at pos: 13"}, {"(1", "Not enough closing brackets"},
         {"foo(3)", "Function <foo> unknown at pos  4"}, {"2(3)", "Function <2> unknown at pos  2"},
-        {"1/\xC3\xA4(3)", "Function <\xC3\xA4> unknown at pos  4"}, {"*3", "missing argument"},
         {"!", "missing argument"}, {"max(;2)", "missing argument"}, {"a< =b", "missing argument"},
         {"2a", letter + "2a"}, {"1.5.2", letter + "1.5.2"}, {".", letter + "."},
-        {"1E", letter + "1E"}, {"_a", letter + "_a"}, {SumOfVariables(101), "too many Vars"},
+        {"1E", letter + "1E"}, {SumOfVariables(101), "too many Vars"},
         {Repeated(101, "1+", "", "1"), "too many operations"},
         {Repeated(101, "!", "1"), "too many operations"},
     };
@@ -45,18 +44,12 @@ TEST(Compile, VariablesAreNumberedByFirstAppearance) {
     }
 }
 
-TEST(Compile, HundredVariablesAndHundredEntriesFitAndOtherNumbersAreHarmless) {
+TEST(Compile, HundredVariablesAndHundredEntriesFit) {
     Formula variables(SumOfVariables(100));
     ASSERT_TRUE(variables.compiles) << variables.Error();
     for (int i = 1; i <= 100; ++i) variables.parser.VarValue(i, i);
     EXPECT_EQ(variables.parser.Eval(), 5050);
     EXPECT_EQ(Formula(Repeated(100, "1+", "", "1")).parser.Eval(), 101);
-    Formula tooMany(SumOfVariables(101));
-    for (const int i : {-1, 0, 101, 102}) {
-        tooMany.parser.VarValue(i, 7);
-        EXPECT_EQ(tooMany.parser.VarName(i), "") << i;
-        EXPECT_EQ(tooMany.parser.VarValue(i), 0) << i;
-    }
 }
 
 TEST(Compile, NumbersAndUnitsHaveTheirValue) {
@@ -67,38 +60,6 @@ TEST(Compile, NumbersAndUnitsHaveTheirValue) {
         {"5Dm", 50}, {"5HPa", 500}, {"1GHz", 1e9}, {"1TW", 1e12}, {"6S+1ohm", 7},
         {"pi", 3.14159265358979},
     });
-}
-
-TEST(Compile, TheDumpShowsWhatTheFormulaSays) {
-    Formula formula("  2x!<=Max(a;-3)");
-    ASSERT_TRUE(formula.compiles) << formula.Error();
-    formula.parser.VarValue(1, 3);
-    formula.parser.VarValue(2, 20);
-    EXPECT_EQ(formula.parser.Eval(), 1);
-    std::vector<std::string> lines;
-    formula.parser.Dump([&](std::string_view line) { lines.emplace_back(line); });
-    EXPECT_EQ(lines, (std::vector<std::string>{
-        "Dump Level ", std::string(32, '-'),
-        "Id\tFun\tArgTop\tA0 Idx\tArg0 Name\tArg0 Value\tA1 Idx\tArg1 Name\tArg1 Value\t"
-        "ArgOf\tArgIdx\tValue\tPriLvl\tPosInExpr\tPriIdx",
-        "2\t*\t2\t0\t\t2\t0\t\t6\t3\t1\t12\t3\t2\t5", "30\t!\t1\t1\tx\t3\t0\t\t0\t1\t2\t6\t9\t3\t4",
-        "39\t<=\t2\t0\t\t12\t0\t\t20\t0\t0\t1\t1\t5\t2",
-        "33\tMax\t2\t2\ta\t20\t0\t\t-3\t3\t2\t20\t10\t11\t1",
-        "1\t-\t2\t0\t\t0\t0\t\t3\t4\t2\t-3\t12\t12\t3"}));
-}
-
-TEST(Compile, StoringAgainStartsAfresh) {
-    Formula formula("a+b");
-    EXPECT_EQ(formula.parser.Expression(), "a+b");
-    formula.parser.VarValue(1, 3);
-    EXPECT_TRUE(formula.parser.StoreExpression(formula.parser.Expression()));
-    EXPECT_EQ(formula.parser.VarValue(1), 0);
-    EXPECT_FALSE(formula.parser.StoreExpression("  1+c/0) "));
-    EXPECT_EQ(formula.parser.Expression(), "1+c/0)");
-    EXPECT_TRUE(formula.parser.StoreExpression("7"));
-    EXPECT_EQ(formula.Error(), "");
-    EXPECT_EQ(formula.parser.VarTop(), 0);
-    EXPECT_EQ(formula.parser.Eval(), 7);
 }
 
 std::string Many(std::string_view text, std::string_view before = {}, std::string_view after = {}) {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <memory>
 #include <thread>
 
@@ -18,13 +17,6 @@ using test::FaultyFiles;
 
 class DataFolderTest : public testing::Test {
 protected:
-    std::unique_ptr<FolderUse> Enter() {
-        auto use = std::make_unique<FolderUse>(files_);
-        use->Begin(folder_.Path());
-        EXPECT_FALSE(use->Error());
-        return use;
-    }
-
     test::TempFolder folder_;
     PosixFiles files_;
     FaultyFiles faulty_{files_};
@@ -43,15 +35,6 @@ TEST_F(DataFolderTest, OneChangesFilesAtATimeAndWaitsForTheOtherButNotForEver) {
               "another Kelvra is changing the files of this folder");
 }
 
-TEST_F(DataFolderTest, AKilledProgramHoldsNoLock) {
-    const auto dies = [this] {
-        const FolderLock lock(files_, folder_.Path());
-        std::_Exit(lock.Error() ? 1 : FaultyFiles::StopStatus);
-    };
-    for (int run = 0; run < 2; ++run)
-        EXPECT_EXIT(dies(), testing::ExitedWithCode(FaultyFiles::StopStatus), "");
-}
-
 TEST_F(DataFolderTest, AFileSystemWithoutLocksIsNoErrorButAFolderThatIsNotThereIs) {
     for (const std::errc lockless : {std::errc::no_lock_available, std::errc::not_supported}) {
         faulty_.Plan(1, FaultyFiles::Fault::Fail, make_error_code(lockless));
@@ -64,25 +47,15 @@ TEST_F(DataFolderTest, AFileSystemWithoutLocksIsNoErrorButAFolderThatIsNotThereI
     EXPECT_EQ(use.Error(), std::errc::no_such_file_or_directory);
 }
 
-TEST_F(DataFolderTest, WhoComesSecondSeesTheOthersUntilTheyHaveGone) {
-    auto first = Enter();
-    EXPECT_FALSE(first->Shared());
-    const auto second = Enter();
-    EXPECT_TRUE(second->Shared());
-    first.reset();
-    EXPECT_TRUE(Enter()->Shared());
-    second->LookAgain();
-    EXPECT_FALSE(second->Shared());
-    EXPECT_TRUE(Enter()->Shared());
-}
-
 TEST_F(DataFolderTest, TheTemporaryFilesOfKilledSavesGoAndNothingElse) {
     const std::set<std::string> kept{"kelvra-use.lock", "kelvra-save.lock",    "Kelvra.INI",
                                      "kelvra-.tmp",     "kelvra-notes.tmp",    "kelvra-1A.tmp~",
                                      "kelvra-1A.TMP",   "kelvra-123456789.tmp"};
     for (const std::string& name : kept) folder_.Put(name, "");
     for (const char* name : {"kelvra-0.tmp", "kelvra-1A2B3C4D.tmp"}) folder_.Put(name, "half");
-    Enter();
+    FolderUse use(files_);
+    use.Begin(folder_.Path());
+    EXPECT_FALSE(use.Error());
     EXPECT_EQ(folder_.Names(), kept);
 }
 

@@ -105,7 +105,7 @@ TEST_F(FileToolsTest, ReadingGoesOnAfterAShortReadAndReportsEveryError) {
     EXPECT_EQ(ReadWholeFile(files_, "/dev/zero", bytes), std::errc::file_too_large);
 }
 
-TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
+TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorReplaced) {
     folder_.Put("f", old_);
     fs::resize_file(path_, LargestFile + 1);
     faulty_.Plan(0, Fault::None);
@@ -114,32 +114,6 @@ TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
     EXPECT_EQ(tooLarge.Save(), std::errc::file_too_large);
     EXPECT_EQ(faulty_.Operations(), 0);
     EXPECT_EQ(fs::file_size(path_), LargestFile + 1);
-    fs::resize_file(path_, LargestFile);
-    ProfileFile full(files_, path_);
-    EXPECT_FALSE(full.LoadError());
-    full.Text().Write("s", "k", "v");
-    EXPECT_EQ(full.Save(), std::errc::file_too_large);
-    EXPECT_EQ(fs::file_size(path_), LargestFile);
-}
-
-TEST_F(FileToolsTest, AppendingMakesTheFileAndContinuesAShortWrite) {
-    EXPECT_FALSE(AppendToFile(files_, path_, "one,"));
-    faulty_.Plan(2, Fault::Short);
-    EXPECT_FALSE(AppendToFile(faulty_, path_, "two"));
-    EXPECT_EQ(folder_.Get("f"), "one,two");
-    faulty_.Plan(3, Fault::Fail);
-    EXPECT_EQ(AppendToFile(faulty_, path_, "!"), std::errc::no_space_on_device);
-}
-
-TEST_F(FileToolsTest, AProfileIsWrittenOnlyWhenItHasChanged) {
-    ProfileFile missing(files_, path_);
-    EXPECT_FALSE(missing.Save());
-    EXPECT_EQ(folder_.Names(), Names{});
-    folder_.Put("f", "[s]\r\nk=v\r\n");
-    fs::permissions(path_, ReadOnly);  // any write would fail now
-    ProfileFile same(files_, path_);
-    same.Text().Write("S", "K", "v");
-    EXPECT_FALSE(same.Save());
 }
 
 }  // namespace kelvra::platform

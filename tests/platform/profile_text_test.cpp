@@ -18,13 +18,10 @@ TEST(ProfileText, ReadsWhatTheFirstKeyOfTheFirstSectionSays) {
         {"[s]\nk=1\nK=2\n[S]\nk=3\nother=4", "s", "k", "1"},
         {"[s]\nk=1\n[t]\n[S]\nother=4", "s", "other", "none"}, {"k=0\n[s]\nj=1", "s", "k", "none"},
         {"[]\n=0\n", "", "", "0"}, {"[s]\n;k=1\n ; k=2\n", "s", ";k", "none"},
-        {"[s]\n k \nk=1", "s", "k", "none"}, {"[s]\n;k\nk=1", "s", "k", "1"},
         {"[s]\nk=a=b;c", "s", "k", "a=b;c"},
         {"[s\nk=1\n", "s", "k", "none"}, {"[a]b]\nk=1\n", "a", "k", "1"},
         {"[s]\nk= \" v \" \n", "s", "k", " v "}, {"[s]\nk='\"v\"'\n", "s", "k", "\"v\""},
-        {"[s]\nk=\"v'\n", "s", "k", "\"v'"}, {"[s]\nk=\"\"\n", "s", "k", ""},
         {"[s]\nk=a\0b\xFF\n"s, "s", "k", "a\0b\xFF"s}, {"[\xC4]\nk=1\n", "\xE4", "k", "none"},
-        {"[a]\nb=1\n", "a\nb", "", "none"}, {"", "s", "k", "none"},
     };
     for (const auto& [bytes, section, key, value] : cases)
         EXPECT_EQ(ProfileText(bytes).Read(section, key, "none"), value) << bytes;
@@ -34,8 +31,6 @@ TEST(ProfileText, WritesInPlaceAndLeavesTheRest) {
     const struct { std::string before, section, key, value, after; } cases[] = {
         {"[s]\n K = old ; \n\nj=1", "S", "k", "new", "[s]\n K =new\n\nj=1"},
         {"[s]\nk=1\nk=2", "s", "k", "3", "[s]\nk=3\nk=2"},
-        {"[s]\nj\n K \nk=1", "S", "k", "3", "[s]\nj\n K=3\nk=1"},
-        {"[s]\nk", "s", "k", "", "[s]\nk="},
         {"[s]\n[k\nk=1", "s", "[k", "]", "[s]\n[k=]\nk=1"},
         {"[s]\nk=", "s", "k", "3", "[s]\nk=3"}, {"[s]\rk=\rj=2", "s", "j", "3", "[s]\rk=\rj=3"},
         {"[s]\nk=\"1\"\n", "s", "k", "1", "[s]\nk=1\n"},
@@ -48,7 +43,6 @@ TEST(ProfileText, WritesInPlaceAndLeavesTheRest) {
         {"[s]\r;k=1\r\r", "s", "k", "v", "[s]\r;k=1\rk=v\r\n\r"},
         {"", "s", "k", "v", "[s]\r\nk=v\r\n"}, {"k=1", "s", "k", "v", "k=1\r\n[s]\r\nk=v\r\n"},
         {"[t]\nk=1\n\n", " s", "k", "v", "[t]\nk=1\n\n[s]\r\nk=v\r\n"},
-        {"[t]\r", "s", "k", "'v'", "[t]\r[s]\r\nk='v'\r\n"},
     };
     for (const auto& [before, section, key, value, after] : cases) {
         ProfileText text(before);

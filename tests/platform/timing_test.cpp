@@ -3,33 +3,11 @@
 
 #include <string>
 
-#include "platform/clock.h"
 #include "platform/timer_list.h"
 
 namespace kelvra::platform {
 
 using namespace std::chrono_literals;
-
-TEST(SetClock, GoesOnOverMidnightAndLeapDaysAndNeverBack) {
-    const struct {
-        LocalTime start;
-        Duration elapsed;
-        int year, month, day;
-        double seconds;
-    } cases[] = {
-        {{2004, 2, 28, 23, 59, 59, 999}, 1ms, 2004, 2, 29, 0},
-        {{1999, 12, 31, 0, 0, 0, 0}, 24h + 61s + 999999ns, 2000, 1, 1, 61},
-    };
-    for (const auto& [start, elapsed, year, month, day, seconds] : cases) {
-        SetClock clock(start);
-        clock.Sleep(elapsed);
-        clock.AdvanceTo(elapsed - 1ms);
-        EXPECT_EQ(clock.Monotonic(), elapsed);
-        const LocalTime now = clock.Now();
-        EXPECT_TRUE(now.year == year && now.month == month && now.day == day) << year;
-        EXPECT_DOUBLE_EQ(now.SecondsSinceMidnight(), seconds);
-    }
-}
 
 class TimerListTest : public testing::Test {
 protected:
