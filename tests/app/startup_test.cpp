@@ -86,4 +86,41 @@ TEST_F(StartupTest, RemembersWhatTheUserHasSwitchedOffInThisRun) {
     ExpectSlots("AB", "AB");
 }
 
+TEST_F(StartupTest, TheTitleNamesVersionDateAndDebugMode) {
+    const platform::LocalTime march{2005, 3, 7, 1, 2, 3, 0};
+    const struct {
+        int revision;
+        std::optional<platform::LocalTime> date;
+        std::string commandLine, rest;
+    } cases[] = {
+        {22, march, "/Debug", "1.0.22 from 3/7/2005 [DEBUG MODE]"},
+        {0, {}, "DEB UG", "1.0 from "},
+    };
+    for (const auto& [revision, date, commandLine, rest] : cases) {
+        fake.computer.version.revision = revision;
+        fake.computer.programDate = date;
+        fake.computer.commandLine = commandLine;
+        folder.Put("DebugKelvra.txt", "old");
+        EXPECT_EQ(Start().forms.mdiMain.caption.Get(), "Halvex Kelvra, Version " + rest);
+        EXPECT_EQ(folder.Get("DebugKelvra.txt").find("old"), std::string::npos);
+    }
+}
+
+TEST_F(StartupTest, HasAsManySlotsAsTheListHasPlacesButEightForOneSensor) {
+    const struct {
+        std::string places, slots, text;
+    } cases[] = {
+        {"A", "A.......", "1 sensor connected"},
+        {"A.C", "AC.", "2 sensors connected"},
+        {"ABCDEFGHIJ", "ABCDEFGHIJ", "10 sensors connected"},
+    };
+    for (const auto& [places, slots, text] : cases) {
+        Plug(places);
+        Start();
+        EXPECT_EQ(Slots(), slots) << places;
+        EXPECT_EQ(program->forms.mdiMain.ConSensors.caption.Get(), text);
+        EXPECT_EQ(program->forms.setupForm.SensSelect.Count(), program->catalogue.Connected());
+    }
+}
+
 }  // namespace kelvra::app

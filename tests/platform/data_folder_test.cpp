@@ -59,4 +59,13 @@ TEST_F(DataFolderTest, TheTemporaryFilesOfKilledSavesGoAndNothingElse) {
     EXPECT_EQ(folder_.Names(), kept);
 }
 
+TEST_F(DataFolderTest, AKilledProgramHoldsNoLock) {
+    const auto dies = [this] {
+        const FolderLock lock(files_, folder_.Path());
+        std::_Exit(lock.Error() ? 1 : FaultyFiles::StopStatus);
+    };
+    for (int run = 0; run < 2; ++run)
+        EXPECT_EXIT(dies(), testing::ExitedWithCode(FaultyFiles::StopStatus), "");
+}
+
 }  // namespace kelvra::platform

@@ -116,4 +116,30 @@ TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorReplaced) {
     EXPECT_EQ(fs::file_size(path_), LargestFile + 1);
 }
 
+TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
+    folder_.Put("f", old_);
+    fs::resize_file(path_, LargestFile + 1);
+    faulty_.Plan(0, Fault::None);
+    ProfileFile tooLarge(faulty_, path_);
+    tooLarge.Text().Write("s", "k", "v");
+    EXPECT_EQ(tooLarge.Save(), std::errc::file_too_large);
+    EXPECT_EQ(faulty_.Operations(), 0);
+    EXPECT_EQ(fs::file_size(path_), LargestFile + 1);
+    fs::resize_file(path_, LargestFile);
+    ProfileFile full(files_, path_);
+    EXPECT_FALSE(full.LoadError());
+    full.Text().Write("s", "k", "v");
+    EXPECT_EQ(full.Save(), std::errc::file_too_large);
+    EXPECT_EQ(fs::file_size(path_), LargestFile);
+}
+
+TEST_F(FileToolsTest, AppendingMakesTheFileAndContinuesAShortWrite) {
+    EXPECT_FALSE(AppendToFile(files_, path_, "one,"));
+    faulty_.Plan(2, Fault::Short);
+    EXPECT_FALSE(AppendToFile(faulty_, path_, "two"));
+    EXPECT_EQ(folder_.Get("f"), "one,two");
+    faulty_.Plan(3, Fault::Fail);
+    EXPECT_EQ(AppendToFile(faulty_, path_, "!"), std::errc::no_space_on_device);
+}
+
 }  // namespace kelvra::platform
