@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <functional>
 
+#include "desktop/colour_roles.h"
 #include "desktop/mirror.h"
 #include "desktop/simple_adapters.h"
 #include "desktop/widget_maker.h"
@@ -203,6 +204,45 @@ private slots:
         room.mirror.Flush();
         QVERIFY(options.at(0)->isChecked() && !options.at(2)->isChecked());
         QCOMPARE(page.Taken().size(), 1);
+    }
+
+    void ColoursGoToTheRolesOfTheKindAndCanBeTakenBack() {
+        Room room;
+        controls::Label label(room.window, "L");
+        controls::Button button(room.window, "B");
+        controls::TextBox box(room.window, "T");
+        controls::CheckBox check(room.window, "C", "");
+        controls::List list(room.window, "I");
+        controls::Frame frame(room.window, "F");
+        Page page(room);
+        const struct {
+            controls::Control& control;
+            QPalette::ColorRole back, fore;
+        } cases[] = {
+            {label, QPalette::Window, QPalette::WindowText},
+            {button, QPalette::Button, QPalette::ButtonText},
+            {box, QPalette::Base, QPalette::Text},
+            {check, QPalette::Window, QPalette::WindowText},
+            {list, QPalette::Button, QPalette::ButtonText},
+            {frame, QPalette::Window, QPalette::WindowText},
+        };
+        for (const auto& c : cases) {
+            QWidget& widget = *page.maker.MakeAny(c.control);
+            widget.setParent(&page.widget);
+            const QPalette original = widget.palette();
+            c.control.back = controls::DarkBlue;
+            room.mirror.Flush();
+            QCOMPARE(widget.palette().color(c.back), ToolkitColour(controls::DarkBlue));
+            QCOMPARE(widget.palette().color(c.fore), QColor(Qt::white));
+            c.control.fore = controls::Red;
+            room.mirror.Flush();
+            QCOMPARE(widget.palette().color(c.fore), QColor(255, 0, 0));
+            c.control.back = std::nullopt;
+            c.control.fore = std::nullopt;
+            room.mirror.Flush();
+            QVERIFY2(widget.palette() == original, c.control.Name().c_str());
+            QVERIFY(!widget.autoFillBackground());
+        }
     }
 };
 

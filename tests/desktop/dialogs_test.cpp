@@ -5,12 +5,32 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+#include <QScreen>
+
+#include "desktop/common.h"
 #include "desktop/running_desktop.h"
+#include "ui/result_columns.h"
 
 namespace kelvra::desktop {
 
 class DialogsTest : public QObject {
     Q_OBJECT
+
+    // What the status column says whenever the table is painted.
+    struct Painted : QObject {
+        explicit Painted(QTableWidget& watched) : table(watched) {
+            table.viewport()->installEventFilter(this);
+        }
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() != QEvent::Paint) return false;
+            QStringList now;
+            for (const int row : {0, 1}) now << table.item(row, ui::StatusColumn)->text();
+            texts << now.join('|');
+            return false;
+        }
+        QTableWidget& table;
+        QStringList texts;
+    };
 
     template <class Dialog>
     static QList<Dialog*> Visible(const QWidget& parent) {
@@ -106,6 +126,25 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(answers, 0);
         QVERIFY(prompt == nullptr);
+    }
+
+    void TheStateOfATransferIsPaintedAtOnce() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        Painted painted(running.Results());
+        auto& marks = running.kelvra.windows.marks;
+        marks.TransferBegins(0);
+        marks.TransferEnds(0);
+        marks.TransferBegins(1);
+        QCOMPARE(painted.texts, (QStringList{"CONF|", "|", "|CONF"}));
+    }
+
+    void TheFrameIsInTheMiddleOfTheScreenThatIsThere() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const auto& place = running.kelvra.forms.mdiMain.place.Get();
+        QCOMPARE(2 * place.left + place.width, Twips(screen.width()));
     }
 };
 

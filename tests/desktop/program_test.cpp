@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QWindow>
 
+#include "desktop/common.h"
 #include "desktop/running_desktop.h"
 
 namespace kelvra::desktop {
@@ -160,6 +162,45 @@ private slots:
         QVERIFY(running.kelvra.state.stopRequested);
         QVERIFY(!running.kelvra.state.measuring);
         QVERIFY(!running.kelvra.state.commandRuns);
+    }
+
+    void AnEdgeDraggedByAPersonStaysAndIsTheRecords() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& inside = running.Find<QMdiSubWindow>("");
+        QTest::qWait(1);  // its first size comes later
+        const auto& place = running.kelvra.forms.statusForm.place;
+        const int before = place->width;
+        const QPoint edge(inside.width() - 1, inside.height() / 2);
+        QTest::mouseMove(&inside, edge);
+        QTest::mousePress(&inside, Qt::LeftButton, {}, edge);
+        const QSize wanted = inside.size() + QSize(50, 0);
+        inside.resize(wanted);
+        QTest::mouseRelease(&inside, Qt::LeftButton, {}, edge);
+        inside.resize(wanted + QSize(10, 0));  // nobody's hand
+        running.desktop.Painter().Flush();
+        QCOMPARE(place->width, Twips(wanted.width()));
+        QVERIFY(place->width > before);
+    }
+
+    void WhatOpensAWindowThatIsNotThereIsDisabledForThisFrontEndOnly() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& form = running.kelvra.forms.mdiMain;
+        form.FileSaveData.enabled = true;
+        form.Show_Settings.tooltip = "";
+        form.Show_Settings.MarkChanged();
+        running.desktop.Painter().Flush();
+        QStringList disabled;
+        for (QAction* menu : running.Main().menuBar()->actions())
+            for (QAction* entry : menu->menu()->actions())
+                if (!entry->isEnabled()) disabled << entry->text() + ": " + entry->toolTip();
+        const QString why = ": This window comes with a later version";
+        QCOMPARE(disabled, (QStringList{"&Record Data..." + why, "Settings always on &top" + why,
+                                        "&About" + why}));
+        const auto& settings = running.Find<QPushButton>("Show_Settings");
+        QVERIFY(!settings.isEnabled() && form.Show_Settings.enabled);
+        QCOMPARE(": " + settings.toolTip(), why);
     }
 };
 
