@@ -105,17 +105,6 @@ TEST_F(FileToolsTest, ReadingGoesOnAfterAShortReadAndReportsEveryError) {
     EXPECT_EQ(ReadWholeFile(files_, "/dev/zero", bytes), std::errc::file_too_large);
 }
 
-TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorReplaced) {
-    folder_.Put("f", old_);
-    fs::resize_file(path_, LargestFile + 1);
-    faulty_.Plan(0, Fault::None);
-    ProfileFile tooLarge(faulty_, path_);
-    tooLarge.Text().Write("s", "k", "v");
-    EXPECT_EQ(tooLarge.Save(), std::errc::file_too_large);
-    EXPECT_EQ(faulty_.Operations(), 0);
-    EXPECT_EQ(fs::file_size(path_), LargestFile + 1);
-}
-
 TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
     folder_.Put("f", old_);
     fs::resize_file(path_, LargestFile + 1);
