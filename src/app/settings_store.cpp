@@ -43,6 +43,8 @@ void SettingsStore::ShowUse() {
         text = "The data folder can't be locked: " + folder_ + ": " + use_.Error().message();
     else if (use_.Shared())
         text = "Another Kelvra is using the data folder: " + folder_;
+    if (text == useTrouble_) return;
+    useTrouble_ = text;
     if (text.empty()) return notice_.EndFileTrouble(folder_);
     notice_.ShowFileTrouble(folder_, text);
     log_.Write(text);

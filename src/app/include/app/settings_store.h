@@ -68,6 +68,7 @@ private:
     std::string iniPath_;
     std::map<std::string, Kept> kept_;  // by SensorId
     std::string loadFailure_;           // of the latest read
+    std::string useTrouble_;            // as last shown
     std::string saveFailure_;
 };
 
