@@ -68,7 +68,7 @@ private slots:
         window.show();
         dialogs.SetParent(window);
         const struct {
-            Qt::Key key;
+            Qt::Key key{};
             std::optional<std::string> answer;
         } cases[] = {{Qt::Key_Return, "proposed"}, {Qt::Key_Escape, std::nullopt}};
         for (const auto& c : cases) {

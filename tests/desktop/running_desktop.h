@@ -15,7 +15,8 @@
 namespace kelvra::desktop {
 
 // Acts once, as soon as the condition holds; looks while the object is there.
-inline void When(QObject& alive, std::function<bool()> condition, std::function<void()> act) {
+inline void When(QObject& alive, const std::function<bool()>& condition,
+                 const std::function<void()>& act) {
     auto* look = new QTimer(&alive);
     QObject::connect(look, &QTimer::timeout, [=] {
         if (!condition()) return;
