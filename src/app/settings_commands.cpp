@@ -72,9 +72,9 @@ std::error_code SettingsCommands::Write(const std::string& path) {
 }
 
 void SettingsCommands::AskFile(const platform::FileQuestion& question,
-                               std::function<void(const std::string& path)> goOn) {
+                               const std::function<void(const std::string& path)>& goOn) {
     const std::string sensor = table_[table_.currentSensor].resourceName;
-    host_.dialogs.AskFile(question, [this, sensor, goOn](std::optional<std::string> path) {
+    host_.dialogs.AskFile(question, [this, sensor, goOn](const std::optional<std::string>& path) {
         if (!path || path->empty()) return;
         if (table_[table_.currentSensor].resourceName == sensor) return goOn(*path);
         host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",

@@ -29,8 +29,11 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
              &enabling, &sensorName, &lists, &results, &errorStrip, &displayLists, &mainWindow,
-             &speed, &calcGrid, &notice, &recordMenu, &startMessages})
+             &speed, &notice, &recordMenu, &startMessages})
         news.measurement.Add(*listener);
+    for (measure::PassListener* listener :
+         std::initializer_list<measure::PassListener*>{&speed, &calcGrid, &notice, &recordMenu})
+        news.pass.Add(*listener);
     news.slot.Add(marks);
     news.slot.Add(results);
     session.notices.Add(errorStrip);

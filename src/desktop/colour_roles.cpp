@@ -20,7 +20,7 @@ constexpr Roles Sheet{QPalette::Base, QPalette::Text};
 constexpr Roles None{};
 
 struct KindRoles {
-    Kind kind;
+    Kind kind{};
     Roles roles;
 };
 

@@ -26,7 +26,8 @@ bool Cycle::Takes(int slot) const {
 }
 
 void Cycle::Pass() {
-    const platform::Duration passBegan = p_.host.clock.Monotonic();
+    const platform::Duration passBegan =
+        run_.lastPassEnded ? *run_.lastPassEnded : p_.host.clock.Monotonic();
     pacing_.PassBegins(passBegan);
     rounds_.Restart(passBegan);
     for (int slot = 0; slot < p_.table.Slots(); ++slot) {
@@ -37,21 +38,23 @@ void Cycle::Pass() {
     }
     if (p_.state.Ending()) return;
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
-    const auto& listeners = p_.news.measurement;
+    const auto& listeners = p_.news.pass;
     Initiate();
-    listeners.Tell(&MeasurementListener::PassStarted);
+    listeners.Tell(&PassListener::PassStarted);
     Poll(p_.host.clock.Monotonic());
     if (p_.state.Ending()) return;
     Fetch();
     if (p_.state.Ending()) return;
-    listeners.Tell(&MeasurementListener::PassMeasured);
+    listeners.Tell(&PassListener::PassMeasured);
     p_.host.events.DoEvents(p_.table.simulationMode ? SimulatedPass : milliseconds(0));
     if (p_.state.exiting) return;
     const platform::Duration now = p_.host.clock.Monotonic();
-    listeners.Tell(&MeasurementListener::PassSeen, now, now - passBegan);
+    listeners.Tell(&PassListener::PassSeen, now, now - passBegan);
+    run_.lastPassEnded.reset();
+    if (p_.state.recordInterval == 0) run_.lastPassEnded = now;
     pacing_.WaitForDeadline();
     if (p_.state.exiting) return;
-    listeners.Tell(&MeasurementListener::PassEnded);
+    listeners.Tell(&PassListener::PassEnded);
     ++p_.state.passes;
 }
 

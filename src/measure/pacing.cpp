@@ -38,7 +38,7 @@ void Pacing::WaitForDeadline() {
         if (left <= platform::Duration::zero()) break;
         host_.events.DoEvents();
         if (state_.Ending()) return;
-        news_.measurement.Tell(&MeasurementListener::PassWaits, left);
+        news_.pass.Tell(&PassListener::PassWaits, left);
         host_.clock.Sleep(Pause);
     }
     const bool reached = host_.clock.Monotonic() >= deadline;

@@ -15,7 +15,7 @@ namespace kelvra::ui {
 
 namespace {
 
-constexpr const char* NamesKey = "HKLM\\SOFTWARE\\Halvex\\TeskDll\\Sensors";
+constexpr const char* NamesKey = R"(HKLM\SOFTWARE\Halvex\TeskDll\Sensors)";
 
 bool IsBlank(std::string_view name) {
     return util::TrimSpaces(name).empty();

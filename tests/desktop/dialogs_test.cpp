@@ -40,7 +40,7 @@ class DialogsTest : public QObject {
         return shown;
     }
 
-    struct Passes : measure::MeasurementListener {
+    struct Passes : measure::PassListener {
         void PassMeasured() override { ++count; }
         int count = 0;
     };
@@ -84,7 +84,7 @@ private slots:
         RunningDesktop running(data);
         auto& kelvra = running.kelvra;
         Passes passes;
-        kelvra.news.measurement.Add(passes);
+        kelvra.news.pass.Add(passes);
         const QString path = data.filePath("chosen.ini");
         bool open = false;
         When(

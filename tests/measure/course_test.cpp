@@ -11,7 +11,7 @@ using std::chrono::seconds;
 
 class CourseTest : public testing::Test, public test::WholeKelvra {
 protected:
-    std::string Strip() const { return program->forms.setupForm.lblInputError.caption; }
+    std::string Strip() const { return program->forms.setupForm.lblInputError.caption.Get(); }
     bool WasCalled(const std::string& call) const {
         return std::count(driver.calls.begin(), driver.calls.end(), call) > 0;
     }
@@ -60,7 +60,9 @@ TEST_F(CourseTest, SettingsLoadedWhilePassesGoOnReachTheSensorBeforeTheirModeDoe
     driver.array.assign(8, 0.5);
     folder.Put("slots.ini", "[Sensor_MODE]\r\nMode=2\r\n");
     platform::Dialogs::Answer answer;
-    fake.dialogs.onFileQuestion = [&](platform::Dialogs::Answer given) { answer = given; };
+    fake.dialogs.onFileQuestion = [&](platform::Dialogs::Answer given) {
+        answer = std::move(given);
+    };
     std::int64_t passesWhileAsked = 0;
     fake.events.onRound = [&](int) {
         if (program->state.passes == 1 && !answer)

@@ -36,7 +36,7 @@ void Check(const std::error_code& error, const std::string& what) {
 // From UTF-8 (which the parser has checked). U+0080..U+00FF are C2 or C3 and a second byte.
 std::string BytesOf(const Json& json) {
     Check(json.is_string(), "a name or value is no string");
-    const std::string& text = json.get_ref<const std::string&>();
+    const auto& text = json.get_ref<const std::string&>();
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto lead = static_cast<unsigned char>(text[i]);

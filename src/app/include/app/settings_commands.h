@@ -32,7 +32,7 @@ private:
     // Asks for a file and passes it to goOn; not if the user cancels, nor if the current sensor is
     // a different one by then.
     void AskFile(const platform::FileQuestion& question,
-                 std::function<void(const std::string& path)> goOn);
+                 const std::function<void(const std::string& path)>& goOn);
     void Load(const std::string& path);
     void Save(const std::string& path);
     std::error_code Write(const std::string& path);

@@ -5,6 +5,7 @@
 // cycle.cpp.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "driver/session.h"
@@ -55,6 +56,7 @@ private:
     struct Run {
         std::vector<bool> measured;  // by slot: present and enabled at Start
         platform::Duration lastAwaited{};
+        std::optional<platform::Duration> lastPassEnded;  // unless it waits for a deadline
     };
 
     // cycle_start.cpp

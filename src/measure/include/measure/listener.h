@@ -38,11 +38,23 @@ public:
     // All sensors are open and have their settings; the passes follow.
     virtual void Prepared() {}
 
-    // The sensors of a pass have been started.
-    virtual void PassStarted() {}
     // The slot's sensor is not complete yet; sent about once a second. `complaint` has the driver's
     // message if asking the sensor failed, else it is empty.
     virtual void Awaited(int /*slot*/, const std::string& /*complaint*/) {}
+    // Stop was pressed, or the measurement has ended by itself.
+    virtual void Stopped() {}
+    // The slot's sensor had lost its session, and the measurement has ended.
+    virtual void SessionLost(const LostSession& /*lost*/) {}
+};
+
+// The course of each pass, in this order: thousands of times a second, so that only those who need
+// it listen.
+class PassListener {
+public:
+    virtual ~PassListener() = default;
+
+    // The sensors of a pass have been started.
+    virtual void PassStarted() {}
     // All results of the pass are there.
     virtual void PassMeasured() {}
     // Events have run since PassMeasured, and no sensor is waited for. `now` is the monotonic
@@ -51,15 +63,9 @@ public:
     // The pass waits until `left` has passed; sent about every millisecond.
     virtual void PassWaits(platform::Duration /*left*/) {}
     virtual void PassEnded() {}
-
-    // Stop was pressed, or the measurement has ended by itself.
-    virtual void Stopped() {}
-    // The slot's sensor had lost its session, and the measurement has ended.
-    virtual void SessionLost(const LostSession& /*lost*/) {}
 };
 
-// What happens at one slot in a pass, many thousands of times a second. Listeners that need only
-// the course of a measurement use MeasurementListener.
+// What happens at one slot in a pass.
 class SlotListener {
 public:
     virtual ~SlotListener() = default;
@@ -73,6 +79,7 @@ public:
 
 struct News {
     util::Listeners<MeasurementListener> measurement;
+    util::Listeners<PassListener> pass;
     util::Listeners<SlotListener> slot;
 };
 

@@ -16,7 +16,7 @@
 
 namespace kelvra::ui {
 
-class CalcGrid final : public measure::MeasurementListener {
+class CalcGrid final : public measure::PassListener {
 public:
     CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host);
 

@@ -14,7 +14,7 @@
 
 namespace kelvra::ui {
 
-class Notice final : public measure::MeasurementListener {
+class Notice final : public measure::MeasurementListener, public measure::PassListener {
 public:
     Notice(forms::MDIMain& window, const sensors::SensorTable& table)
         : window_(window), table_(table) {}

@@ -7,7 +7,7 @@
 
 namespace kelvra::ui {
 
-class RecordMenu final : public measure::MeasurementListener {
+class RecordMenu final : public measure::MeasurementListener, public measure::PassListener {
 public:
     explicit RecordMenu(forms::MDIMain& window) : item_(window.FileSaveData) {}
 

@@ -11,7 +11,7 @@
 
 namespace kelvra::ui {
 
-class SpeedLabel final : public measure::MeasurementListener {
+class SpeedLabel final : public measure::MeasurementListener, public measure::PassListener {
 public:
     SpeedLabel(forms::MDIMain& window, platform::Host& host) : window_(window), host_(host) {}
 
