@@ -31,8 +31,8 @@ public:
 };
 
 std::error_code HeldByAnother() {
-    static const FolderErrors errors;
-    return {1, errors};
+    static const FolderErrors Errors;
+    return {1, Errors};
 }
 
 std::string In(const std::string& folder, const char* name) {
