@@ -23,13 +23,13 @@ class ProgramTest : public QObject {
     // Measures by click until the cell shows a text, and stops by that act. False when the act did
     // not stop it.
     static bool MeasureUntilShown(RunningDesktop& running, QTableWidget& table, int column,
-                                  std::function<void()> stop) {
+                                  const std::function<void()>& stop) {
         QObject person;
         bool stopped = true;
         const auto shown = [&] {
             return !running.Start().isEnabled() && !Cell(table, 0, column).isEmpty();
         };
-        When(person, shown, std::move(stop));
+        When(person, shown, stop);
         QTimer::singleShot(10000, &person, [&] {
             stopped = false;
             running.kelvra.forms.mdiMain.StopIt.Press();
