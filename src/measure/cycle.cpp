@@ -106,7 +106,7 @@ void Cycle::Initiate() {
                                                  p_.session.state.instrumentHandle));
 }
 
-// Reads the clock once a round. The first round takes the time at which the pass began.
+// Reads the clock once a round. `began` is when the sensors had been started.
 void Cycle::Poll(platform::Duration began) {
     run_.lastAwaited = began;
     bool allDone = false;
