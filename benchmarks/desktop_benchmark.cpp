@@ -181,6 +181,7 @@ public:
           button_(run.Find<QPushButton>("Show_Settings")),
           answer_(run.Find<QLabel>("SensorLabel")),
           count_(count) {
+        button_.setEnabled(true);  // its window does not exist yet
         run.kelvra.forms.mdiMain.Show_Settings.click.Connect([this, &run] {
             raised_.push_back(Since(sent_));
             run.kelvra.forms.mdiMain.SensorLabel.caption =
@@ -261,9 +262,9 @@ void TimeClicks(WatchedApplication& application, const char* what, const char* d
                     "\n    sees generator -10 dB\n";
     folder.Put("bench.scenario", scenario);
     qputenv("KELVRA_BENCH", folder.Path("bench.scenario").c_str());
-    DesktopRun run(QCoreApplication::applicationDirPath().toStdString() + "/../bench");
+    DesktopRun run(KELVRA_VIRTUAL_SENSORS);
     if (run.kelvra.table.simulationMode) {
-        std::printf("click: there are no virtual sensors\n");
+        std::printf("click: no virtual sensors in %s\n", KELVRA_VIRTUAL_SENSORS);
         return;
     }
     benchmarks::RunEvents(milliseconds(1000));

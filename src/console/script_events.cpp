@@ -39,7 +39,8 @@ bool ScriptEvents::Round(Duration patience) {
     }
     timers_.RunDue(clock_.Monotonic());
     if (quit_) return true;
-    return source_->Step(std::min(patience, TimeToNextEvent()));
+    if (patience > Duration::zero()) patience = std::min(patience, TimeToNextEvent());
+    return source_->Step(patience);
 }
 
 Duration ScriptEvents::TimeToNextEvent() const {

@@ -34,14 +34,13 @@ void Cycle::Pass() {
         if (!Takes(slot)) continue;
         const bool prepared = PrepareSlot(slot);
         if (!prepared || p_.state.Ending()) return;
-        rounds_.AfterCall();
     }
     if (p_.state.Ending()) return;
     for (int slot = 0; slot < p_.table.Slots(); ++slot) p_.table[slot].triggerNowRequest = false;
     const auto& listeners = p_.news.pass;
     Initiate();
     listeners.Tell(&PassListener::PassStarted);
-    Poll(p_.host.clock.Monotonic());
+    Poll(passBegan);
     if (p_.state.Ending()) return;
     Fetch();
     if (p_.state.Ending()) return;
@@ -106,25 +105,31 @@ void Cycle::Initiate() {
                                                  p_.session.state.instrumentHandle));
 }
 
-// Reads the clock once a round. `began` is when the sensors had been started.
-void Cycle::Poll(platform::Duration began) {
-    run_.lastAwaited = began;
-    bool allDone = false;
-    for (platform::Duration now = began; !allDone && !p_.state.Ending();) {
-        rounds_.Restart(now);
-        allDone = true;
-        bool progress = false;
-        for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
-            const sensors::SensorEntry& entry = p_.table[slot];
-            if (!entry.sessionOpen || entry.measPending != 1 || entry.settingsChanged) continue;
-            const bool complete = PollSlot(slot, now);
-            progress = progress || complete;
-            allDone = allDone && complete;
-            rounds_.AfterCall();
-        }
-        p_.host.events.DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
-        if (!allDone) now = p_.host.clock.Monotonic();
+// The clock is not read for the first round, after which most sensors are complete: a sensor counts
+// as waited for from the second round on.
+void Cycle::Poll(platform::Duration passBegan) {
+    run_.lastAwaited = passBegan;
+    if (PollRound(passBegan)) return;
+    run_.lastAwaited = p_.host.clock.Monotonic();
+    for (platform::Duration now = run_.lastAwaited; !PollRound(now);)
+        now = p_.host.clock.Monotonic();
+}
+
+// Asks each sensor that has not completed, and lets events run. True if no further round follows.
+bool Cycle::PollRound(platform::Duration now) {
+    rounds_.Restart(now);
+    bool allDone = true;
+    bool progress = false;
+    for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
+        const sensors::SensorEntry& entry = p_.table[slot];
+        if (!entry.sessionOpen || entry.measPending != 1 || entry.settingsChanged) continue;
+        const bool complete = PollSlot(slot, now);
+        progress = progress || complete;
+        allDone = allDone && complete;
+        rounds_.AfterCall(CallKind::Polling);
     }
+    p_.host.events.DoEvents(progress || allDone ? milliseconds(0) : PollingPatience);
+    return allDone || p_.state.Ending();
 }
 
 bool Cycle::PollSlot(int slot, platform::Duration now) {
@@ -163,16 +168,15 @@ void Cycle::TellAwaited(int slot, const driver::CallResult& result, platform::Du
 }
 
 bool Cycle::GoesOn() {
-    rounds_.AfterCall();
+    rounds_.AfterCall(CallKind::Setting);
     return !p_.state.Ending();
 }
 
 void Cycle::Fetch() {
-    rounds_.LookSoon();
     for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
         if (!Takes(slot) || !p_.table[slot].sessionOpen || p_.table[slot].settingsChanged) continue;
         FetchSlot(slot);
-        rounds_.AfterCall();
+        rounds_.AfterCall(CallKind::Fetching);
     }
 }
 

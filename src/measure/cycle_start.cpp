@@ -79,7 +79,7 @@ Cycle::Opened Cycle::OpenSensors() {
         if (p_.state.Ending()) return Opened::Ended;
         if (!opened) return Opened::Failed;
         operational = true;
-        rounds_.AfterCall();
+        rounds_.AfterCall(CallKind::Setting);
         if (p_.state.Ending()) return Opened::Ended;
     }
     return operational ? Opened::All : Opened::None;

@@ -12,7 +12,7 @@ using controls::Align;
 
 constexpr ResultColumn ValueColumns[] = {WattColumn, DbmColumn, StatusColumn, SigmaColumn,
                                          CountColumn};
-constexpr ResultColumn MarkedColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
+constexpr ResultColumn ArrayColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
 
 }  // namespace
 
@@ -80,16 +80,15 @@ void ResultTable::ModesChanged() {
             SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false);
 }
 
-void ResultTable::MarkValues(int slot, controls::Colour back) {
-    for (const ResultColumn column : MarkedColumns)
-        grid_.SetLook(RowOf(slot), column, {Align::Left, false, false, back});
+void ResultTable::ArrayArrived(int slot) {
+    for (const ResultColumn column : ArrayColumns)
+        grid_.SetLook(RowOf(slot), column, {Align::Left, false, false, controls::Grey});
 }
 
 void ResultTable::ReadingArrived(int slot) {
-    MarkValues(slot, controls::White);
     const sensors::SensorEntry& entry = table_[slot];
     const auto show = [&](ResultColumn column, const util::Figure& figure, Align align) {
-        SetGridCell(grid_, RowOf(slot), column, figure, align, false, false);
+        SetGridCell(grid_, RowOf(slot), column, figure, align, false, false, controls::White);
     };
     show(WattColumn, util::ScientificFigure(entry.lastReading, numbers_), Align::Left);
     show(DbmColumn, util::FixedFigure(entry.history.LastLevel(), numbers_), Align::Left);
@@ -97,7 +96,8 @@ void ResultTable::ReadingArrived(int slot) {
     if (const auto sigma = entry.history.Sigma())
         show(SigmaColumn, util::FixedFigure(*sigma, numbers_), Align::Centre);
     else
-        SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false);
+        SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false,
+                    controls::White);
 }
 
 void ResultTable::ToggleEnabled(int slot) {

@@ -77,7 +77,7 @@ private:
     std::string Field(std::string_view field, const std::string& result) const;
 
     DebugLog& log_;
-    const LogForm form_;
+    const LogForm& form_;
     const char* const name_;
     std::vector<std::string> arguments_;
 };

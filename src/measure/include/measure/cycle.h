@@ -73,7 +73,8 @@ private:
     void TakeOut(int slot);
     void Configure(int slot);
     void Initiate();
-    void Poll(platform::Duration began);
+    void Poll(platform::Duration passBegan);
+    bool PollRound(platform::Duration now);
     bool PollSlot(int slot, platform::Duration now);
     bool AskWhetherComplete(int slot, platform::Duration now);
     void TellAwaited(int slot, const driver::CallResult& result, platform::Duration now);

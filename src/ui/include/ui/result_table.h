@@ -35,10 +35,9 @@ public:
     void SlotComplete(int /*slot*/) override {}
     // Cells for scalar results are white; they are grey where arrays arrive.
     void ReadingArrived(int slot) override;
-    void ArrayArrived(int slot) override { MarkValues(slot, controls::Grey); }
+    void ArrayArrived(int slot) override;
 
 private:
-    void MarkValues(int slot, controls::Colour back);
     void PressCell(int row, int column);
     void ClickCell(int row, int column);
     bool IsName(int row, int column) const;
