@@ -10,7 +10,8 @@ Grid::Grid(Control& parent, std::string name, int rows, int columns, Access decl
       rows_(rows),
       columns_(columns),
       cells_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)),
-      widths_(static_cast<std::size_t>(columns)) {}
+      widths_(static_cast<std::size_t>(columns)),
+      samples_(static_cast<std::size_t>(columns)) {}
 
 void Grid::SetRows(int rows) {
     if (rows != rows_) Resize(rows, columns_);
@@ -35,6 +36,7 @@ void Grid::Resize(int rows, int columns) {
     rows_ = rows;
     columns_ = columns;
     widths_.resize(static_cast<std::size_t>(columns));
+    samples_.resize(static_cast<std::size_t>(columns));
     std::erase_if(changedCells_,
                   [&](const auto& cell) { return cell.first >= rows || cell.second >= columns; });
     MarkChanged();
@@ -73,22 +75,48 @@ bool Grid::ChangeLook(Cell& cell, const Look& look) {
     return true;
 }
 
-void Grid::SetCellTooltip(int row, int column, std::string_view text) {
+void Grid::SetSample(int column, std::string_view text) {
+    std::string& stored = samples_[static_cast<std::size_t>(column)];
+    if (stored == text) return;
+    stored = text;
+    MarkChanged();
+}
+
+template <class Value, class Given>
+void Grid::SetPart(int row, int column, Value Cell::*part, const Given& value) {
     Cell& cell = cells_[Offset(row, column)];
-    if (cell.tooltip == text) return;
-    cell.tooltip = text;
+    if (cell.*part == value) return;
+    cell.*part = value;
     MarkCell(cell, row, column);
 }
 
+void Grid::SetCellTooltip(int row, int column, std::string_view text) {
+    SetPart(row, column, &Cell::tooltip, text);
+}
+
 void Grid::SetEditable(int row, int column, bool editable) {
-    Cell& cell = cells_[Offset(row, column)];
-    if (cell.editable == editable) return;
-    cell.editable = editable;
-    MarkCell(cell, row, column);
+    SetPart(row, column, &Cell::editable, editable);
+}
+
+void Grid::SetStale(int row, int column, bool stale) {
+    SetPart(row, column, &Cell::stale, stale);
+}
+
+void Grid::SetFaulty(int row, int column, bool faulty) {
+    SetPart(row, column, &Cell::faulty, faulty);
+}
+
+void Grid::SetMark(int row, int column, std::optional<bool> checked, std::string_view spoken) {
+    SetPart(row, column, &Cell::checked, checked);
+    SetPart(row, column, &Cell::spoken, spoken);
 }
 
 void Grid::TypeCell(int row, int column, const std::string& text) {
     if (At(row, column).editable) typed.Raise(row, column, text);
+}
+
+void Grid::EditCell(int row, int column, const std::string& text) {
+    if (At(row, column).editable) editing.Raise(row, column, text);
 }
 
 void Grid::MarkCell(Cell& cell, int row, int column) {

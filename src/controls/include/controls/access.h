@@ -9,10 +9,11 @@
 namespace kelvra::controls {
 
 struct Access {
-    std::string name{};      // what it is, if it has no caption: "Start"
-    char mnemonic = 0;       // the underlined letter of its caption or name; 0: none
-    std::string shortcut{};  // "Ctrl+O", "F5"
-    int helpTopic = 0;       // of the help file; 0: none
+    std::string name{};         // what it is, if it has no caption: "Start"
+    char mnemonic = 0;          // the underlined letter of its caption or name; 0: none
+    std::string shortcut{};     // "Ctrl+O", "F5"
+    int helpTopic = 0;          // of the help file; 0: none
+    std::string explanation{};  // what it is and does, where it has no tooltip of the rules'
 };
 
 // Where the mnemonic is in the text: at the start of a word if one begins with it, else at its

@@ -18,6 +18,7 @@ public:
     bool Set(const util::Figure& figure);
 
     const std::string& Get() const;
+    bool IsFigure() const { return figure_.has_value(); }
 
 private:
     std::optional<util::Figure> figure_;

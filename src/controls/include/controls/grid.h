@@ -29,10 +29,21 @@ public:
         CellText content;
         Look look;
         std::string tooltip;
-        bool editable = false;  // the user may type into it
-        bool changed = false;   // since the last TakeChangedCells
+        std::string spoken;           // what a screen reader says besides the text
+        std::optional<bool> checked;  // a mark that says on or off
+        bool editable = false;        // the user may type into it
+        bool stale = false;           // a reading that is no longer live
+        bool faulty = false;          // the tooltip says what is wrong with the text
+        bool changed = false;         // since the last TakeChangedCells
 
         const std::string& Text() const { return content.Get(); }
+    };
+
+    // What is to be said about the grid, or about the text that is being typed into a cell.
+    struct Remark {
+        std::string text;
+        int place = -1;  // of the character at fault in the typed text, from 0; -1: none
+        bool operator==(const Remark&) const = default;
     };
 
     // Row 0 is the heading.
@@ -58,6 +69,15 @@ public:
 
     void SetCellTooltip(int row, int column, std::string_view text);
     void SetEditable(int row, int column, bool editable);
+    void SetStale(int row, int column, bool stale);
+    void SetFaulty(int row, int column, bool faulty);
+    // `spoken` is what a screen reader says of the mark and the row.
+    void SetMark(int row, int column, std::optional<bool> checked, std::string_view spoken);
+    // The longest text that the column is made for; empty if that is not known.
+    void SetSample(int column, std::string_view text);
+    const std::string& Sample(int column) const {
+        return samples_[static_cast<std::size_t>(column)];
+    }
 
     // Mouse events: the button goes down on a cell; it goes up again, which makes a click.
     Event<int, int> mouseDown;
@@ -70,6 +90,18 @@ public:
     // listener decides what the cell then says.
     void TypeCell(int row, int column, const std::string& text);
     Event<int, int, const std::string&> typed;
+
+    // The user is typing into an editable cell: the text so far. Then the cell is left, with
+    // TypeCell before it if the text is to be kept.
+    void EditCell(int row, int column, const std::string& text);
+    Event<int, int, const std::string&> editing;
+    void LeaveCell() { left.Raise(); }
+    Event<> left;
+    // The user takes the last edit back.
+    void Undo() { undo.Raise(); }
+    Event<> undo;
+
+    Property<Remark> remark{*this, {}};
 
     Property<std::optional<Colour>> fixedBack{*this, std::nullopt};  // heading cells
     Property<std::optional<Colour>> emptyBack{*this, std::nullopt};  // where there are no cells
@@ -87,11 +119,15 @@ private:
     void Write(int row, int column, const Content& content, const Look& look);
     static bool ChangeLook(Cell& cell, const Look& look);
     void MarkCell(Cell& cell, int row, int column);
+    // Gives a part of a cell a value, and marks the cell if that is a different one.
+    template <class Value, class Given>
+    void SetPart(int row, int column, Value Cell::*part, const Given& value);
 
     int rows_;
     int columns_;
     std::vector<Cell> cells_;
     std::vector<int> widths_;
+    std::vector<std::string> samples_;
     std::vector<std::pair<int, int>> changedCells_;
 };
 

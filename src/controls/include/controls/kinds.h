@@ -68,7 +68,8 @@ public:
     bool IsSeparator() const { return caption.Get() == "-"; }
 
     Property<std::string> caption;
-    bool checkable = false;  // whether it has a place for a mark
+    bool checkable = false;    // whether it has a place for a mark
+    bool opensDialog = false;  // a front end adds "..." to the caption
     Property<bool> checked{*this, false};
 };
 

@@ -60,6 +60,7 @@ struct MDIMain : Window {
     Picture picConnected{MainTools, "picConnected", "connectedPic", {.name = "Connection"}};
     Label ConSensors{MainTools, "ConSensors"};
     Frame ConnectedFrame{MainTools, "ConnectedFrame", "", {60, 1320, 6000, 420}};
+    Picture picNotice{ConnectedFrame, "picNotice", "noticeWait", {.name = "Kind of notice"}};
     Label lblMeasAwait{ConnectedFrame, "lblMeasAwait", "Waiting for a trigger signal at sensor "};
 
     Frame MainFuncFrame{*this, "MainFuncFrame", "", {7800, 0, 7200, 1800}};

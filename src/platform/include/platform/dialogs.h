@@ -16,6 +16,7 @@ struct FileQuestion {
     std::string filter;    // "Text Files (*.txt)|*.txt|All files (*.*)|*.*"
     int filterIndex = 1;   // the preselected pair, from 1
     std::string proposed;  // path or name, may be empty
+    std::string about;     // what it is about, for the title on a screen: "sensor 2 (PS-106)"
     bool save = false;     // ask before overwriting, refuse what is read-only
 };
 
