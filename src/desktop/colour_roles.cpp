@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/colour_roles.h"
 
+#include "desktop/schemes.h"
+
 namespace kelvra::desktop {
 
 namespace {
 
 using controls::Kind;
-
-constexpr int DarkBelow = 110;  // of 255, in perceived brightness
 
 struct Roles {
     QPalette::ColorRole back = QPalette::NoRole;
@@ -43,11 +43,6 @@ static_assert(InOrder());
 
 }  // namespace
 
-QColor ToolkitColour(controls::Colour colour) {
-    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-            static_cast<int>(colour >> 16 & 0xFF)};
-}
-
 void UpdateColours(QWidget& widget, const controls::Control& control) {
     const Roles roles = Table[static_cast<int>(control.GetKind())].roles;
     if (roles.back == QPalette::NoRole) return;
@@ -56,11 +51,11 @@ void UpdateColours(QWidget& widget, const controls::Control& control) {
     QPalette own;  // colours that are not set come from the palette around the widget
     own.setResolveMask(0);
     if (back) {
-        const QColor colour = ToolkitColour(*back);
+        const QColor colour = PaintColour(Part::Surface, *back);
         own.setColor(roles.back, colour);
-        if (qGray(colour.rgb()) < DarkBelow) own.setColor(roles.fore, Qt::white);
+        own.setColor(roles.fore, TextOn(colour));
     }
-    if (fore) own.setColor(roles.fore, ToolkitColour(*fore));
+    if (fore) own.setColor(roles.fore, PaintColour(Part::Text, *fore));
     widget.setPalette(own);
     if (roles.back == QPalette::Window) widget.setAutoFillBackground(back.has_value());
 }

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/desktop.h"
 
+#include "desktop/table_menu.h"
+
 namespace kelvra::desktop {
+
+namespace {
+constexpr const char* ResultWindow = "StatusForm";
+}  // namespace
 
 Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
                  const std::string& dataFolder)
@@ -10,11 +16,29 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
       mirror_(kelvra.forms.changes),
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
-      zoom_(preferences_, main_.WindowMenu(), {&results_.Table(), &main_.Formulas()}) {
-    main_.MirrorFrame();
+      view_(preferences_, {main_.Widget(), main_.WindowMenu(), results_, main_.Formulas(),
+                           [this] { mirror_.ShowAll(); }}) {
+    GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings, false);
+    GiveFormulaMenu(main_.Formulas());
+    if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
+        results_.Window().PlaceAsBefore(place);
+    main_.MirrorFrame(preferences_.Frame());
     dialogs.SetParent(main_.Widget());
     events_.onRepaint = [this] { mirror_.PaintNow(); };
     events_.onQuit = [&dialogs] { dialogs.Drop(); };
+}
+
+Desktop::~Desktop() {
+    events_.onRepaint = events_.onQuit = nullptr;
+    KeepLook();
+}
+
+void Desktop::KeepLook() {
+    FrameWindow& frame = main_.Widget();
+    frame.setWindowState(frame.windowState() & ~Qt::WindowFullScreen);
+    preferences_.SetFrame(frame.saveGeometry());
+    if (!results_.Table().Fitted() && results_.Window().PlacedByPerson())
+        preferences_.SetPlace(ResultWindow, results_.Window().geometry());
 }
 
 }  // namespace kelvra::desktop

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "desktop/schemes.h"
+
 namespace kelvra::desktop {
 
 namespace {
@@ -42,7 +44,7 @@ void FocusRing::Place() {
 
 void FocusRing::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QPen(Qt::yellow, Width));
+    painter.setPen(QPen(PaintColour(OwnColour::Focus), Width));
     painter.drawRect(rect().adjusted(Width / 2, Width / 2, -Width / 2, -Width / 2));
 }
 

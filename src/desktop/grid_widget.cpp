@@ -3,7 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHeaderView>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QWheelEvent>
 #include <algorithm>
@@ -17,16 +17,21 @@ namespace {
 constexpr int LeastZoom = -3;
 constexpr int MostZoom = 12;
 constexpr qreal ZoomStep = 1.15;
+// Where every column must stay in sight, a column takes no more than this many characters.
+constexpr int ColumnCharacters = 12;
 }  // namespace
 
-GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
-    : QTableWidget(parent), grid_(grid), normalSize_(font().pointSizeF()) {
+GridWidget::GridWidget(controls::Grid& grid, QWidget* parent) : QTableWidget(parent), grid_(grid) {
+    fonts_.normal.setPointSizeF(font().pointSizeF());  // its own, whatever the table's becomes
     setItemDelegate(new CellDelegate(grid, this));
-    setHorizontalHeader(new Heading(this));
+    auto* heading = new Heading(Qt::Horizontal, this);
+    heading->onSize = [this](int column, int width) { TakeOwnWidth(column, width); };
+    setHorizontalHeader(heading);
     setEditTriggers(EditKeyPressed | AnyKeyPressed);
     setTabKeyNavigation(false);
     setAlternatingRowColors(false);
     setWordWrap(false);
+    setFrameShape(QFrame::NoFrame);
     verticalHeader()->hide();
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
@@ -42,19 +47,57 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent)
     });
 }
 
+void GridWidget::ShowRowNumbers() {
+    setVerticalHeader(new Heading(Qt::Vertical, this));
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+}
+
 void GridWidget::SetZoom(int steps) {
     const int zoom = std::clamp(steps, LeastZoom, MostZoom);
     if (zoom == zoom_) return;
     zoom_ = zoom;
-    QFont zoomed = font();
-    zoomed.setPointSizeF(normalSize_ * Scale());
-    setFont(zoomed);
-    horizontalHeader()->setFont(zoomed);
     if (onFit) onFit();
 }
 
-qreal GridWidget::Scale() const {
-    return std::pow(ZoomStep, zoom_);
+void GridWidget::SetFitted(bool fitted) {
+    if (fonts_.fitted == fitted) return;
+    fonts_.fitted = fitted;
+    if (onFit) onFit();
+}
+
+void GridWidget::SetOwnWidths(std::map<int, int> widths) {
+    fonts_.own = std::move(widths);
+    if (onFit) onFit();
+}
+
+void GridWidget::TakeOwnWidth(int column, int width) {
+    if (width == 0)
+        fonts_.own.erase(column);
+    else
+        fonts_.own[column] = static_cast<int>(width / fonts_.scale);
+    if (onOwnWidth) onOwnWidth();
+    if (width == 0 && onFit) onFit();
+}
+
+const GridFonts& GridWidget::UpdateFonts() {
+    const bool mustBeInSight = horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+    const auto headingOf = [&](const QFont& font) {
+        return verticalHeader()->isHidden() ? 0 : TextWidth(QString::number(grid_.Rows()), font);
+    };
+    fonts_.scale = std::pow(ZoomStep, zoom_);
+    fonts_.rowHeading = headingOf(fonts_.normal);
+    if (fonts_.fitted) fonts_.scale = LargestScale(grid_, fonts_, Room());
+    QFont scaled = fonts_.normal;
+    scaled.setPointSizeF(scaled.pointSizeF() * fonts_.scale);
+    setFont(scaled);
+    const QFontMetrics metrics(scaled);
+    fonts_.mostColumnWidth = mustBeInSight ? ColumnCharacters * metrics.horizontalAdvance('0') : 0;
+    horizontalHeader()->setFont(fonts_.Heading());
+    verticalHeader()->setFont(fonts_.normal);
+    if (!verticalHeader()->isHidden()) verticalHeader()->setFixedWidth(fonts_.rowHeading);
+    return fonts_;
 }
 
 // A click with these keys extends the selection and means nothing else.
@@ -68,44 +111,58 @@ void GridWidget::Activate(int row, int column) {
     if (!Edits(row, column)) grid_.ClickCell(row + 1, column);
 }
 
-// Opens the editor where the record lets the cell be edited.
 bool GridWidget::Edits(int row, int column) {
     if (!grid_.At(row + 1, column).editable) return false;
     edit(model()->index(row, column));
     return true;
 }
 
-int GridWidget::MostColumnWidth() const {
-    if (horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) return QWIDGETSIZE_MAX;
-    constexpr int characters = 12;
-    return characters * fontMetrics().horizontalAdvance('0');
-}
-
 QSize GridWidget::sizeHint() const {
     const int frame = 2 * frameWidth();
+    const int front = verticalHeader()->isHidden() ? 0 : fonts_.rowHeading;
     const int heading =
         std::max(horizontalHeader()->sizeHint().height(), horizontalHeader()->minimumHeight());
-    return {horizontalHeader()->length() + frame, verticalHeader()->length() + heading + frame};
+    return {front + horizontalHeader()->length() + frame,
+            verticalHeader()->length() + heading + frame};
 }
 
-QString GridWidget::SelectedText() const {
+QString GridWidget::HeadingText(int column) const {
+    const QTableWidgetItem* item = horizontalHeaderItem(column);
+    return item == nullptr ? QString() : item->text().replace('\n', ' ');
+}
+
+QString GridWidget::SelectedText(bool withHeadings) const {
     QString text;
     for (const QTableWidgetSelectionRange& range : selectedRanges()) {
-        for (int row = range.topRow(); row <= range.bottomRow(); ++row) {
-            for (int column = range.leftColumn(); column <= range.rightColumn(); ++column) {
-                if (column > range.leftColumn()) text += '\t';
-                if (const QTableWidgetItem* cell = item(row, column)) text += cell->text();
-            }
+        const auto add = [&](const std::function<QString(int column)>& cell) {
+            for (int column = range.leftColumn(); column <= range.rightColumn(); ++column)
+                text += (column > range.leftColumn() ? "\t" : "") + cell(column);
             text += '\n';
-        }
+        };
+        if (withHeadings) add([this](int column) { return HeadingText(column); });
+        for (int row = range.topRow(); row <= range.bottomRow(); ++row)
+            add([&](int column) {
+                const QTableWidgetItem* cell = item(row, column);
+                return cell == nullptr ? QString() : cell->text();
+            });
     }
     return text;
 }
 
+void GridWidget::Copy(bool withHeadings) {
+    if (const QString text = SelectedText(withHeadings); !text.isEmpty())
+        QApplication::clipboard()->setText(text);
+}
+
 void GridWidget::keyPressEvent(QKeyEvent* event) {
+    const bool editable = currentRow() >= 0 && currentColumn() >= 0 &&
+                          grid_.At(currentRow() + 1, currentColumn()).editable;
     if (event->matches(QKeySequence::Copy)) {
-        if (const QString text = SelectedText(); !text.isEmpty())
-            QApplication::clipboard()->setText(text);
+        Copy(false);
+    } else if (event->matches(QKeySequence::Undo)) {
+        grid_.Undo();
+    } else if (event->key() == Qt::Key_Delete && editable && state() != EditingState) {
+        grid_.TypeCell(currentRow() + 1, currentColumn(), "");
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                event->key() == Qt::Key_Space) {
         if (state() != EditingState)  // the editor's Enter comes here, too
@@ -127,6 +184,24 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
     SetZoom(zoom_ + steps);
     if (steps != 0 && onWheel) onWheel();
     event->accept();
+}
+
+void GridWidget::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    if (fonts_.fitted && onFit) onFit();
+}
+
+// The key that opens menus means the current cell.
+void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
+    if (!onMenu) return;
+    QModelIndex cell = currentIndex();
+    QPoint place = visualRect(cell).center();
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        place = event->pos();
+        cell = indexAt(place);
+        if (cell.isValid() && !selectionModel()->isSelected(cell)) setCurrentIndex(cell);
+    }
+    onMenu(cell.row(), cell.column(), viewport()->mapToGlobal(place));
 }
 
 }  // namespace kelvra::desktop

@@ -6,6 +6,7 @@
 #include <QSvgRenderer>
 
 #include "desktop/qt_text.h"
+#include "desktop/schemes.h"
 #include "util/number_reading.h"
 
 // The pictures are in a static library and must be registered, outside of any namespace.
@@ -17,6 +18,7 @@ namespace kelvra::desktop {
 
 namespace {
 
+constexpr int IconSide = 28;  // logical pixels
 constexpr int BusySteps = 8;
 constexpr std::string_view BusyName = "busy";
 
@@ -33,13 +35,35 @@ QString FileOf(const std::string& name) {
     return ":/icons/" + Shown(name) + ".svg";
 }
 
+// Colours of the pictures that the other schemes' backgrounds hide.
+constexpr struct {
+    const char* drawn;
+    const char* calm;
+    const char* dark;
+} Recoloured[] = {
+    {"#cfe3ff", "#1f2328", "#cfe3ff"},  // lines on the strip
+    {"#7fe07f", "#1a6b2f", "#7fe07f"},  // what turns
+    {"#8fa3c4", "#656d76", "#8fa3c4"},
+    {"#5b6b7a", "#5b6b7a", "#b4bec8"},  // lines on buttons
+};
+
+QByteArray InScheme(const QString& file) {
+    QFile drawing(file);
+    if (!drawing.open(QIODevice::ReadOnly)) return {};
+    QByteArray picture = drawing.readAll();
+    if (CurrentScheme() == Scheme::Classic) return picture;
+    for (const auto& colour : Recoloured)
+        picture.replace(colour.drawn, CurrentScheme() == Scheme::Calm ? colour.calm : colour.dark);
+    return picture;
+}
+
 }  // namespace
 
 QPixmap PictureOf(const std::string& name, int size, qreal pixelRatio) {
     QPixmap pixmap(QSize(size, size) * pixelRatio);
     pixmap.setDevicePixelRatio(pixelRatio);
     pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(FileOf(name));
+    QSvgRenderer renderer(InScheme(FileOf(name)));
     if (!renderer.isValid()) return pixmap;
     QPainter painter(&pixmap);
     const qreal half = size / 2.0;
@@ -51,7 +75,11 @@ QPixmap PictureOf(const std::string& name, int size, qreal pixelRatio) {
 
 QIcon Icon(const std::string& name) {
     const QString file = FileOf(name);
-    return QFile::exists(file) ? QIcon(file) : QIcon();
+    if (!QFile::exists(file)) return {};
+    if (CurrentScheme() == Scheme::Classic) return QIcon(file);
+    QIcon icon;
+    for (const int ratio : {1, 2, 3}) icon.addPixmap(PictureOf(name, IconSide, ratio));
+    return icon;
 }
 
 }  // namespace kelvra::desktop

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "desktop/desktop.h"
+#include "desktop/program_style.h"
 #include "options/options.h"
 #include "options/surroundings.h"
 #include "platform/native.h"
@@ -101,6 +102,7 @@ int main(int argc, char** argv) {
     int toolkitArgc = 1;  // the toolkit gets no options: the command line is Kelvra's
     QApplication application(toolkitArgc, argv);
     qInstallMessageHandler(nullptr);
+    QApplication::setStyle(new desktop::ProgramStyle);
     QApplication::setApplicationName("Kelvra");
     QApplication::setDesktopFileName("kelvra");
     return Run(application, *parsed.options);

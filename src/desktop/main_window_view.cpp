@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/main_window_view.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenuBar>
@@ -9,17 +10,25 @@
 
 #include "controls/visit.h"
 #include "desktop/common.h"
+#include "desktop/elided_label.h"
 #include "desktop/focus_ring.h"
 #include "desktop/icons.h"
+#include "desktop/notice_bar.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
 
 namespace {
 constexpr int IndicatorIcon = 20;  // logical pixels
-constexpr int NoticeLines = 2;     // for the usual notices, so that the strip does not jump
 constexpr int LeastFormulaWidth = 60;
 constexpr int FormulaColumn = 1;
+
+// The place stays as it is when the widget is hidden.
+void KeepRoom(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
 }  // namespace
 
 MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
@@ -30,23 +39,21 @@ MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)
       area_(new QMdiArea),
       formulas_(maker_.Make(form.CalcGrid)) {
     BuildMenus();
-    auto* top = new QHBoxLayout;
-    top->setSpacing(0);
-    top->addWidget(BuildTools(), 3);
-    top->addWidget(BuildFormulas(), 2);
     auto* central = new QWidget;
     auto* all = new QVBoxLayout(central);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addLayout(top);
+    all->addWidget(BuildStrip());
     all->addWidget(area_, 1);
     area_->setAccessibleName("Windows");
     widget_.setCentralWidget(central);
     widget_.setWindowIcon(Icon("kelvra"));
 }
 
-void MainWindowView::MirrorFrame() {
-    mirror_.Add(form_, std::make_unique<FrameWindowAdapter>(form_, widget_));
+void MainWindowView::MirrorFrame(const QByteArray& geometry) {
+    auto adapter = std::make_unique<FrameWindowAdapter>(form_, widget_);
+    adapter->before = geometry;
+    mirror_.Add(form_, std::move(adapter));
 }
 
 void MainWindowView::BuildMenus() {
@@ -70,15 +77,22 @@ bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
     return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 
-QWidget* MainWindowView::BuildTools() {
-    QFrame* tools = maker_.Make(form_.MainTools);
-    auto* rows = new QVBoxLayout(tools);
-    rows->addLayout(BuildButtons());
-    rows->addLayout(BuildChoices());
-    rows->addLayout(BuildConnection());
-    rows->addStretch();
-    new FocusRing(tools);
-    return tools;
+// Tools and formulas side by side, below them the connection and the notice.
+QWidget* MainWindowView::BuildStrip() {
+    QFrame* strip = maker_.Make(form_.MainTools);
+    auto* rows = new QGridLayout(strip);
+    rows->setContentsMargins(Margin, Margin, Margin, Margin);
+    rows->setHorizontalSpacing(2 * Margin);
+    rows->setColumnStretch(1, 1);
+    auto* tools = new QVBoxLayout;
+    tools->addLayout(BuildButtons());
+    tools->addLayout(BuildChoices());
+    tools->addStretch();
+    rows->addLayout(tools, 0, 0);
+    rows->addWidget(BuildFormulas(), 0, 1);
+    rows->addLayout(BuildConnection(), 1, 0, 1, 2);
+    new FocusRing(strip);
+    return strip;
 }
 
 QHBoxLayout* MainWindowView::BuildButtons() {
@@ -89,7 +103,10 @@ QHBoxLayout* MainWindowView::BuildButtons() {
         row->addWidget(widget);
     }
     row->addWidget(maker_.Make(form_.BusySign));
-    row->addWidget(maker_.Make(form_.MeasSpeedInfo));
+    QLabel* speed = maker_.Make(form_.MeasSpeedInfo);
+    speed->setMinimumWidth(speed->fontMetrics().horizontalAdvance("00000 /s"));
+    KeepRoom(*speed);
+    row->addWidget(speed);
     row->addStretch();
     return row;
 }
@@ -97,8 +114,11 @@ QHBoxLayout* MainWindowView::BuildButtons() {
 QHBoxLayout* MainWindowView::BuildChoices() {
     auto* row = new QHBoxLayout;
     row->addWidget(maker_.Make(form_.SensSyncMode));
-    row->addWidget(maker_.Make(form_.SensorLabel));
-    row->addWidget(maker_.Make(form_.TimeSensor_select_new));
+    QLabel* caption = maker_.Make(form_.SensorLabel);
+    QComboBox* sensors = maker_.Make(form_.TimeSensor_select_new);
+    caption->setBuddy(sensors);
+    row->addWidget(caption);
+    row->addWidget(sensors);
     row->addStretch();
     return row;
 }
@@ -111,21 +131,8 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     bold.setBold(true);
     connected->setFont(bold);
     row->addWidget(connected);
-
-    QFrame* notice = maker_.Make(form_.ConnectedFrame);
-    auto* inside = new QHBoxLayout(notice);
-    inside->setContentsMargins(0, 0, 0, 0);
-    QLabel* text = maker_.Make(form_.lblMeasAwait);
-    text->setWordWrap(true);
-    text->setMinimumHeight(NoticeLines * QFontMetrics(text->font()).lineSpacing());
-    inside->addWidget(text);
-    // The row keeps its height when the notice comes and goes.
-    for (QWidget* hidden : {static_cast<QWidget*>(notice), static_cast<QWidget*>(text)}) {
-        QSizePolicy policy = hidden->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        hidden->setSizePolicy(policy);
-    }
-    row->addWidget(notice, 1);
+    row->addSpacing(2 * Margin);
+    row->addWidget(MakeNoticeBar(form_, maker_), 1);
     return row;
 }
 
@@ -143,7 +150,16 @@ QWidget* MainWindowView::BuildFormulas() {
     auto* innerLayout = new QVBoxLayout(inner);
     outerLayout->setContentsMargins(0, 0, 0, 0);
     outerLayout->addWidget(inner);
+    innerLayout->setContentsMargins(0, 0, 0, 0);
+    innerLayout->setSpacing(Margin / 2);
     innerLayout->addWidget(formulas_);
+    auto* remark = new ElidedLabel(1);
+    remark->setAccessibleName("About the formulas");
+    innerLayout->addWidget(remark);
+    innerLayout->addStretch();
+    formulas_->onRemark = [remark](const controls::Grid::Remark& about) {
+        remark->setText(Shown(about.text));
+    };
     // The formulas are always visible, and take no more room than they need.
     formulas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

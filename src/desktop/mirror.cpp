@@ -38,6 +38,10 @@ bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
     return QObject::eventFilter(receiver, event);
 }
 
+void Mirror::ShowAll() {
+    for (const auto& [control, adapter] : adapters_) adapter->Update();
+}
+
 void Mirror::PaintNow() {
     Flush();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);

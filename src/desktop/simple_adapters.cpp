@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/simple_adapters.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QSignalBlocker>
+#include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "desktop/common.h"
+#include "desktop/grid_measures.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 
@@ -49,10 +54,43 @@ MenuItemAdapter::MenuItemAdapter(controls::MenuItem& item, QAction& action)
 
 void MenuItemAdapter::Update() {
     const QSignalBlocker quiet(action_);
-    action_.setText(MarkedText(item_, item_.caption));
+    const bool opens = item_.opensDialog && !item_.caption->ends_with("...");
+    action_.setText(MarkedText(item_, item_.caption) + (opens ? "..." : ""));
     action_.setEnabled(item_.enabled && !Withheld(action_));
     action_.setVisible(item_.visible);
     if (action_.isCheckable()) action_.setChecked(item_.checked);
+}
+
+ListWidget::ListWidget() {
+    setFocusPolicy(Qt::StrongFocus);
+    view()->setTextElideMode(Qt::ElideMiddle);
+}
+
+QSize ListWidget::Bounded(QSize size) const {
+    const int most = MostCharacters * fontMetrics().averageCharWidth();
+    return size.boundedTo(
+        {most + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * CellMargin, size.height()});
+}
+
+void ListWidget::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect place =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText =
+        fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, place.width() - CellMargin);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+// The whole text of the chosen entry, before what the list is.
+bool ListWidget::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || currentText().isEmpty()) return QComboBox::event(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QString text = currentText() + (toolTip().isEmpty() ? "" : "\n\n" + toolTip());
+    QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), this);
+    return true;
 }
 
 void ListWidget::wheelEvent(QWheelEvent* event) {
@@ -76,12 +114,17 @@ void ListAdapter::Update() {
 void ListAdapter::Fill() {
     shown_ = list_.Items();
     widget_.clear();
-    for (const controls::List::Item& item : shown_) widget_.addItem(Shown(item.text));
+    for (const controls::List::Item& item : shown_) {
+        widget_.addItem(Shown(item.text));
+        widget_.setItemData(widget_.count() - 1, TooltipText(item.text), Qt::ToolTipRole);
+    }
+    widget_.updateGeometry();
 }
 
 void PictureAdapter::Update() {
-    if (shown_ != picture_.image.Get()) {
+    if (shown_ != picture_.image.Get() || scheme_ != CurrentScheme()) {
         shown_ = picture_.image.Get();
+        scheme_ = CurrentScheme();
         widget_.setPixmap(PictureOf(shown_, size_, widget_.devicePixelRatioF()));
     }
     UpdateCommon(widget_, picture_);

@@ -25,12 +25,22 @@ QString NameForPeople(const controls::Control& control) {
     return Shown(control.access.name);
 }
 
+// What a control is, with the key that reaches it.
+QString Explanation(const controls::Control& control) {
+    QString text = Shown(control.access.explanation);
+    const QString shortcut = Shown(control.access.shortcut);
+    if (shortcut.isEmpty()) return text;
+    if (text.isEmpty()) text = NameForPeople(control);
+    return text + " (" + QKeySequence(shortcut).toString(QKeySequence::NativeText) + ")";
+}
+
 }  // namespace
 
 template <class AdapterKind, class Own, class Widget, class... More>
 Widget* WidgetMaker::Mirrored(Own& control, Widget* widget, More&&... more) {
     widget->setObjectName(QString::fromStdString(control.Name()));
     widget->setAccessibleName(NameForPeople(control));
+    if (const QString text = Explanation(control); !text.isEmpty()) SetOwnTooltip(*widget, text);
     if constexpr (std::is_base_of_v<controls::Focusable, Own> && !std::is_const_v<Own>)
         ReportKeys(control, *widget);
     mirror_.Add(control,
@@ -38,8 +48,8 @@ Widget* WidgetMaker::Mirrored(Own& control, Widget* widget, More&&... more) {
     return widget;
 }
 
-QLabel* WidgetMaker::Make(const controls::Label& label) {
-    return Mirrored<LabelAdapter>(label, new QLabel);
+QLabel* WidgetMaker::Make(const controls::Label& label, QLabel* widget) {
+    return Mirrored<LabelAdapter>(label, widget);
 }
 
 QPushButton* WidgetMaker::Make(controls::Button& button) {
@@ -48,7 +58,6 @@ QPushButton* WidgetMaker::Make(controls::Button& button) {
     if (const QString shortcut = Shown(button.access.shortcut); !shortcut.isEmpty()) {
         // In addition to the mnemonic, which the button's own shortcut would replace.
         new QShortcut(QKeySequence(shortcut), widget, [widget] { widget->click(); });
-        SetOwnTooltip(*widget, NameForPeople(button) + " (" + shortcut + ")");
     }
     return Mirrored<ButtonAdapter>(button, widget);
 }
@@ -75,9 +84,7 @@ QWidget* WidgetMaker::Make(controls::OptionGroup& group) {
 }
 
 QComboBox* WidgetMaker::Make(controls::List& list) {
-    auto* widget = new ListWidget;
-    widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    return Mirrored<ListAdapter>(list, widget);
+    return Mirrored<ListAdapter>(list, new ListWidget);
 }
 
 GridWidget* WidgetMaker::Make(controls::Grid& grid) {
@@ -119,6 +126,7 @@ QAction* WidgetMaker::AddEntry(QMenu& menu, controls::MenuItem& item) {
     QAction* action = menu.addAction(QString());
     action->setShortcut(QKeySequence(Shown(item.access.shortcut)));
     action->setCheckable(item.checkable);
+    action->setToolTip(Explanation(item));
     mirror_.Add(item, std::make_unique<MenuItemAdapter>(item, *action));
     return action;
 }

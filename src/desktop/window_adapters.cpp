@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/common.h"
 #include "desktop/qt_text.h"
@@ -41,6 +42,11 @@ void FrameWindow::resizeEvent(QResizeEvent* event) {
     if (event->spontaneous()) ReportSize(window_, *event);
 }
 
+void FrameWindow::ShowAsBefore(const QByteArray& geometry) {
+    if (!geometry.isEmpty() && restoreGeometry(geometry))
+        window_.PersonResizes(Twips(width()), Twips(height()));
+}
+
 void FrameWindowAdapter::Update() {
     const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
@@ -51,6 +57,7 @@ void FrameWindowAdapter::Update() {
     else if (shown_ != place && widget_.size() != SizeOf(place))
         widget_.resize(OnScreen(place).size());
     shown_ = place;
+    if (!before.isEmpty()) widget_.ShowAsBefore(std::exchange(before, {}));
     widget_.setVisible(window_.visible);
 }
 
@@ -95,6 +102,22 @@ bool ChildWindow::focusNextPrevChild(bool next) {
 void ChildWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     window_.PersonCloses();
+}
+
+void ChildWindow::FillArea() {
+    setGeometry(area_.viewport()->rect());
+}
+
+void ChildWindow::PlaceAsBefore(const QRect& place) {
+    move(place.topLeft());
+    sizedByPerson_ = movedByPerson_ = true;
+    window_.PersonResizes(Twips(place.width()), Twips(place.height()));
+    ResizeInside(place.size());
+}
+
+void ChildWindow::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    movedByPerson_ = movedByPerson_ || held_;
 }
 
 void ChildWindow::mousePressEvent(QMouseEvent* event) {

@@ -10,6 +10,8 @@
 
 namespace kelvra::desktop {
 
+constexpr int Margin = 8;  // logical pixels, around what is in a frame
+
 // Twips (15 to a pixel at 96 dpi) in the widget's logical pixels.
 int Pixels(int twips);
 int Twips(int pixels);

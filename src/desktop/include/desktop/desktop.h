@@ -11,7 +11,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_events.h"
 #include "desktop/result_window_view.h"
-#include "desktop/zoom.h"
+#include "desktop/view_menu.h"
 
 namespace kelvra::desktop {
 
@@ -20,7 +20,7 @@ class Desktop {
 public:
     Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
             const std::string& dataFolder);
-    ~Desktop() { events_.onRepaint = events_.onQuit = nullptr; }
+    ~Desktop();
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
@@ -29,12 +29,14 @@ public:
     ResultWindowView& Results() { return results_; }
 
 private:
+    void KeepLook();
+
     QtEvents& events_;
     Preferences preferences_;
     Mirror mirror_;
     MainWindowView main_;
     ResultWindowView results_;
-    Zoom zoom_;
+    ViewMenu view_;
 };
 
 }  // namespace kelvra::desktop

@@ -2,8 +2,6 @@
 // The adapter of a grid. Only cells that have changed are touched.
 #pragma once
 
-#include <QFont>
-#include <QString>
 #include <array>
 #include <optional>
 #include <vector>
@@ -11,6 +9,7 @@
 #include "controls/grid.h"
 #include "desktop/adapter.h"
 #include "desktop/grid_widget.h"
+#include "desktop/schemes.h"
 
 namespace kelvra::desktop {
 
@@ -20,18 +19,32 @@ public:
     void Update() override;
 
 private:
+    // What every cell depends on.
+    struct Form {
+        int rows = 0;
+        std::array<std::optional<controls::Colour>, 3> colours{};  // cells, heading, empty part
+        std::vector<int> widths;                                   // twips
+        std::vector<std::string> samples;
+        Scheme scheme = Scheme::Classic;
+        bool operator==(const Form&) const = default;
+    };
+    Form FormOfGrid() const;
+
     void Shape();
+    void ShowAll();
     void FitColumns();
-    void Need();
+    void FillRoom();
     void ShowCell(int row, int column);
+    void ShowColours(QTableWidgetItem& item, const controls::Grid::Cell& cell);
+    void ShowMark(QTableWidgetItem& item, const controls::Grid::Cell& cell);
     void ShowHeading(int column);
-    void Widen(int column, const QString& text, const QFont& font);
+    bool NeedsMore(int row, int column) const;
 
     controls::Grid& grid_;
     GridWidget& widget_;
-    // What is shown: colours of cells, heading, empty part; widths of the columns in twips.
-    std::array<std::optional<controls::Colour>, 3> colours_{};
-    std::vector<int> widths_;
+    Form form_;
+    GridMeasures measures_;
+    std::vector<QFont> fonts_;  // of the columns
 };
 
 }  // namespace kelvra::desktop

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>
+#include <functional>
 
 #include "controls/grid.h"
 
@@ -17,8 +18,19 @@ public:
     CellDelegate(controls::Grid& grid, QObject* parent)
         : QStyledItemDelegate(parent), grid_(grid) {}
 
+    // What a cell is besides a text.
+    enum Role { FaultyRole = Qt::UserRole };
+
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    // A click does not change the mark by itself: the record's rule does.
+    bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&,
+                     const QModelIndex&) override {
+        return false;
+    }
+    // The whole text of a cell that shows only a part, and the cell's tooltip.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget*, const QModelIndex&) const override {}  // set once, at the start
@@ -31,10 +43,18 @@ private:
 
 class Heading final : public QHeaderView {
 public:
-    explicit Heading(QWidget* parent);
+    Heading(Qt::Orientation orientation, QWidget* parent);
+
+    // The user has dragged a section to this size, or wants its natural one (0).
+    std::function<void(int section, int size)> onSize;
 
 protected:
-    void paintSection(QPainter* painter, const QRect& place, int column) const override;
+    void paintSection(QPainter* painter, const QRect& place, int section) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool held_ = false;  // by the user's mouse
 };
 
 }  // namespace kelvra::desktop

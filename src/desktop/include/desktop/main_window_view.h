@@ -20,7 +20,8 @@ public:
     MainWindowView(forms::MDIMain& form, Mirror& mirror);
 
     // Call when everything in the frame has been created: from here on it may be shown.
-    void MirrorFrame();
+    // `geometry` is what the toolkit wrote in an earlier run; empty for the record's place.
+    void MirrorFrame(const QByteArray& geometry);
 
     FrameWindow& Widget() { return widget_; }
     QMdiArea& Area() { return *area_; }
@@ -31,7 +32,7 @@ public:
 private:
     void BuildMenus();
     bool OpensNothingYet(const controls::Control& control) const;
-    QWidget* BuildTools();
+    QWidget* BuildStrip();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();
     QHBoxLayout* BuildConnection();

@@ -25,6 +25,8 @@ public:
 
     // Shows all changes now.
     void Flush();
+    // Shows every control again: what widgets look like has changed.
+    void ShowAll();
     // The same, and paints them without delivering input; for long work that delivers no events.
     void PaintNow();
 

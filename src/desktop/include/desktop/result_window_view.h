@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The layout of the result table's window: only the table, as large as its rows.
+// The layout of the result table's window: only the table, as large as its rows, or as the area.
 #pragma once
 
 #include <QMdiArea>
@@ -16,6 +16,10 @@ public:
     ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdiArea& area);
 
     GridWidget& Table() { return *table_; }
+    ChildWindow& Window() { return *window_; }
+
+    // Fills the area with the readings, in the largest font with which all are in sight.
+    void SetFitted(bool fitted);
 
 private:
     void FitWindow();

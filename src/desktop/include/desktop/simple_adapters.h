@@ -11,6 +11,7 @@
 #include "controls/kinds.h"
 #include "controls/list.h"
 #include "desktop/adapter.h"
+#include "desktop/schemes.h"
 
 namespace kelvra::desktop {
 
@@ -48,14 +49,24 @@ private:
     QAction& action_;
 };
 
-// A list that the wheel turns only when it has the focus, since the pointer may pass over it while
+// A list as wide as its entries, but no wider than 24 characters: it shows the two ends of a longer
+// entry. The wheel turns it only when it has the focus, since the pointer may pass over it while
 // the page scrolls.
 class ListWidget final : public QComboBox {
 public:
-    ListWidget() { setFocusPolicy(Qt::StrongFocus); }
+    static constexpr int MostCharacters = 24;
+
+    ListWidget();
+    QSize sizeHint() const override { return Bounded(QComboBox::sizeHint()); }
+    QSize minimumSizeHint() const override { return Bounded(QComboBox::minimumSizeHint()); }
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    QSize Bounded(QSize size) const;
 };
 
 class ListAdapter final : public Adapter {
@@ -83,6 +94,7 @@ private:
     QLabel& widget_;
     int size_;
     std::string shown_;
+    Scheme scheme_ = Scheme::Classic;
 };
 
 class FrameAdapter final : public Adapter {

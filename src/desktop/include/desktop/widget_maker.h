@@ -25,7 +25,8 @@ public:
     explicit WidgetMaker(Mirror& mirror) : mirror_(mirror) {}
 
     // The caller puts the widget into a layout or a parent. A picture's side is in logical pixels.
-    QLabel* Make(const controls::Label& label);
+    QLabel* Make(const controls::Label& label) { return Make(label, new QLabel); }
+    QLabel* Make(const controls::Label& label, QLabel* widget);
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);
     QCheckBox* Make(controls::CheckBox& box);

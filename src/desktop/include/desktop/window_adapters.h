@@ -19,6 +19,10 @@ class FrameWindow final : public QMainWindow {
 public:
     explicit FrameWindow(controls::Window& window) : window_(window) {}
 
+    // As the toolkit has written it in an earlier run. The window is shown there instead of at the
+    // record's place; the record hears of the size.
+    void ShowAsBefore(const QByteArray& geometry);
+
     using QMainWindow::focusNextPrevChild;  // public, for the Tab key of the windows inside
 
 protected:
@@ -35,6 +39,8 @@ public:
     FrameWindowAdapter(const controls::Window& window, FrameWindow& widget)
         : window_(window), widget_(widget) {}
     void Update() override;
+
+    QByteArray before;  // the geometry of an earlier run; used once
 
 private:
     QRect OnScreen(const controls::Geometry& place) const;
@@ -55,7 +61,11 @@ public:
     // The room in the area from the window's corner on.
     QSize Room() const;
     std::function<void()> onRoom;  // the area's size has changed
+    void FillArea();
+    // Sizes and places that the user has given.
     bool SizedByPerson() const { return sizedByPerson_; }
+    bool PlacedByPerson() const { return sizedByPerson_ || movedByPerson_; }
+    void PlaceAsBefore(const QRect& place);  // by the user in an earlier run
 
 protected:
     // The Tab key goes through the whole frame, in and out of the windows inside it.
@@ -63,6 +73,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
@@ -71,6 +82,7 @@ private:
     QMdiArea& area_;
     bool held_ = false;  // by the user's mouse
     bool sizedByPerson_ = false;
+    bool movedByPerson_ = false;
 };
 
 class ChildWindowAdapter final : public Adapter {

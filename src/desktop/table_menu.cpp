@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/table_menu.h"
+
+#include <QMenu>
+#include <optional>
+
+namespace kelvra::desktop {
+
+namespace {
+
+constexpr int NameColumn = 0;
+
+// Deletes itself when it is closed.
+QMenu* MenuWithCopies(GridWidget& table) {
+    auto* menu = new QMenu(&table);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setToolTipsVisible(true);
+    QAction* copy = menu->addAction("&Copy", [&table] { table.Copy(false); });
+    copy->setShortcut(QKeySequence::Copy);
+    menu->addAction("Copy with &headings and units", [&table] { table.Copy(true); });
+    return menu;
+}
+
+// Row and column count from 0 below the heading.
+const controls::Grid::Cell* CellAt(GridWidget& table, int row, int column) {
+    return row < 0 || column < 0 ? nullptr : &table.Record().At(row + 1, column);
+}
+
+void AddSensorEntries(QMenu& menu, GridWidget& table, int row, controls::Button& settings,
+                      bool settingsShown) {
+    const controls::Grid::Cell* name = CellAt(table, row, NameColumn);
+    if (name == nullptr || !name->checked) return;
+    const QString sensor = "sensor " + QString::number(row + 1);
+    menu.addSeparator();
+    menu.addAction("&Switch " + sensor + (*name->checked ? " off" : " on"),
+                   [&table, row] { table.Activate(row, NameColumn); });
+    QAction* show = menu.addAction("Se&ttings of " + sensor + "...", [&table, &settings, row] {
+        table.Record().PressCell(row + 1, NameColumn);
+        settings.Press();
+    });
+    show->setEnabled(settingsShown);
+    if (!settingsShown) show->setToolTip("This window comes with a later version");
+}
+
+}  // namespace
+
+void GiveResultMenu(GridWidget& table, controls::Button& settings, bool settingsShown) {
+    table.onMenu = [&table, &settings, settingsShown](int row, int, const QPoint& place) {
+        QMenu* menu = MenuWithCopies(table);
+        AddSensorEntries(*menu, table, row, settings, settingsShown);
+        menu->popup(place);
+    };
+}
+
+void GiveFormulaMenu(GridWidget& table) {
+    table.onMenu = [&table](int row, int column, const QPoint& place) {
+        QMenu* menu = MenuWithCopies(table);
+        menu->addSeparator();
+        const controls::Grid::Cell* cell = CellAt(table, row, column);
+        const bool editable = cell != nullptr && cell->editable;
+        QAction* edit =
+            menu->addAction("&Edit", [&table, row, column] { table.Edits(row, column); });
+        edit->setShortcut(QKeySequence("F2"));
+        QAction* empty = menu->addAction(
+            "E&mpty", [&table, row, column] { table.Record().TypeCell(row + 1, column, ""); });
+        empty->setShortcut(QKeySequence::Delete);
+        for (QAction* entry : {edit, empty}) entry->setEnabled(editable);
+        QAction* undo = menu->addAction("&Undo", [&table] { table.Record().Undo(); });
+        undo->setShortcut(QKeySequence::Undo);
+        menu->popup(place);
+    };
+}
+
+}  // namespace kelvra::desktop
