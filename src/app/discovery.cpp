@@ -16,11 +16,12 @@ void Discovery::Search() {
     if (p_.state.exiting || running_ || p_.table.Slots() == 0) return;
     if (Rests()) {
         ShowConnection();
-        return;
+    } else {
+        running_ = true;
+        Tick();
+        running_ = false;
     }
-    running_ = true;
-    Tick();
-    running_ = false;
+    p_.windows.readingAge.Look();
 }
 
 void Discovery::Tick() {

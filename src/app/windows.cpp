@@ -12,6 +12,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       selection(table),
       lists(forms, table, selection),
       results(forms.statusForm, table, selection, host.computer.Numbers()),
+      readingAge(forms.statusForm, table, host.clock),
       marks(forms.statusForm, table, host.events),
       calcGrid(forms.mdiMain, table, host),
       speed(forms.mdiMain, host),
@@ -28,14 +29,15 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
-             &enabling, &sensorName, &lists, &results, &errorStrip, &displayLists, &mainWindow,
-             &speed, &notice, &recordMenu, &startMessages})
+             &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
+             &mainWindow, &speed, &notice, &recordMenu, &startMessages})
         news.measurement.Add(*listener);
-    for (measure::PassListener* listener :
-         std::initializer_list<measure::PassListener*>{&speed, &calcGrid, &notice, &recordMenu})
+    for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
+             &speed, &calcGrid, &notice, &recordMenu, &readingAge})
         news.pass.Add(*listener);
     news.slot.Add(marks);
     news.slot.Add(results);
+    news.slot.Add(readingAge);
     session.notices.Add(errorStrip);
     session.marks.Add(marks);
 }

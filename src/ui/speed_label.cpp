@@ -14,8 +14,15 @@ constexpr int BusyPictures = 8;
 }  // namespace
 
 void SpeedLabel::Started() {
+    Hide();
+    running_ = true;
     counted_ = {};
     lastMove_ = host_.clock.Monotonic();
+}
+
+void SpeedLabel::Hide() {
+    running_ = false;
+    window_.MeasSpeedInfo.visible = false;
 }
 
 void SpeedLabel::Awaited(int /*slot*/, const std::string& /*complaint*/) {
@@ -34,6 +41,7 @@ void SpeedLabel::PassSeen(platform::Duration now, platform::Duration lasted) {
     const double seconds = std::chrono::duration<double>(counted_.time).count();
     window_.MeasSpeedInfo.caption =
         util::FixedText(counted_.passes / seconds, 0, host_.computer.Numbers()) + " /s";
+    window_.MeasSpeedInfo.visible = running_;
     counted_ = {};
 }
 

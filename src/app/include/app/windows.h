@@ -16,6 +16,7 @@
 #include "ui/error_strip.h"
 #include "ui/main_window.h"
 #include "ui/notice.h"
+#include "ui/reading_age.h"
 #include "ui/record_menu.h"
 #include "ui/result_table.h"
 #include "ui/selection_lists.h"
@@ -36,6 +37,7 @@ struct Windows {
     ui::SensorSelection selection;
     ui::SelectionLists lists;
     ui::ResultTable results;
+    ui::ReadingAge readingAge;
     ui::StatusMarks marks;
     ui::CalcGrid calcGrid;
     ui::SpeedLabel speed;

@@ -14,6 +14,7 @@ struct MDIMain : Window {
         SettingAlwaysOnTop.checkable = true;
         StopIt.enabled = false;
         BusySign.tag = "1";
+        MeasSpeedInfo.visible = false;
         ConnectedFrame.visible = false;
     }
 

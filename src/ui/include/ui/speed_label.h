@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The speed figure (passes per second, not counting pauses between them) and the busy picture,
-// which moves about once a second during a measurement.
+// The speed figure (passes per second, not counting pauses between them), visible from its first
+// value to the end of the measurement, and the busy picture, which moves about once a second during
+// a measurement.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +17,8 @@ public:
     SpeedLabel(forms::MDIMain& window, platform::Host& host) : window_(window), host_(host) {}
 
     void Started() override;
+    void StartFailed(measure::StartFailure /*why*/) override { Hide(); }
+    void Stopped() override { Hide(); }
     void Awaited(int /*slot*/, const std::string& /*complaint*/) override;
     void PassSeen(platform::Duration now, platform::Duration lasted) override;
     void PassWaits(platform::Duration left) override;
@@ -26,10 +29,12 @@ private:
         std::int32_t passes = 0;
     };
 
+    void Hide();
     void MoveBusyPicture(platform::Duration now);
 
     forms::MDIMain& window_;
     platform::Host& host_;
+    bool running_ = false;
     Counted counted_;
     platform::Duration lastMove_{};
 };
