@@ -115,13 +115,16 @@ void GridAdapter::FitColumns() {
     if (widget_.onNeed) widget_.onNeed();
 }
 
-// The first column gets what the others leave.
+// What is left of the width is shared out; the first column gets the odd pixels.
 void GridAdapter::FillRoom() {
     const QSize needed = measures_.Size(widget_.Fonts().rowHeading);
-    int room = widget_.Room().width();
+    int left = widget_.Room().width() - needed.width();
     if (needed.height() > widget_.Room().height())
-        room -= widget_.verticalScrollBar()->sizeHint().width();
-    measures_.columns.front() += std::max(room - needed.width(), 0);
+        left -= widget_.verticalScrollBar()->sizeHint().width();
+    if (left <= 0) return;
+    const int share = left / grid_.Columns();
+    for (int& width : measures_.columns) width += share;
+    measures_.columns.front() += left - share * grid_.Columns();
 }
 
 void GridAdapter::ShowAll() {

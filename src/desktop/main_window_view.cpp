@@ -113,7 +113,12 @@ QHBoxLayout* MainWindowView::BuildButtons() {
 
 QHBoxLayout* MainWindowView::BuildChoices() {
     auto* row = new QHBoxLayout;
-    row->addWidget(maker_.Make(form_.SensSyncMode));
+    auto* synchronisation = new QLabel(Shown(form_.SensSyncMode.access.name));
+    QComboBox* modes = maker_.Make(form_.SensSyncMode);
+    synchronisation->setBuddy(modes);
+    row->addWidget(synchronisation);
+    row->addWidget(modes);
+    row->addSpacing(Margin);
     QLabel* caption = maker_.Make(form_.SensorLabel);
     QComboBox* sensors = maker_.Make(form_.TimeSensor_select_new);
     caption->setBuddy(sensors);

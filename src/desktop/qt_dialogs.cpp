@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QUrl>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/common.h"
@@ -46,7 +47,7 @@ void QtDialogs::SetParent(QWidget& parent) {
 
 void QtDialogs::Drop() {
     waiting_.clear();
-    showsMessage_ = false;
+    shown_.reset();
     for (const QPointer<QDialog>& dialog : std::exchange(open_, {})) {
         if (dialog == nullptr) continue;
         dialog->disconnect();
@@ -68,21 +69,23 @@ void QtDialogs::Open(QDialog& dialog, std::function<void(bool accepted)> finishe
 
 void QtDialogs::Message(const std::string& title, const std::string& text,
                         platform::MessageIcon icon) {
-    waiting_.push_back({title, text, icon});
+    WaitingMessage message{title, text, icon};
+    if (shown_ == message || std::find(waiting_.begin(), waiting_.end(), message) != waiting_.end())
+        return;
+    waiting_.push_back(std::move(message));
     ShowNext();
 }
 
 void QtDialogs::ShowNext() {
-    if (showsMessage_ || waiting_.empty() || parent_ == nullptr) return;
-    showsMessage_ = true;
-    const WaitingMessage next = std::move(waiting_.front());
+    if (shown_ || waiting_.empty() || parent_ == nullptr) return;
+    shown_ = std::move(waiting_.front());
     waiting_.pop_front();
-    auto* box = new QMessageBox(ToolkitIcon(next.icon),
-                                next.title.empty() ? ProgramName() : Shown(next.title),
-                                Shown(next.text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
+    auto* box = new QMessageBox(
+        ToolkitIcon(shown_->icon), shown_->title.empty() ? ProgramName() : Shown(shown_->title),
+        Shown(shown_->text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
     box->setTextFormat(Qt::PlainText);
     Open(*box, [this](bool) {
-        showsMessage_ = false;
+        shown_.reset();
         ShowNext();
     });
 }
@@ -119,7 +122,9 @@ QString ToolkitFilter(const std::string& filter) {
 void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     const QStringList filters = ToolkitFilter(question.filter).split(";;");
     const QString proposed = Shown(question.proposed);
-    auto* dialog = new QFileDialog(parent_, Shown(question.title), QFileInfo(proposed).path());
+    const QString title =
+        Shown(question.title) + (question.about.empty() ? "" : " - " + Shown(question.about));
+    auto* dialog = new QFileDialog(parent_, title, QFileInfo(proposed).path());
     dialog->setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setNameFilters(filters);

@@ -3,8 +3,8 @@
 #include <QtTest>
 #include <functional>
 
-#include "desktop/schemes.h"
 #include "desktop/mirror.h"
+#include "desktop/schemes.h"
 #include "desktop/simple_adapters.h"
 #include "desktop/widget_maker.h"
 
@@ -232,7 +232,8 @@ private slots:
             const QPalette original = widget.palette();
             c.control.back = controls::DarkBlue;
             room.mirror.Flush();
-            QCOMPARE(widget.palette().color(c.back), PaintColour(Part::Surface, controls::DarkBlue));
+            QCOMPARE(widget.palette().color(c.back),
+                     PaintColour(Part::Surface, controls::DarkBlue));
             QCOMPARE(widget.palette().color(c.fore), QColor(Qt::white));
             c.control.fore = controls::Red;
             room.mirror.Flush();

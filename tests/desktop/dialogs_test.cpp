@@ -52,7 +52,8 @@ private slots:
         dialogs.Message("", "one", platform::MessageIcon::Information);
         window.show();
         dialogs.SetParent(window);
-        dialogs.Message("", "two", platform::MessageIcon::Information);
+        for (const char* text : {"two", "one", "two"})
+            dialogs.Message("", text, platform::MessageIcon::Information);
         for (const char* text : {"one", "two"}) {
             const auto shown = Visible<QMessageBox>(window);
             QCOMPARE(shown.size(), 1);

@@ -6,6 +6,8 @@
 namespace kelvra::desktop {
 
 // The groups of tests, each made by its own file.
+std::unique_ptr<QObject> AccessibilityTests();
+std::unique_ptr<QObject> ColoursTests();
 std::unique_ptr<QObject> ControlsTests();
 std::unique_ptr<QObject> DialogsTests();
 std::unique_ptr<QObject> GridTests();
@@ -17,7 +19,8 @@ int main(int argc, char** argv) {
     using namespace kelvra::desktop;
     QApplication application(argc, argv);
     int failures = 0;
-    for (const auto& make : {ControlsTests, DialogsTests, GridTests, ProgramTests})
+    for (const auto& make :
+         {AccessibilityTests, ColoursTests, ControlsTests, DialogsTests, GridTests, ProgramTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }

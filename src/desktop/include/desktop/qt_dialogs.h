@@ -24,7 +24,8 @@ public:
     // Takes all dialogs away: nobody is there any more to hear their answers.
     void Drop();
 
-    // One box at a time: a message waits until the one before has been confirmed.
+    // One box at a time: a message waits until the one before has been confirmed. A message that is
+    // shown or waits is not said twice.
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
     void LastMessage(const std::string& text) override;
@@ -36,7 +37,8 @@ public:
 private:
     struct WaitingMessage {
         std::string title, text;
-        platform::MessageIcon icon;
+        platform::MessageIcon icon{};
+        bool operator==(const WaitingMessage&) const = default;
     };
 
     void ShowNext();
@@ -46,7 +48,7 @@ private:
     QPointer<QWidget> parent_;
     std::vector<QPointer<QDialog>> open_;
     std::deque<WaitingMessage> waiting_;
-    bool showsMessage_ = false;
+    std::optional<WaitingMessage> shown_;
 };
 
 // "Text (*.txt)|*.txt|All files (*.*)|*.*" as the toolkit has it: "Text (*.txt);;All files (*)".
