@@ -17,7 +17,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       windows(forms, table, state, cycle, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
-      settingsCommands_(forms, table, modes, windows.enabling, host) {
+      settingsCommands_(forms, table, modes, windows.enabling, windows.notice, host) {
     Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { ExitAsAsked(); });
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });

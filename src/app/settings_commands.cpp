@@ -8,6 +8,7 @@
 #include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
+#include "util/number_text.h"
 
 namespace kelvra::app {
 
@@ -17,8 +18,8 @@ constexpr const char* Stem = "Sensor";
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
                                    measure::Modes& modes, ui::Enabling& enabling,
-                                   platform::Host& host)
-    : table_(table), modes_(modes), enabling_(enabling), host_(host) {
+                                   ui::Notice& notice, platform::Host& host)
+    : table_(table), modes_(modes), enabling_(enabling), notice_(notice), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -42,10 +43,10 @@ void SettingsCommands::Load(const std::string& path) {
         modes_.Find();
     }
     enabling_.Refresh();
-    if (!sensors::HasSettings(file.Text(), Stem))
-        host_.dialogs.Message(
-            {}, "The file has no sensor settings. The defaults have been set.\r\n" + path,
-            platform::MessageIcon::Exclamation);
+    if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
+    host_.dialogs.Message({},
+                          "The file has no sensor settings. The defaults have been set.\r\n" + path,
+                          platform::MessageIcon::Exclamation);
 }
 
 void SettingsCommands::SaveSensorSettings() {
@@ -58,7 +59,8 @@ void SettingsCommands::SaveSensorSettings() {
 }
 
 void SettingsCommands::Save(const std::string& path) {
-    if (const std::error_code error = Write(path)) Complain("saved", path, error);
+    if (const std::error_code error = Write(path)) return Complain("saved", path, error);
+    Confirm("saved to", path);
 }
 
 // In the data folder, another Kelvra may be changing the file.
@@ -71,15 +73,27 @@ std::error_code SettingsCommands::Write(const std::string& path) {
                                      sensors::Transfer::Write);
 }
 
-void SettingsCommands::AskFile(const platform::FileQuestion& question,
+void SettingsCommands::AskFile(platform::FileQuestion question,
                                const std::function<void(const std::string& path)>& goOn) {
     const std::string sensor = table_[table_.currentSensor].resourceName;
+    question.about = SensorText();
     host_.dialogs.AskFile(question, [this, sensor, goOn](const std::optional<std::string>& path) {
         if (!path || path->empty()) return;
         if (table_[table_.currentSensor].resourceName == sensor) return goOn(*path);
         host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
                               platform::MessageIcon::Exclamation);
     });
+}
+
+std::string SettingsCommands::SensorText() const {
+    const std::string& name = table_[table_.currentSensor].logicalName;
+    const std::string number = util::TrimmedNumberText(std::int64_t{table_.currentSensor} + 1);
+    return "sensor " + number + (name.empty() || name == number ? "" : " (" + name + ")");
+}
+
+void SettingsCommands::Confirm(const char* what, const std::string& path) {
+    notice_.ShowDone("Settings of " + SensorText() + " " + what + " " +
+                     std::filesystem::path(path).filename().string());
 }
 
 void SettingsCommands::Complain(const char* what, const std::string& path,

@@ -7,7 +7,7 @@ namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
                  measure::Cycle& cycle, platform::Host& host)
-    : notice(forms.mdiMain, table),
+    : notice(forms.mdiMain, table, host.clock),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
       lists(forms, table, selection),
@@ -39,6 +39,7 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     news.slot.Add(results);
     news.slot.Add(readingAge);
     session.notices.Add(errorStrip);
+    session.marks.Add(notice);
     session.marks.Add(marks);
 }
 

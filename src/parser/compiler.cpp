@@ -21,6 +21,11 @@ constexpr bool ContinuesCharacter(char c) {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
+std::int32_t CountCharacters(std::string_view text) {
+    return static_cast<std::int32_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return !ContinuesCharacter(c); }));
+}
+
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -39,14 +44,15 @@ Compiler::Compiler(std::string_view text, ExpressionTable& table) : text_(text),
 }
 
 bool Compiler::Compile() {
-    if (text_.size() > MaxLength) return Fail("formula too long");
+    if (text_.size() > MaxLength) return Fail("formula too long", -1);
     table_.names.reserve(text_.size() + MaxEntries + 1);  // a sign may add a "0"
-    if (CountAbsBars(text_) % 2 != 0) return Fail("abs symbols |.| mismatch");
+    if (CountAbsBars(text_) % 2 != 0)
+        return Fail("abs symbols |.| mismatch", CountCharacters(text_.substr(0, text_.rfind('|'))));
     for (const char c : text_) {
         if (!ContinuesCharacter(c)) ++position_;
         if (!TakeCharacter(c)) return false;
     }
-    if (depth_ >= 1) return Fail("Not enough closing brackets");
+    if (depth_ >= 1) return Fail("Not enough closing brackets", position_);
     if (!Finish()) return false;
     SetEvaluationOrder(table_.entries);
     LinkResults(table_.entries);
@@ -111,7 +117,7 @@ bool Compiler::OpenBracket() {
     if (name.empty()) return true;
     const Function* function = FindFunction(name);
     if (function == nullptr || function->list == NameList::Operators)
-        return FailAt("Function <" + std::string(name) + "> unknown at pos ");
+        return FailAt("Function <" + std::string(name) + "> unknown at pos ", tokenPlace_);
     if (function->list == NameList::OneArgument) {
         if (!AppendEntry(name, *function)) return false;
     } else {
@@ -203,7 +209,7 @@ bool Compiler::Finish() {
 }
 
 bool Compiler::AppendEntry(std::string_view fun, const Function& function) {
-    if (table_.LastEntry() == MaxEntries) return Fail("too many operations");
+    if (table_.LastEntry() == MaxEntries) return Fail("too many operations", Place());
     ExpressionEntry& entry = table_.entries.emplace_back();
     entry.function = fun;
     entry.code = function.id;
@@ -224,13 +230,13 @@ bool Compiler::CloseOperand() {
 
 bool Compiler::SetOperand(Argument& argument) {
     const std::string_view token = Token();
-    if (token.empty()) return Fail("missing argument");
+    if (token.empty()) return Fail("missing argument", Place());
     if (const auto value = ParseConstant(token)) {
         argument.value = *value;
         return true;
     }
     if (!IsLetter(token.front()))
-        return Fail("variable name must start with a letter: " + std::string(token));
+        return Fail("variable name must start with a letter: " + std::string(token), tokenPlace_);
     return AddVariable(token, argument);
 }
 
@@ -241,21 +247,22 @@ bool Compiler::AddVariable(std::string_view name, Argument& argument) {
                      [&](const Argument& variable) { return variable.name == name; });
     const auto number = static_cast<std::int32_t>(known - variables.begin());
     if (known == variables.end()) {
-        if (++table_.variableCount > MaxVariables) return Fail("too many Vars");
-        variables.push_back({0, name, 0});
+        if (++table_.variableCount > MaxVariables) return Fail("too many Vars", tokenPlace_);
+        variables.push_back({0, name, 0, tokenPlace_});
     }
     argument.variable = number;
     argument.name = name;
     return true;
 }
 
-bool Compiler::Fail(std::string message) {
+bool Compiler::Fail(std::string message, std::int32_t place) {
     error_ = std::move(message);
+    errorPlace_ = place;
     return false;
 }
 
-bool Compiler::FailAt(std::string message) {
-    return Fail(std::move(message) + util::NumberText(std::int64_t{position_}));
+bool Compiler::FailAt(std::string message, std::int32_t place) {
+    return Fail(std::move(message) + util::NumberText(std::int64_t{position_}), place);
 }
 
 }  // namespace kelvra::parser

@@ -16,7 +16,10 @@ MathParser::MathParser(util::Random& random, util::NumberForm form)
 }
 
 bool MathParser::StoreExpression(std::string_view text) {
-    expression_.assign(util::TrimSpaces(text));
+    const std::string_view trimmed = util::TrimSpaces(text);
+    expression_.assign(trimmed);
+    leadingSpaces_ = static_cast<int>(trimmed.data() - text.data());
+    errorPlace_ = -1;
     errorDescription_.clear();
     stored_ = Compile();
     return stored_;
@@ -26,6 +29,7 @@ bool MathParser::Compile() {
     Compiler compiler(expression_, table_);
     if (!compiler.Compile()) {
         errorDescription_ = compiler.Error();
+        errorPlace_ = compiler.ErrorPlace();
         return false;
     }
     plan_.Build(table_.entries);

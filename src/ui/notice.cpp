@@ -10,8 +10,26 @@
 
 namespace kelvra::ui {
 
+namespace {
+
+constexpr auto DoneIsShown = std::chrono::seconds(8);
+constexpr const char* Images[] = {"noticeError", "noticeFiles", "noticeWait", "noticeDone"};
+
+std::string Whole(std::size_t number) {
+    return util::TrimmedNumberText(static_cast<std::int64_t>(number));
+}
+
+}  // namespace
+
 void Notice::Set(Rank rank, std::string text) {
+    if (rank == Rank::Course) hint_ = false;
     Text(rank) = std::move(text);
+    Show();
+}
+
+void Notice::Hint(std::string text) {
+    Text(Rank::Course) = std::move(text);
+    hint_ = true;
     Show();
 }
 
@@ -20,9 +38,53 @@ void Notice::Show() {
     const auto top = std::find_if(texts_.begin(), texts_.end(),
                                   [](const std::string& text) { return !text.empty(); });
     const bool any = top != texts_.end();
-    if (any) window_.lblMeasAwait.caption = *top;
+    if (any) {
+        const auto rank = static_cast<std::size_t>(top - texts_.begin());
+        const bool stays = rank < static_cast<std::size_t>(Rank::Course) ||
+                           (rank == static_cast<std::size_t>(Rank::Course) && !hint_);
+        if (stays) kept_ = *top;
+        window_.lblMeasAwait.caption = *top;
+        window_.picNotice.image = Images[rank];
+    } else if (window_.lblMeasAwait.caption.Get() != kept_) {
+        window_.lblMeasAwait.caption = kept_;
+    }
     window_.lblMeasAwait.visible = any;
     window_.ConnectedFrame.visible = any;
+}
+
+void Notice::ShowDone(std::string text) {
+    doneAt_ = clock_.Monotonic();
+    Set(Rank::Done, std::move(text));
+}
+
+void Notice::TakeBackOld() {
+    if (!Text(Rank::Done).empty() && clock_.Monotonic() - doneAt_ >= DoneIsShown)
+        Set(Rank::Done, {});
+}
+
+void Notice::Started() {
+    configured_.clear();
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (table_[slot].present && table_[slot].enabled) configured_.push_back(slot);
+    Text(Rank::Done).clear();
+    Set(Rank::Course, {});
+}
+
+void Notice::TransferBegins(int slot) {
+    const auto found = std::find(configured_.begin(), configured_.end(), slot);
+    if (found == configured_.end()) return;
+    const auto number = static_cast<std::size_t>(found - configured_.begin()) + 1;
+    Hint("Configuring " + Whole(number) + " of " + Whole(configured_.size()));
+}
+
+void Notice::StartFailed(measure::StartFailure /*why*/) {
+    configured_.clear();
+    Hint("Not measuring: press Stop");
+}
+
+void Notice::EndStart() {
+    configured_.clear();
+    Set(Rank::Course, {});
 }
 
 void Notice::ShowFileTrouble(const std::string& path, std::string text) {
@@ -51,9 +113,9 @@ void Notice::PassWaits(platform::Duration left) {
 }
 
 void Notice::PassEnded() {
-    const bool standing = !Text(Rank::Error).empty() || !Text(Rank::Files).empty();
+    const bool others = !Text(Rank::Error).empty() || !Text(Rank::Files).empty();
+    if (!others) kept_ = " ";
     Set(Rank::Course, {});
-    if (!standing) window_.lblMeasAwait.caption = " ";
 }
 
 void Notice::SessionLost(const measure::LostSession& lost) {

@@ -31,7 +31,7 @@ struct Program {
     forms::Forms forms;
     driver::DebugLog log{files, fake.clock, fake.computer.Numbers()};
     sensors::SensorTable table;
-    ui::Notice notice{forms.mdiMain, table};
+    ui::Notice notice{forms.mdiMain, table, fake.clock};
     SettingsStore store{files, log, notice};
     sensors::SensorEntry sensor;
 };

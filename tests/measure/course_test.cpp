@@ -91,20 +91,48 @@ TEST_F(CourseTest, TheNoticeShowsTheHighestRankAndThenTheNext) {
     const auto shown = [&] {
         return program->forms.mdiMain.ConnectedFrame.visible ? Notice() : std::string();
     };
+    const auto& image = program->forms.mdiMain.picNotice.image;
+    notice.ShowDone("saved");
+    EXPECT_EQ(shown() + "|" + image.Get(), "saved|noticeDone");
     notice.Awaited(0, "");
     EXPECT_EQ(shown(), "Waiting for a trigger signal at sensor 1");
+    EXPECT_EQ(image.Get(), "noticeWait");
     notice.ShowFileTrouble("b", "second file");
     notice.ShowFileTrouble("a", "first file");
-    EXPECT_EQ(shown(), "first file");
+    EXPECT_EQ(shown() + "|" + image.Get(), "first file|noticeFiles");
     notice.ShowError("A: error");
-    EXPECT_EQ(shown(), "A: error");
+    EXPECT_EQ(shown() + "|" + image.Get(), "A: error|noticeError");
     notice.PassSeen({}, {});
     notice.ShowError("");
     EXPECT_EQ(shown(), "first file");
     notice.EndFileTrouble("a");
     EXPECT_EQ(shown(), "second file");
     notice.EndFileTrouble("b");
+    EXPECT_EQ(shown(), "saved");
+    for (int tick = 0; tick < 16; ++tick) Tick();
     EXPECT_EQ(shown(), "");
+    EXPECT_EQ(Notice(), "second file");  // a confirmation does not remain in the hidden label
+}
+
+TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndSaysWhatToDoAfterAFailure) {
+    StartWith(3);
+    program->table[1].enabled = false;
+    const auto& main = program->forms.mdiMain;
+    std::string counted;
+    driver.onCall = [&](std::string_view name) {
+        if (name == "psdrv_chan_reset") counted += Notice() + "|";
+        if (name == "psdrv_chans_initiate") {
+            EXPECT_FALSE(main.ConnectedFrame.visible);
+        }
+    };
+    Measure(1);
+    EXPECT_EQ(counted, "Configuring 1 of 2|Configuring 2 of 2|");
+    for (int slot : {0, 1, 2}) program->table[slot].enabled = false;
+    PressStart();
+    EXPECT_TRUE(main.ConnectedFrame.visible);
+    EXPECT_EQ(Notice(), "Not measuring: press Stop");
+    PressStop();
+    EXPECT_FALSE(main.ConnectedFrame.visible);
 }
 
 TEST_F(CourseTest, TheSpeedCountsWholePassesWithoutPausesAndThePictureMovesAllTheTime) {

@@ -28,6 +28,25 @@ TEST(Compile, EachMistakeHasItsMessage) {
     }
 }
 
+TEST(Compile, EachMistakeHasItsPlaceInTheTextThatWasGiven) {
+    const struct { std::string text; int place; } cases[] = {
+        {"1+2", -1}, {" (|x)", 2}, {"\xC3\xA4+|x", 2}, {"(1+2))", 5}, {"x|3|", 1}, {"1;2", 1},
+        {"  (1 ", 4}, {"1+foo(3)", 2}, {"1 + 2 (3)", 4}, {"!", 0}, {"max(;2)", 4}, {"1+*2", 2},
+        {"a< =b", 3}, {"1+ 2a", 3}, {"1+2a+1", 2}, {" \xC3\xA4+1", 1}, {"x1+*2", 3}, {"1/0", -1},
+        {SumOfVariables(101), 392}, {Repeated(101, "1+", "", "1"), 201},
+        {std::string(MaxLength + 1, '('), -1},
+    };
+    for (const auto& [text, place] : cases) {
+        Formula formula(text);
+        formula.parser.Eval();
+        EXPECT_EQ(formula.parser.ErrorPlace(), place) << text.substr(0, 100) << formula.Error();
+    }
+    Formula variables(" 1+X1W - y");
+    EXPECT_EQ(variables.parser.VarPlace(1), 3);
+    EXPECT_EQ(variables.parser.VarPlace(2), 9);
+    EXPECT_EQ(variables.parser.VarPlace(3), -1);
+}
+
 TEST(Compile, VariablesAreNumberedByFirstAppearance) {
     const struct { std::string text, names; } cases[] = {
         {"X2dB-X1dB", "X2dB X1dB"}, {"b+a*b-a", "b a"}, {"X1W+x1w", "X1W x1w"}, {"pi+PI+Pi", ""},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The File menu's entries that load the current sensor's settings from a file and save them to one.
-// A measurement goes on while the user chooses the file.
+// A measurement goes on while the user chooses the file. The notice confirms what has been done.
 #pragma once
 
 #include <functional>
@@ -12,13 +12,14 @@
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/enabling.h"
+#include "ui/notice.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
     SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
-                     ui::Enabling& enabling, platform::Host& host);
+                     ui::Enabling& enabling, ui::Notice& notice, platform::Host& host);
 
     // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
     // measurement. A file that can't be read leaves them as they were, with a message. A file
@@ -29,9 +30,12 @@ public:
     void SaveSensorSettings();
 
 private:
+    // "sensor 2 (Antenna)": the current one.
+    std::string SensorText() const;
+    void Confirm(const char* what, const std::string& path);
     // Asks for a file and passes it to goOn; not if the user cancels, nor if the current sensor is
     // a different one by then.
-    void AskFile(const platform::FileQuestion& question,
+    void AskFile(platform::FileQuestion question,
                  const std::function<void(const std::string& path)>& goOn);
     void Load(const std::string& path);
     void Save(const std::string& path);
@@ -41,6 +45,7 @@ private:
     sensors::SensorTable& table_;
     measure::Modes& modes_;
     ui::Enabling& enabling_;
+    ui::Notice& notice_;
     platform::Host& host_;
 };
 

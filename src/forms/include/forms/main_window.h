@@ -12,6 +12,8 @@ struct MDIMain : Window {
         : Window(changes, "MDIMain", "", {0, 0, 15000, 9900}) {
         closesByRule = true;
         SettingAlwaysOnTop.checkable = true;
+        for (MenuItem* item : {&Load_Sensor_Settings, &Save_Sensor_Settings, &MHelpAbout})
+            item->opensDialog = true;
         StopIt.enabled = false;
         BusySign.tag = "1";
         MeasSpeedInfo.visible = false;

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "parser/expression_table.h"
 #include "parser/function_table.h"
@@ -22,6 +23,8 @@ public:
     bool Compile();
 
     const std::string& Error() const { return error_; }
+    // The character at fault, from 0; the text's length for its end, -1 for no place.
+    std::int32_t ErrorPlace() const { return errorPlace_; }
 
 private:
     bool TakeCharacter(char c);
@@ -38,22 +41,30 @@ private:
 
     // The token is the end of the table's names, from tokenStart_ on.
     std::string_view Token() const { return std::string_view(table_.names).substr(tokenStart_); }
-    void Append(char c) { table_.names += c; }
+    void Append(char c) {
+        if (Token().empty()) tokenPlace_ = Place();
+        table_.names += c;
+    }
     void DropToken() { tokenStart_ = table_.names.size(); }
 
     bool AppendEntry(std::string_view fun, const Function& function);
     bool CloseOperand();
     bool SetOperand(Argument& argument);
     bool AddVariable(std::string_view name, Argument& argument);
-    bool Fail(std::string message);
-    bool FailAt(std::string message);
+    std::int32_t Place() const { return position_ - 1; }
+    bool Fail(std::string message, std::int32_t place);
+    // Adds the position to the message.
+    bool FailAt(std::string message, std::int32_t place);
+    bool FailAt(std::string message) { return FailAt(std::move(message), Place()); }
 
     std::string_view text_;
     ExpressionTable& table_;
     std::string error_;
+    std::int32_t errorPlace_ = -1;
     std::int32_t position_ = 0;  // of the current character, from 1; UTF-8 counts as characters
     std::int32_t depth_ = 0;
     std::size_t tokenStart_ = 0;
+    std::int32_t tokenPlace_ = 0;       // of its first character, from 0
     std::string comparison_;            // consecutive comparison signs
     std::string_view pendingFunction_;  // a two-argument name that awaits its ";"
     const Function* pendingRow_ = nullptr;

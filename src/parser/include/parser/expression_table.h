@@ -22,6 +22,7 @@ struct Argument {
     std::int32_t variable = 0;  // number of the variable that feeds it, 0 for constants and results
     std::string_view name;
     double value = 0;
+    std::int32_t place = -1;  // of a variable: its first character, from 0
 };
 
 struct ExpressionEntry {

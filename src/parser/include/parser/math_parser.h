@@ -31,6 +31,10 @@ public:
     // much, so store a formula once and evaluate it many times.
     bool StoreExpression(std::string_view text);
 
+    // Where the last compile failed: the index, from 0, of the character at fault in the text that
+    // was given; its length for its end. UTF-8 counts as characters. -1: no failure, or no place.
+    int ErrorPlace() const { return InGivenText(errorPlace_); }
+
     // The formula without spaces at its ends.
     const std::string& Expression() const { return expression_; }
 
@@ -38,6 +42,10 @@ public:
     // value 0, and can't be set. VarTop is 101 after a formula has failed for too many variables.
     int VarTop() const { return table_.variableCount; }
     std::string_view VarName(int i) const;  // valid until the next StoreExpression
+    // Its first character in the text that was given, from 0; -1 if it has no name.
+    int VarPlace(int i) const {
+        return InGivenText(IsVariable(i) ? table_.variables[i].place : -1);
+    }
     double VarValue(int i) const { return IsVariable(i) ? table_.variables[i].value : 0; }
     void VarValue(int i, double value) {
         if (IsVariable(i)) table_.variables[i].value = value;
@@ -70,6 +78,7 @@ public:
 
 private:
     bool Compile();
+    int InGivenText(int place) const { return place < 0 ? -1 : place + leadingSpaces_; }
     bool IsVariable(int i) const { return i >= 1 && i < static_cast<int>(table_.variables.size()); }
     double Run();
     std::string FailureText(const EvaluationPlan::Failure& failure) const;
@@ -77,7 +86,9 @@ private:
     util::Random& random_;
     util::NumberForm form_;
     std::string expression_;
+    int leadingSpaces_ = 0;
     std::string errorDescription_;
+    int errorPlace_ = -1;  // in expression_
     ExpressionTable table_;
     EvaluationPlan plan_;
     bool stored_ = false;
