@@ -43,10 +43,17 @@ int ColumnWidth(const controls::Grid& grid, int column, const GridFonts& fonts) 
     return width;
 }
 
-// A column whose texts may be of any length takes no more than a part of the table.
+int MostWidth(int others, int column, const GridFonts& fonts) {
+    if (fonts.fitted)
+        return MostCharacters * QFontMetrics(fonts.Of(column)).averageCharWidth() + 2 * CellMargin;
+    return fonts.mostColumnWidth > 0 ? fonts.mostColumnWidth : others / (Third - 1);
+}
+
+// A column whose texts may be of any length takes no more than a third of the table. In the largest
+// font, texts of 24 characters are whole.
 int Limited(int width, int others, const controls::Grid& grid, int column, const GridFonts& fonts) {
     if (!grid.Sample(column).empty()) return width;
-    const int most = fonts.mostColumnWidth > 0 ? fonts.mostColumnWidth : others / (Third - 1);
+    const int most = MostWidth(others, column, fonts);
     return std::min(width, std::max(most, DesignWidth(grid, column, fonts)));
 }
 

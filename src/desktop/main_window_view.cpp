@@ -97,6 +97,7 @@ QWidget* MainWindowView::BuildStrip() {
 
 QHBoxLayout* MainWindowView::BuildButtons() {
     auto* row = new QHBoxLayout;
+    row->setSpacing(Margin);
     for (controls::Button* button : {&form_.StartIt, &form_.StopIt, &form_.Show_Settings}) {
         QPushButton* widget = maker_.Make(*button);
         if (OpensNothingYet(*button)) Withhold(*widget);
@@ -113,6 +114,7 @@ QHBoxLayout* MainWindowView::BuildButtons() {
 
 QHBoxLayout* MainWindowView::BuildChoices() {
     auto* row = new QHBoxLayout;
+    row->setSpacing(Margin);
     auto* synchronisation = new QLabel(Shown(form_.SensSyncMode.access.name));
     QComboBox* modes = maker_.Make(form_.SensSyncMode);
     synchronisation->setBuddy(modes);
@@ -130,6 +132,7 @@ QHBoxLayout* MainWindowView::BuildChoices() {
 
 QHBoxLayout* MainWindowView::BuildConnection() {
     auto* row = new QHBoxLayout;
+    row->setSpacing(Margin);
     row->addWidget(maker_.Make(form_.picConnected, IndicatorIcon));
     QLabel* connected = maker_.Make(form_.ConSensors);
     QFont bold = connected->font();

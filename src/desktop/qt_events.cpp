@@ -47,7 +47,8 @@ void QtEvents::Deliver(milliseconds patience) {
         return;
     }
     patience_.start(patience);
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    while (patience_.isActive() && !quit_)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     patience_.stop();
 }
 

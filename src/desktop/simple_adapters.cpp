@@ -63,6 +63,7 @@ void MenuItemAdapter::Update() {
 
 ListWidget::ListWidget() {
     setFocusPolicy(Qt::StrongFocus);
+    setSizeAdjustPolicy(AdjustToContents);
     view()->setTextElideMode(Qt::ElideMiddle);
 }
 

@@ -53,6 +53,7 @@ QFont CellFont(QFont font, const controls::Grid::Look& look);
 // The mark of a cell is a square of this side, with a gap on each side.
 int MarkSide(const QFont& font);
 
-constexpr int CellMargin = 8;  // logical pixels, on each side of a text
+constexpr int CellMargin = 8;       // logical pixels, on each side of a text
+constexpr int MostCharacters = 24;  // of a text that is shown whole
 
 }  // namespace kelvra::desktop

@@ -18,8 +18,9 @@ public:
     // real interval, so that the user can follow.
     QtEvents(platform::Clock& clock, platform::SetClock* setClock);
 
-    // Delivers the toolkit's events. A measurement with thousands of passes a second calls this far
-    // more often than the user can act, so events are delivered at most once in a millisecond.
+    // Delivers the toolkit's events until the patience is over: painting alone would else make a
+    // simulation faster than the screen. A measurement with thousands of passes a second calls this
+    // far more often than the user can act, so events are delivered at most once in a millisecond.
     void DoEvents(std::chrono::milliseconds patience) override;
     void Repaint() override {
         if (onRepaint) onRepaint();
@@ -44,7 +45,7 @@ private:
     platform::SetClock* setClock_;
     platform::TimerList timers_;
     QTimer due_;       // for the timer that is due next
-    QTimer patience_;  // ends a wait if no event does
+    QTimer patience_;  // ends a wait
     std::chrono::steady_clock::time_point lastDelivery_{};
     bool inRound_ = false;
     bool quit_ = false;

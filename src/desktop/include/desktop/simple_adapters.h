@@ -54,8 +54,6 @@ private:
 // the page scrolls.
 class ListWidget final : public QComboBox {
 public:
-    static constexpr int MostCharacters = 24;
-
     ListWidget();
     QSize sizeHint() const override { return Bounded(QComboBox::sizeHint()); }
     QSize minimumSizeHint() const override { return Bounded(QComboBox::minimumSizeHint()); }
