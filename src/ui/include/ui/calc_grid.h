@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The calculation grid: two of the user's formulas over the latest readings, computed once a pass.
 // Cells below the heading are editable: a front end lets the user type into them, or sends clicks,
-// which ask for the new text. The formula language itself is in parser/.
+// which ask for the new text. The grid's remark and the cells' tooltips say what is wrong with a
+// formula. The formula language itself is in parser/.
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,38 +20,60 @@ namespace kelvra::ui {
 
 class CalcGrid final : public measure::PassListener {
 public:
+    static constexpr int MostEdits = 100;  // that can be taken back
+
     CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host);
 
     // Heading and the two default rows.
     void LayOut();
 
     // Writes the result of both rows: the value as "0.000" (0.000 for a formula that fails), or
-    // "---" when a variable names no sensor with a scalar reading. Skips a row without a name. The
-    // result cell's tooltip has the error.
+    // "---" when a variable names no sensor with a scalar reading. Skips a row without a name.
     void Compute();
     void PassMeasured() override { Compute(); }
 
 private:
     static constexpr int FormulaRows = 2;
 
-    // A row's evaluator, created when the row is first computed, and the formula it holds.
+    // A row's evaluator, created when the row is first computed or edited, and the formula it
+    // holds.
     struct Evaluator {
         std::unique_ptr<parser::MathParser> parser;
         std::string formula;
+        std::string mistake;  // in the formula, whatever the readings are
+        std::string fault;    // why the row fails, as shown
+        std::string absent;   // the reading that is not there, as shown
+    };
+    struct Edit {
+        int row = 0;
+        int column = 0;
+        std::string before;
     };
 
     void ComputeRow(int row);
-    parser::MathParser& EvaluatorOf(int row);
-    // Binds the variables to the readings. The name of the first variable without a reading; empty
-    // if all have one.
-    std::string BindReadings(parser::MathParser& parser);
+    Evaluator& EvaluatorOf(int row);
+    // The name of the first variable without a reading; empty if all have one.
+    std::string_view BindReadings(parser::MathParser& parser);
+
+    // The user's acts.
     void AskText(int row, int column);
+    void EditText(int row, int column, std::string_view text);
+    void TakeBackEdit();
     void SetText(int row, int column, std::string_view text);
+
+    void RemarkOnTyping(int column, std::string_view text);
+    void ShowRemark();
+    // Without waiting for the next pass.
+    void CheckRow(int row);
+    // Shows why the row fails, or which reading is absent.
+    void Explain(int row, std::string_view fault, std::string_view absent);
 
     controls::Grid& grid_;
     sensors::SensorTable& table_;
     platform::Host& host_;
     Evaluator evaluators_[FormulaRows];
+    std::deque<Edit> edits_;  // the last one at the end
+    bool typing_ = false;
 };
 
 // What a variable's name refers to: "X2W" is the second slot in W, "X1dB" the first in dBm.
