@@ -6,6 +6,7 @@
 #include <QTextCharFormat>
 #include <algorithm>
 
+#include "desktop/grid_measures.h"
 #include "desktop/qt_text.h"
 #include "desktop/schemes.h"
 
@@ -14,6 +15,7 @@ namespace kelvra::desktop {
 CellEditor::CellEditor(controls::Grid& grid, int row, int column, QWidget* parent)
     : QLineEdit(parent), grid_(grid), row_(row), column_(column) {
     setFrame(false);
+    setTextMargins(CellMargin / 2, 0, 0, 0);
     setAutoFillBackground(true);
     connect(this, &QLineEdit::textChanged, [this] { Report(); });
 }

@@ -22,6 +22,13 @@ QFont Scaled(QFont font, qreal scale) {
     return font;
 }
 
+int HeadingLines(const controls::Grid& grid) {
+    qsizetype lines = 1;
+    for (int column = 0; column < grid.Columns(); ++column)
+        lines = std::max(lines, 1 + Shown(grid.At(0, column).Text()).count('\n'));
+    return static_cast<int>(lines);
+}
+
 int HeadingWidth(const controls::Grid& grid, int column, const GridFonts& fonts) {
     const controls::Grid::Cell& cell = grid.At(0, column);
     const QFont font = CellFont(fonts.Heading(), cell.look);
@@ -95,8 +102,8 @@ GridMeasures MeasureGrid(const controls::Grid& grid, const GridFonts& fonts) {
         int& width = measures.columns[static_cast<std::size_t>(column)];
         width = ChosenWidth(Limited(width, all - width, grid, column, fonts), column, fonts);
     }
-    const QFontMetrics heading(fonts.Heading());
-    measures.heading = 2 * heading.lineSpacing() + RowMargin;
+    measures.heading =
+        HeadingLines(grid) * QFontMetrics(fonts.Heading()).lineSpacing() + RowMargin;
     const int full = QFontMetrics(Scaled(fonts.normal, fonts.scale)).height() + RowMargin;
     const int little = QFontMetrics(fonts.normal).height() / 2;
     for (int row = 1; row < grid.Rows(); ++row) {
