@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/result_table.h"
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "ui/result_columns.h"
 #include "util/number_text.h"
+#include "util/text.h"
 
 namespace kelvra::ui {
 
@@ -14,6 +19,16 @@ constexpr ResultColumn ValueColumns[] = {WattColumn, DbmColumn, StatusColumn, Si
                                          CountColumn};
 constexpr ResultColumn ArrayColumns[] = {WattColumn, DbmColumn, SigmaColumn, CountColumn};
 
+// "Sensor 2, PS-106, S/N 100002", without what is not known.
+std::string IdentityOf(const sensors::SensorEntry& entry, int slot, const char* noun) {
+    std::string text = noun + (" " + util::TrimmedNumberText(std::int64_t{slot + 1}));
+    const std::string_view type = sensors::TypeOf(entry);
+    const std::string_view serial = util::SplitAtFirst(entry.sensorId, ';').after;
+    if (!type.empty()) text.append(", ").append(type);
+    if (!serial.empty()) text.append(", S/N ").append(serial);
+    return text;
+}
+
 }  // namespace
 
 ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
@@ -24,23 +39,35 @@ ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
 }
 
 void ResultTable::LayOut() {
+    const std::string point = numbers_.decimal;
     const struct {
         ResultColumn column;
         const char* heading;
         bool bold;
-        int width;  // twips; 0: as designed
+        int width;           // twips; 0: as designed
+        std::string sample;  // empty: names are as long as they are
+        const char* tooltip;
     } columns[] = {
-        {NameColumn, "Sensor", true, 0},
-        {WattColumn, "Reading\r\n[W]", false, 1000},
-        {DbmColumn, "Reading\r\n[dBm]", false, 900},
-        {StatusColumn, "Status", false, 700},
-        {SigmaColumn, "Sigma\r\n[dB]", false, 700},
-        {CountColumn, "AVG\r\nCount", false, 700},
+        {NameColumn, "Sensor", true, 0, "",
+         "The sensor's name, marked while it is switched on; a click switches it"},
+        {WattColumn, "Reading\r\n[W]", false, 1000, "-0" + point + "0000E+00",
+         "Latest reading, in watts"},
+        {DbmColumn, "Reading\r\n[dBm]", false, 900, "-000" + point + "000",
+         "Level of the latest reading, in dBm"},
+        {StatusColumn, "Status", false, 700, "||||||||.",
+         "A bar for each measurement, up to eight; a point while the next is awaited; CONF while "
+         "the sensor gets its settings"},
+        {SigmaColumn, "Sigma\r\n[dB]", false, 700, "000" + point + "000",
+         "Standard deviation of the last 30 readings, in dB"},
+        {CountColumn, "AVG\r\nCount", false, 700, "65536",
+         "How many measurements the latest reading is averaged over"},
     };
     grid_.SetRows(RowOf(table_.Slots()));
     for (const auto& column : columns) {
         SetGridCell(grid_, 0, column.column, column.heading, Align::Centre, column.bold, false);
         if (column.width > 0) grid_.SetWidth(column.column, column.width);
+        grid_.SetSample(column.column, column.sample);
+        grid_.SetCellTooltip(0, column.column, column.tooltip);
     }
     for (int slot = 0; slot < table_.Slots(); ++slot)
         SetGridCell(grid_, RowOf(slot), NameColumn, util::TrimmedNumberText(std::int64_t{slot + 1}),
@@ -52,6 +79,22 @@ void ResultTable::PaintName(int slot) {
     const bool on = entry.present && entry.enabled;
     SetGridCell(grid_, RowOf(slot), NameColumn, entry.logicalName, Align::Centre, true, false,
                 on ? controls::Green : controls::Grey);
+    ExplainName(slot, on);
+}
+
+void ResultTable::ExplainName(int slot, bool on) {
+    const sensors::SensorEntry& entry = table_[slot];
+    const int row = RowOf(slot);
+    if (!entry.present) {
+        grid_.SetMark(row, NameColumn, std::nullopt, "");
+        grid_.SetCellTooltip(row, NameColumn, "");
+        return;
+    }
+    grid_.SetMark(row, NameColumn, on, (on ? "on, " : "off, ") + IdentityOf(entry, slot, "sensor"));
+    grid_.SetCellTooltip(row, NameColumn,
+                         entry.logicalName + "\n" + IdentityOf(entry, slot, "Sensor") +
+                             "\nClick to switch it " + (on ? "off" : "on") +
+                             " (from the next Start).");
 }
 
 void ResultTable::PaintPresence(int slot) {
@@ -59,6 +102,7 @@ void ResultTable::PaintPresence(int slot) {
     if (table_[slot].present) return;
     for (const ResultColumn column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false, controls::Cyan);
+    grid_.SetCellTooltip(RowOf(slot), StatusColumn, "");
 }
 
 void ResultTable::ClearValues(int slot) {

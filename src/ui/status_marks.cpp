@@ -19,17 +19,20 @@ void StatusMarks::ShowActivity(int slot, bool waiting) {
     SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Left, true, false);
 }
 
-void StatusMarks::ShowState(int slot, std::string_view text, controls::Colour back) {
+void StatusMarks::ShowState(int slot, std::string_view text, controls::Colour back,
+                            const char* tooltip) {
     SetGridCell(grid_, RowOf(slot), StatusColumn, text, Align::Centre, true, false, back);
+    grid_.SetCellTooltip(RowOf(slot), StatusColumn, tooltip);
     events_.Repaint();
 }
 
 void StatusMarks::TransferBegins(int slot) {
-    ShowState(slot, "CONF", controls::Yellow);
+    ShowState(slot, "CONF", controls::Yellow, "Gets its settings");
 }
 
 void StatusMarks::TransferEnds(int slot) {
-    ShowState(slot, "", controls::White);
+    ShowState(slot, "", controls::White,
+              "A bar for each measurement; with a point: waiting for the next");
 }
 
 }  // namespace kelvra::ui

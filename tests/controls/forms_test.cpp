@@ -26,6 +26,20 @@ TEST(Forms, WindowsStartHiddenWithUniqueNamesAndTwoCloseByRule) {
     }
 }
 
+void ExpectExplained(const controls::Control& control) {
+    const auto kind = control.GetKind();
+    const bool hasNone = kind == controls::Kind::Frame || kind == controls::Kind::Window ||
+                         control.Name().starts_with("line");
+    EXPECT_EQ(control.access.explanation.empty(), hasNone) << control.Name();
+    for (const controls::Control* child : control.Children()) ExpectExplained(*child);
+}
+
+TEST(Forms, EverythingInTheMainWindowAndTheTableExplainsItself) {
+    Forms forms;
+    ExpectExplained(forms.mdiMain);
+    ExpectExplained(forms.statusForm);
+}
+
 TEST(Forms, FindTellsFoundFromUnknown) {
     Forms forms;
     auto& setup = forms.setupForm;

@@ -17,7 +17,14 @@ struct StatusForm : controls::Window {
     }
 
     controls::Frame SensorFrame{*this, "SensorFrame", "", {0, 0, 5520, 4200}};
-    controls::Grid ResultGrid{SensorFrame, "ResultGrid", 9, 6, {.name = "Results"}};
+    controls::Grid ResultGrid{
+        SensorFrame,
+        "ResultGrid",
+        9,
+        6,
+        {.name = "Results",
+         .explanation = "The latest results of each sensor. A click on a name switches that sensor "
+                        "on or off, for the next Start."}};
 };
 
 }  // namespace kelvra::forms

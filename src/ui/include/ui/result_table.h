@@ -21,6 +21,7 @@ public:
     void LayOut();
 
     // The name cell of a slot: green if the sensor is enabled, grey if not, empty if there is none.
+    // Its mark and its tooltip say which sensor it is.
     void PaintName(int slot);
     // The name cell, and empty value cells if the sensor is absent. Also for the spare element's
     // row.
@@ -40,6 +41,7 @@ public:
 private:
     void PressCell(int row, int column);
     void ClickCell(int row, int column);
+    void ExplainName(int slot, bool on);
     bool IsName(int row, int column) const;
     // Switches the slot's sensor on or off, if there is one.
     void ToggleEnabled(int slot);

@@ -30,7 +30,7 @@ public:
 
 private:
     void ShowActivity(int slot, bool waiting);
-    void ShowState(int slot, std::string_view text, controls::Colour back);
+    void ShowState(int slot, std::string_view text, controls::Colour back, const char* tooltip);
 
     controls::Grid& grid_;
     const sensors::SensorTable& table_;
