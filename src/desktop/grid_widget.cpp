@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/grid_painting.h"
 
@@ -64,10 +65,22 @@ void GridWidget::SetZoom(int steps) {
 void GridWidget::SetFitted(bool fitted) {
     if (fonts_.fitted == fitted) return;
     fonts_.fitted = fitted;
-    if (onFit) onFit();
+    FitSoon();
+}
+
+// Once for many changes of the size, and before the next painting.
+void GridWidget::FitSoon() {
+    fitsSoon_ = true;
+    scheduleDelayedItemsLayout();
+}
+
+void GridWidget::doItemsLayout() {
+    if (std::exchange(fitsSoon_, false) && onFit) onFit();
+    QTableWidget::doItemsLayout();
 }
 
 void GridWidget::SetOwnWidths(std::map<int, int> widths) {
+    if (fonts_.own == widths) return;
     fonts_.own = std::move(widths);
     if (onFit) onFit();
 }
@@ -188,7 +201,7 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
 
 void GridWidget::resizeEvent(QResizeEvent* event) {
     QTableWidget::resizeEvent(event);
-    if (fonts_.fitted && onFit) onFit();
+    if (fonts_.fitted) FitSoon();
 }
 
 // The key that opens menus means the current cell.

@@ -23,6 +23,8 @@ struct GridFonts {
     int rowHeading = 0;       // width in front of the columns
     int mostColumnWidth = 0;  // 0: a third of the table
 
+    qreal ScaleOf(int column) const;
+    qreal HeadingScale() const;
     QFont Of(int column) const;
     QFont Heading() const;
 };

@@ -51,6 +51,7 @@ public:
     // Opens the editor where the record lets the cell be edited.
     bool Edits(int row, int column);
 
+    void doItemsLayout() override;
     // All rows and columns without scrolling.
     QSize sizeHint() const override;
 
@@ -68,11 +69,13 @@ private:
     static bool Selects();
     QString HeadingText(int column) const;
     void TakeOwnWidth(int column, int width);
+    void FitSoon();
 
     controls::Grid& grid_;
     GridFonts fonts_;
     int zoom_ = 0;
     int turned_ = 0;  // of the wheel, less than a step
+    bool fitsSoon_ = false;
 };
 
 }  // namespace kelvra::desktop
