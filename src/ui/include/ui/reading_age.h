@@ -46,6 +46,7 @@ private:
 
     // Gives the readings that have arrived their time.
     void Date(platform::Duration now, std::optional<platform::Duration> lasted);
+    void ShowAll();
     void ShowState(int slot);
 
     controls::Grid& grid_;
