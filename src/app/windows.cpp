@@ -11,8 +11,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
       lists(forms, table, selection),
-      results(forms.statusForm, table, selection, host.computer.Numbers()),
       readingAge(forms.statusForm, table, host.clock),
+      results(forms.statusForm, table, selection, readingAge, host.computer.Numbers()),
       marks(forms.statusForm, table, host.events),
       calcGrid(forms.mdiMain, table, host),
       speed(forms.mdiMain, host),
@@ -37,7 +37,6 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
         news.pass.Add(*listener);
     news.slot.Add(marks);
     news.slot.Add(results);
-    news.slot.Add(readingAge);
     session.notices.Add(errorStrip);
     session.marks.Add(notice);
     session.marks.Add(marks);

@@ -18,7 +18,7 @@ constexpr ResultColumn ValueColumns[] = {WattColumn, DbmColumn, SigmaColumn, Cou
 // The channels have new sensors, and no reading yet.
 void ReadingAge::Started() {
     readings_.assign(static_cast<std::size_t>(table_.Slots()), {});
-    for (int slot = 0; slot < table_.Slots(); ++slot) ShowState(slot);
+    ShowAll();
 }
 
 void ReadingAge::ReadingArrived(int slot) {
@@ -43,19 +43,23 @@ void ReadingAge::Date(platform::Duration now, std::optional<platform::Duration> 
 void ReadingAge::Look() {
     const platform::Duration now = clock_.Monotonic();
     readings_.resize(static_cast<std::size_t>(table_.Slots()));
-    for (int slot = 0; slot < table_.Slots(); ++slot) {
-        Reading& reading = readings_[static_cast<std::size_t>(slot)];
+    for (Reading& reading : readings_) {
         const bool old =
             !reading.came || now - *reading.came > std::max(LeastAge, 2 * reading.lasted);
         reading.stale = old && !reading.arrived;
-        ShowState(slot);
     }
+    ShowAll();
+}
+
+// The grid may have rows below the last slot.
+void ReadingAge::ShowAll() {
+    for (int slot = 0; RowOf(slot) < grid_.Rows(); ++slot) ShowState(slot);
 }
 
 // A cell without a text says nothing that could be old.
 void ReadingAge::ShowState(int slot) {
-    if (RowOf(slot) >= grid_.Rows()) return;
-    const bool stale = readings_[static_cast<std::size_t>(slot)].stale;
+    const auto index = static_cast<std::size_t>(slot);
+    const bool stale = index < readings_.size() && readings_[index].stale;
     for (const ResultColumn column : ValueColumns) {
         const controls::CellText& content = grid_.At(RowOf(slot), column).content;
         grid_.SetStale(RowOf(slot), column,

@@ -32,8 +32,9 @@ std::string IdentityOf(const sensors::SensorEntry& entry, int slot, const char* 
 }  // namespace
 
 ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
-                         SensorSelection& selection, const util::NumberForm& numbers)
-    : grid_(form.ResultGrid), table_(table), selection_(selection), numbers_(numbers) {
+                         SensorSelection& selection, ReadingAge& age,
+                         const util::NumberForm& numbers)
+    : grid_(form.ResultGrid), table_(table), selection_(selection), age_(age), numbers_(numbers) {
     grid_.mouseDown.Connect([this](int row, int column) { PressCell(row, column); });
     grid_.click.Connect([this](int row, int column) { ClickCell(row, column); });
 }
@@ -142,6 +143,7 @@ void ResultTable::ReadingArrived(int slot) {
     else
         SetGridCell(grid_, RowOf(slot), SigmaColumn, "", Align::Left, false, false,
                     controls::White);
+    age_.ReadingArrived(slot);
 }
 
 void ResultTable::ToggleEnabled(int slot) {

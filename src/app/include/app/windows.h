@@ -36,8 +36,8 @@ struct Windows {
     ui::ErrorStrip errorStrip;
     ui::SensorSelection selection;
     ui::SelectionLists lists;
-    ui::ResultTable results;
     ui::ReadingAge readingAge;
+    ui::ResultTable results;
     ui::StatusMarks marks;
     ui::CalcGrid calcGrid;
     ui::SpeedLabel speed;

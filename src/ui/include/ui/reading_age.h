@@ -14,9 +14,7 @@
 
 namespace kelvra::ui {
 
-class ReadingAge final : public measure::MeasurementListener,
-                         public measure::PassListener,
-                         public measure::SlotListener {
+class ReadingAge final : public measure::MeasurementListener, public measure::PassListener {
 public:
     ReadingAge(forms::StatusForm& form, const sensors::SensorTable& table, platform::Clock& clock)
         : grid_(form.ResultGrid), table_(table), clock_(clock) {}
@@ -30,10 +28,8 @@ public:
 
     void PassSeen(platform::Duration now, platform::Duration lasted) override { Date(now, lasted); }
 
-    void SlotStarted(int /*slot*/) override {}
-    void SlotComplete(int /*slot*/) override {}
-    void ReadingArrived(int slot) override;
-    void ArrayArrived(int /*slot*/) override {}
+    // The result table calls it, which costs less than listening to all that happens at a slot.
+    void ReadingArrived(int slot);
 
 private:
     // The last good reading of a slot.
@@ -46,6 +42,7 @@ private:
 
     // Gives the readings that have arrived their time.
     void Date(platform::Duration now, std::optional<platform::Duration> lasted);
+    void ShowAll();
     void ShowState(int slot);
 
     controls::Grid& grid_;

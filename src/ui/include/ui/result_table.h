@@ -7,6 +7,7 @@
 #include "forms/status_form.h"
 #include "measure/listener.h"
 #include "sensors/sensor_table.h"
+#include "ui/reading_age.h"
 #include "ui/sensor_selection.h"
 #include "util/number_text.h"
 
@@ -15,7 +16,7 @@ namespace kelvra::ui {
 class ResultTable final : public measure::MeasurementListener, public measure::SlotListener {
 public:
     ResultTable(forms::StatusForm& form, sensors::SensorTable& table, SensorSelection& selection,
-                const util::NumberForm& numbers);
+                ReadingAge& age, const util::NumberForm& numbers);
 
     // Heading, column widths, and a numbered row for each slot.
     void LayOut();
@@ -49,6 +50,7 @@ private:
     controls::Grid& grid_;
     sensors::SensorTable& table_;
     SensorSelection& selection_;
+    ReadingAge& age_;
     const util::NumberForm& numbers_;
 };
 
