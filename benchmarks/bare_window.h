@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/icons.h"
@@ -47,9 +48,13 @@ public:
             8, {"Sensor", "Reading\n[W]", "Reading\n[dBm]", "Status", "Sigma\n[dB]", "AVG\nCount"});
         for (int row = 0; row < 8; ++row) {
             QTableWidgetItem* name = results->item(row, 0);
-            name->setFont(Bold(name->font()));
+            name->setFont(Bold(Large(name->font())));
             name->setText(row < 2 ? QString("SensSim%1").arg(row + 1) : QString());
         }
+        QFont heading = results->font();
+        heading.setPointSizeF(1.3 * heading.pointSizeF());
+        results->horizontalHeader()->setFont(heading);
+        results->verticalHeader()->show();
         area->addSubWindow(Framed(results))->resize(500, 320);
         all->addWidget(area, 1);
         setCentralWidget(central);
@@ -64,11 +69,21 @@ private:
         for (const char* entry :
              {"&Load sensor settings", "&Save sensor settings", "&Record Data", "E&xit"})
             file->addAction(entry);
-        menuBar()->addMenu("&Window")->addAction("Settings always on &top")->setCheckable(true);
+        QMenu* window = menuBar()->addMenu("&Window");
+        for (const char* entry : {"Settings always on &top", "&Fit readings", "&Larger readings",
+                                  "&Smaller readings", "&Normal readings", "F&ull screen"})
+            window->addAction(entry)->setCheckable(true);
+        QMenu* colours = window->addMenu("&Colours");
+        for (const char* entry : {"Classic", "Calm", "Dark"}) colours->addAction(entry);
         QMenu* help = menuBar()->addMenu("&Help");
         for (const char* entry : {"&Help", "&About"}) help->addAction(entry);
     }
 
+    // As large as the readings are in a window of this size.
+    static QFont Large(QFont font) {
+        font.setPointSizeF(3 * font.pointSizeF());
+        return font;
+    }
     static QFont Bold(QFont font) {
         font.setBold(true);
         return font;
@@ -104,6 +119,7 @@ private:
         row->addWidget(Picture("busy1", 28));
         row->addWidget(new QLabel("???"));
         row->addStretch();
+        row->addWidget(new QLabel("Synchronisation"));
         row->addWidget(List({"Start Sync", "Sequenced", "Async"}));
         row->addWidget(new QLabel("Sensor"));
         row->addWidget(List({"1: SensSim1", "2: SensSim2"}));
@@ -119,6 +135,11 @@ private:
         auto* notice = new QLabel(" ");
         notice->setWordWrap(true);
         row->addWidget(Framed(notice), 1);
+        for (const char* text : {"Copy", "Details..."}) {
+            auto* button = new QToolButton;
+            button->setText(text);
+            row->addWidget(button);
+        }
         return row;
     }
 

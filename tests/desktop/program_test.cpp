@@ -197,7 +197,7 @@ private slots:
                 if (!entry->isEnabled()) disabled << entry->text() + ": " + entry->toolTip();
         const QString why = ": This window comes with a later version";
         QCOMPARE(disabled, (QStringList{"&Record Data..." + why, "Settings always on &top" + why,
-                                        "&About" + why}));
+                                        "&About..." + why}));
         const auto& settings = running.Find<QPushButton>("Show_Settings");
         QVERIFY(!settings.isEnabled() && form.Show_Settings.enabled);
         QCOMPARE(": " + settings.toolTip(), why);
