@@ -20,10 +20,6 @@ CellEditor::CellEditor(controls::Grid& grid, int row, int column, QWidget* paren
     connect(this, &QLineEdit::textChanged, [this] { Report(); });
 }
 
-CellEditor::~CellEditor() {
-    grid_.LeaveCell();
-}
-
 void CellEditor::Report() {
     grid_.EditCell(row_, column_, Bytes(text()));
     MarkFault(grid_.remark->place);

@@ -120,6 +120,11 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     return editor;
 }
 
+void CellDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const {
+    grid_.LeaveCell();
+    QStyledItemDelegate::destroyEditor(editor, index);
+}
+
 // A text that was not touched is not written: the cell may say something newer by now.
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
                                 const QModelIndex& index) const {

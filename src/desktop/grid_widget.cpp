@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
@@ -34,6 +35,7 @@ GridWidget::GridWidget(controls::Grid& grid, QWidget* parent) : QTableWidget(par
     setWordWrap(false);
     setFrameShape(QFrame::NoFrame);
     verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     connect(this, &QTableWidget::cellPressed, [this](int row, int column) {
@@ -124,9 +126,17 @@ void GridWidget::Activate(int row, int column) {
     if (!Edits(row, column)) grid_.ClickCell(row + 1, column);
 }
 
+// The toolkit selects the whole text, which the next key would replace.
+bool GridWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    const bool opened = QTableWidget::edit(index, trigger, event);
+    auto* editor = opened && trigger != AnyKeyPressed ? findChild<QLineEdit*>() : nullptr;
+    if (editor != nullptr) editor->end(false);
+    return opened;
+}
+
 bool GridWidget::Edits(int row, int column) {
     if (!grid_.At(row + 1, column).editable) return false;
-    edit(model()->index(row, column));
+    edit(model()->index(row, column), AllEditTriggers, nullptr);
     return true;
 }
 

@@ -104,10 +104,13 @@ QHBoxLayout* MainWindowView::BuildButtons() {
         row->addWidget(widget);
     }
     row->addWidget(maker_.Make(form_.BusySign));
-    QLabel* speed = maker_.Make(form_.MeasSpeedInfo);
-    speed->setMinimumWidth(speed->fontMetrics().horizontalAdvance("00000 /s"));
-    KeepRoom(*speed);
-    row->addWidget(speed);
+    auto* place = new QGridLayout;  // for one of the two
+    for (const controls::Label* label : {&form_.MeasSpeedInfo, &form_.NotMeasuring}) {
+        QLabel* text = maker_.Make(*label);
+        KeepRoom(*text);
+        place->addWidget(text, 0, 0);
+    }
+    row->addLayout(place);
     row->addStretch();
     return row;
 }

@@ -77,11 +77,6 @@ void Notice::TransferBegins(int slot) {
     Hint("Configuring " + Whole(number) + " of " + Whole(configured_.size()));
 }
 
-void Notice::StartFailed(measure::StartFailure /*why*/) {
-    configured_.clear();
-    Hint("Not measuring: press Stop");
-}
-
 void Notice::EndStart() {
     configured_.clear();
     Set(Rank::Course, {});

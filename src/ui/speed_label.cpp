@@ -23,6 +23,12 @@ void SpeedLabel::Started() {
 void SpeedLabel::Hide() {
     running_ = false;
     window_.MeasSpeedInfo.visible = false;
+    window_.NotMeasuring.visible = false;
+}
+
+void SpeedLabel::StartFailed(measure::StartFailure /*why*/) {
+    Hide();
+    window_.NotMeasuring.visible = true;
 }
 
 void SpeedLabel::Awaited(int /*slot*/, const std::string& /*complaint*/) {

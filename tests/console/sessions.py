@@ -65,8 +65,8 @@ class Session(unittest.TestCase):
                 ("type ScopePoints 5", "ScopePoints is hidden"),  # its page is
                 ("type StartIt 5", "not for a button"),
                 ("click Frame1", "several windows have a Frame1"),
-                ("choose SensSyncMode Never", "the list has no entry Never"),
-                ("choose SensSyncMode #3", "the list has no entry #3"),
+                ("choose TimeSensor_select_new Never", "the list has no entry Never"),
+                ("choose TimeSensor_select_new #3", "the list has no entry #3"),
                 ("cell ResultGrid 1 6", "the grid has no such cell"),
                 ("resize MDIMain 1 x", "width and height are whole numbers of twips"),
                 ("wait passes 1", "no measurement runs"),

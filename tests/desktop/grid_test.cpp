@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -100,7 +101,7 @@ private slots:
             QString event;
         } cases[] = {
             {"Enter", [&] { key(Qt::Key_Return); }, "x",
-             [&] { QTest::keyClick(Editor(), Qt::Key_Return); }, "type 1 1 x"},
+             [&] { QTest::keyClick(Editor(), Qt::Key_Return); }, "type 1 1 b1x"},
             {"F2", [&] { key(Qt::Key_F2); }, "z",
              [&] { QTest::keyClick(Editor(), Qt::Key_Escape); }, ""},
             {"typing", [&] { key(Qt::Key_W); }, "w", [&] { table_->setFocus(); }, "type 1 1 ww"},
@@ -121,6 +122,53 @@ private slots:
             events_.removeAll("down 1 1");
             QCOMPARE(events_.join(','), c.event);
             QCOMPARE(table_->item(0, 1)->text(), c.begin);  // what the record says, and no other
+        }
+    }
+
+    void FiguresAreAlignedAndStaleOnesDim() {
+        const util::NumberForm form;
+        grid_.SetCell(1, 1, util::FixedFigure(-9.5, form), {.back = controls::White});
+        grid_.SetStale(1, 1, true);
+        mirror_->Flush();
+        const QTableWidgetItem& item = *table_->item(0, 1);
+        QCOMPARE(item.textAlignment(), int(Qt::AlignVCenter | Qt::AlignRight));
+        QCOMPARE(item.foreground().color(), StaleTextOn(Qt::white));
+        grid_.SetStale(1, 1, false);
+        mirror_->Flush();
+        QCOMPARE(item.foreground().color(), QColor(Qt::black));
+    }
+
+    void WidthsDependOnSamplesAndNotOnLongNames() {
+        const std::string longName(120, 'n');
+        grid_.SetSample(1, "-000.000");
+        grid_.SetSample(2, "00000");
+        mirror_->Flush();
+        const int figures = table_->columnWidth(1);
+        QVERIFY(figures >= table_->fontMetrics().horizontalAdvance("-000.000"));
+        Set(1, 0, longName.c_str());
+        mirror_->Flush();
+        QVERIFY(3 * table_->columnWidth(0) <= table_->horizontalHeader()->length() + 3);
+        QCOMPARE(table_->columnWidth(1), figures);
+        const int full = table_->rowHeight(1);
+        for (int column = 0; column < 3; ++column) Set(2, column, "");
+        mirror_->Flush();
+        QVERIFY(2 * table_->rowHeight(1) <= full);
+    }
+
+    void TheLargestFontFillsTheRoomAndNoMore() {
+        table_->SetMinorColumns({2});
+        for (const QSize room : {QSize(1920, 900), QSize(700, 300)}) {
+            table_->resize(room);
+            table_->SetFitted(true);
+            QCoreApplication::processEvents();
+            const QSize shown(
+                table_->horizontalHeader()->length(),
+                table_->verticalHeader()->length() + table_->horizontalHeader()->height());
+            QCOMPARE(shown.width(), room.width());
+            QVERIFY(shown.height() <= room.height());
+            const bool wide = 1.1 * table_->sizeHint().height() > room.height();
+            QVERIFY(wide || shown.width() == room.width());
+            QVERIFY(table_->fontMetrics().height() > 40);
         }
     }
 

@@ -40,6 +40,7 @@ class ProgramTest : public QObject {
 
     static void TypeInto(GridWidget& grid, int row, int column, const char* text) {
         ClickCell(grid, row, column);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), text);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCoreApplication::processEvents();  // the editor closes later
@@ -77,6 +78,51 @@ private slots:
         QCOMPARE(WholeLevel(grid, 0), -9);
     }
 
+    void AFormulaIsCheckedWhileItIsTypedAndTakenBack() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        auto& grid = running.Find<GridWidget>("CalcGrid");
+        const auto& record = running.kelvra.forms.mdiMain.CalcGrid;
+        const auto key = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
+            QTest::keyClick(QApplication::focusWidget(), pressed, held);
+            QCoreApplication::processEvents();
+        };
+        grid.setFocus();
+        grid.setCurrentCell(0, 1);
+        const std::string before = record.At(1, 1).Text();
+        key(Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), "+Y");
+        QCOMPARE(record.remark->place, static_cast<int>(before.size()) + 1);
+        QVERIFY(!record.remark->text.empty());
+        key(Qt::Key_Escape);
+        QVERIFY(record.remark->text.empty());
+        QCOMPARE(record.At(1, 1).Text(), before);
+        key(Qt::Key_Delete);
+        QCOMPARE(record.At(1, 1).Text(), "");
+        key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(record.At(1, 1).Text(), before);
+    }
+
+    void TheNextRunLooksAsThisOneDid() {
+        const QTemporaryDir data;
+        {
+            RunningDesktop running(data);
+            running.Main().resize(850, 555);
+            for (QAction* entry : running.Main().findChildren<QAction*>())
+                if (entry->text() == "Calm" || entry->text() == "&Fit readings") entry->trigger();
+            running.Results().SetOwnWidths({{0, 111}});
+            running.Results().onOwnWidth();
+        }
+        UseScheme(Scheme::Classic);
+        RunningDesktop running(data);
+        QCOMPARE(running.Main().size(), QSize(850, 555));
+        QCOMPARE(running.kelvra.forms.mdiMain.place->width, Twips(850));
+        QCOMPARE(CurrentScheme(), Scheme::Calm);
+        QVERIFY(!running.Results().Fitted());
+        QCOMPARE(running.Results().columnWidth(0), 111);
+        UseScheme(Scheme::Classic);
+    }
+
     void WithoutASensorStartSaysSo() {
         const QTemporaryDir data;
         RunningDesktop running(data);
@@ -109,8 +155,8 @@ private slots:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (visited.size() < 20 && QApplication::focusWidget() != &running.Start());
         visited.removeAll("");
-        QCOMPARE(visited, (QStringList{"StartIt", "StopIt", "SensSyncMode", "TimeSensor_select_new",
-                                       "CalcGrid", "ResultGrid"}));
+        QCOMPARE(visited, (QStringList{"StartIt", "StopIt", "TimeSensor_select_new", "CalcGrid",
+                                       "ResultGrid"}));
     }
 
     void TheFrameShowsItsRecordWithoutAnEcho() {

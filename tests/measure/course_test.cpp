@@ -114,7 +114,7 @@ TEST_F(CourseTest, TheNoticeShowsTheHighestRankAndThenTheNext) {
     EXPECT_EQ(Notice(), "second file");  // a confirmation does not remain in the hidden label
 }
 
-TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndSaysWhatToDoAfterAFailure) {
+TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndAFailedStartSaysWhatToDo) {
     StartWith(3);
     program->table[1].enabled = false;
     const auto& main = program->forms.mdiMain;
@@ -129,10 +129,9 @@ TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndSaysWhatToDoAf
     EXPECT_EQ(counted, "Configuring 1 of 2|Configuring 2 of 2|");
     for (int slot : {0, 1, 2}) program->table[slot].enabled = false;
     PressStart();
-    EXPECT_TRUE(main.ConnectedFrame.visible);
-    EXPECT_EQ(Notice(), "Not measuring: press Stop");
+    EXPECT_TRUE(main.NotMeasuring.visible);
     PressStop();
-    EXPECT_FALSE(main.ConnectedFrame.visible);
+    EXPECT_FALSE(main.NotMeasuring.visible);
 }
 
 TEST_F(CourseTest, TheSpeedCountsWholePassesWithoutPausesAndThePictureMovesAllTheTime) {

@@ -13,7 +13,6 @@ class CellEditor final : public QLineEdit {
 public:
     // Row and column of the record.
     CellEditor(controls::Grid& grid, int row, int column, QWidget* parent);
-    ~CellEditor() override;
 
 private:
     void Report();

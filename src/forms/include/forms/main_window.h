@@ -17,9 +17,13 @@ struct MDIMain : Window {
         StopIt.enabled = false;
         BusySign.tag = "1";
         MeasSpeedInfo.visible = false;
+        NotMeasuring.visible = false;
+        SensSyncMode.enabled = false;
+        SensSyncMode.tooltip = "Has no effect: each sensor starts with its own trigger.";
         ConnectedFrame.visible = false;
         MeasSpeedInfo.access.explanation =
             "Speed: passes over all sensors per second, not counting pauses between them.";
+        NotMeasuring.access.explanation = "The start has failed; Stop makes the next one possible.";
         SensorLabel.access.explanation = "The list beside it chooses the current sensor.";
         ConSensors.access.explanation =
             "How many sensors are plugged in; without any, two simulated ones are measured.";
@@ -119,6 +123,7 @@ struct MDIMain : Window {
         "busy1",
         {.name = "Activity", .explanation = "Moves about once a second while measuring."}};
     Label MeasSpeedInfo{MainTools, "MeasSpeedInfo", "???"};
+    Label NotMeasuring{MainTools, "NotMeasuring", "Not measuring: press Stop"};
     Label SensorLabel{MainTools, "SensorLabel", "Sensor"};
     List TimeSensor_select_new{
         MainTools,

@@ -39,7 +39,7 @@ public:
     void TakeBackOld();
 
     void Started() override;
-    void StartFailed(measure::StartFailure why) override;
+    void StartFailed(measure::StartFailure /*why*/) override { EndStart(); }
     void Prepared() override { EndStart(); }
     void Awaited(int slot, const std::string& complaint) override;
     void PassSeen(platform::Duration /*now*/, platform::Duration /*lasted*/) override {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The speed figure (passes per second, not counting pauses between them), visible from its first
-// value to the end of the measurement, and the busy picture, which moves about once a second during
-// a measurement.
+// What is beside the Stop button: the busy picture, which moves about once a second during a
+// measurement; the speed figure (passes per second, not counting pauses between them), visible from
+// its first value to the end of the measurement; and the hint to press Stop after a failed start.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ public:
     SpeedLabel(forms::MDIMain& window, platform::Host& host) : window_(window), host_(host) {}
 
     void Started() override;
-    void StartFailed(measure::StartFailure /*why*/) override { Hide(); }
+    void StartFailed(measure::StartFailure why) override;
     void Stopped() override { Hide(); }
     void Awaited(int /*slot*/, const std::string& /*complaint*/) override;
     void PassSeen(platform::Duration now, platform::Duration lasted) override;
