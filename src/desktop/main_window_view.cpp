@@ -176,7 +176,7 @@ QWidget* MainWindowView::BuildFormulas() {
     formulas_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     formulas_->onNeed = [this] { KeepResultsInSight(); };
-    formulas_->onFit();
+    KeepResultsInSight();
     // Where room is short the formula column shrinks: names and results matter more.
     formulas_->horizontalHeader()->setSectionResizeMode(FormulaColumn, QHeaderView::Stretch);
     return outer;

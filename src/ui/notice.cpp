@@ -110,7 +110,8 @@ void Notice::PassWaits(platform::Duration left) {
 void Notice::PassEnded() {
     const bool others = !Text(Rank::Error).empty() || !Text(Rank::Files).empty();
     if (!others) kept_ = " ";
-    Set(Rank::Course, {});
+    if (!Text(Rank::Course).empty() || window_.lblMeasAwait.caption.Get() != kept_)
+        Set(Rank::Course, {});
 }
 
 void Notice::SessionLost(const measure::LostSession& lost) {

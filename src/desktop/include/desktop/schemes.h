@@ -38,9 +38,9 @@ double Contrast(const QColor& a, const QColor& b);
 
 // Every pair of a text and its background that the windows use, for checks.
 struct Pair {
-    const char* what;
-    Part backPart;
-    controls::Colour back;
+    const char* what = "";
+    Part backPart{};
+    controls::Colour back = 0;
     std::optional<controls::Colour> text;  // none: TextOn
     bool stale = false;
 };

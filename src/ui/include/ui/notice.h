@@ -43,7 +43,7 @@ public:
     void Prepared() override { EndStart(); }
     void Awaited(int slot, const std::string& complaint) override;
     void PassSeen(platform::Duration /*now*/, platform::Duration /*lasted*/) override {
-        Set(Rank::Course, {});
+        if (!Text(Rank::Course).empty()) Set(Rank::Course, {});
     }
     void PassWaits(platform::Duration left) override;
     void PassEnded() override;
