@@ -55,6 +55,7 @@ void GridWidget::ShowRowNumbers() {
     verticalHeader()->setSectionsClickable(false);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
+    FitSoon();
 }
 
 void GridWidget::SetZoom(int steps) {
