@@ -157,8 +157,9 @@ void GridAdapter::ShowCell(int row, int column) {
     }
     const QString text = Shown(cell.Text());
     if (item->text() != text) item->setText(text);
+    // A cell without a font of its own has the table's.
     if (const QFont font = CellFont(fonts_[static_cast<std::size_t>(column)], cell.look);
-        item->font() != font)
+        !item->data(Qt::FontRole).isValid() || item->font() != font)
         item->setFont(font);
     item->setTextAlignment(ToolkitAlign(cell));
     ShowColours(*item, cell);

@@ -104,13 +104,11 @@ QHBoxLayout* MainWindowView::BuildButtons() {
         row->addWidget(widget);
     }
     row->addWidget(maker_.Make(form_.BusySign));
-    auto* place = new QGridLayout;  // for one of the two
-    for (const controls::Label* label : {&form_.MeasSpeedInfo, &form_.NotMeasuring}) {
-        QLabel* text = maker_.Make(*label);
-        KeepRoom(*text);
-        place->addWidget(text, 0, 0);
-    }
-    row->addLayout(place);
+    QLabel* speed = maker_.Make(form_.MeasSpeedInfo);
+    speed->setMinimumWidth(speed->fontMetrics().horizontalAdvance("000 /s"));
+    KeepRoom(*speed);
+    row->addWidget(speed);
+    row->addWidget(maker_.Make(form_.NotMeasuring, new ElidedLabel(1)));
     row->addStretch();
     return row;
 }

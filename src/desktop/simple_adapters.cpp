@@ -7,9 +7,9 @@
 #include <QStylePainter>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "desktop/common.h"
-#include "desktop/grid_measures.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 
@@ -67,10 +67,10 @@ ListWidget::ListWidget() {
     view()->setTextElideMode(Qt::ElideMiddle);
 }
 
-QSize ListWidget::Bounded(QSize size) const {
-    const int most = MostCharacters * fontMetrics().averageCharWidth();
-    return size.boundedTo(
-        {most + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * CellMargin, size.height()});
+QSize ListWidget::Bounded(const QSize& size, int characters) const {
+    const int most = characters * fontMetrics().averageCharWidth() +
+                     style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * CellMargin;
+    return {std::min(size.width(), most), size.height()};
 }
 
 void ListWidget::paintEvent(QPaintEvent*) {
@@ -81,7 +81,7 @@ void ListWidget::paintEvent(QPaintEvent*) {
     const QRect place =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     option.currentText =
-        fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, place.width() - CellMargin);
+        fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, place.width());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -11,6 +11,7 @@
 #include "controls/kinds.h"
 #include "controls/list.h"
 #include "desktop/adapter.h"
+#include "desktop/grid_measures.h"
 #include "desktop/schemes.h"
 
 namespace kelvra::desktop {
@@ -55,8 +56,10 @@ private:
 class ListWidget final : public QComboBox {
 public:
     ListWidget();
-    QSize sizeHint() const override { return Bounded(QComboBox::sizeHint()); }
-    QSize minimumSizeHint() const override { return Bounded(QComboBox::minimumSizeHint()); }
+    QSize sizeHint() const override { return Bounded(QComboBox::sizeHint(), MostCharacters); }
+    QSize minimumSizeHint() const override {
+        return Bounded(QComboBox::minimumSizeHint(), LeastCharacters);
+    }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -64,7 +67,9 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    QSize Bounded(QSize size) const;
+    static constexpr int LeastCharacters = 6;
+
+    QSize Bounded(const QSize& size, int characters) const;
 };
 
 class ListAdapter final : public Adapter {
