@@ -22,6 +22,7 @@ void Discovery::Search() {
         running_ = false;
     }
     p_.windows.readingAge.Look();
+    p_.windows.calcGrid.ShowAge(p_.windows.readingAge);
     p_.windows.notice.TakeBackOld();
 }
 

@@ -12,6 +12,18 @@
 
 namespace kelvra::desktop {
 
+namespace {
+
+// The record counts characters, the toolkit units of its encoding.
+int UnitsBefore(const QString& text, int characters) {
+    int units = 0;
+    for (; characters > 0 && units < text.size(); --characters)
+        units += text[units].isHighSurrogate() ? 2 : 1;
+    return units;
+}
+
+}  // namespace
+
 CellEditor::CellEditor(controls::Grid& grid, int row, int column, QWidget* parent)
     : QLineEdit(parent), grid_(grid), row_(row), column_(column) {
     setFrame(false);
@@ -25,23 +37,19 @@ void CellEditor::Report() {
     MarkFault(grid_.remark->place);
 }
 
-// The toolkit has no other way to format a part of a line edit's text. Places count characters
-// beyond the first plane once, the toolkit twice.
+// The toolkit has no other way to format a part of a line edit's text: the word at the place.
 void CellEditor::MarkFault(int place) {
     QList<QInputMethodEvent::Attribute> attributes;
     if (place >= 0 && !text().isEmpty()) {
-        const auto before =
-            text().toUcs4().first(std::min<qsizetype>(place, text().toUcs4().size()));
-        const auto start = std::min(
-            QString::fromUcs4(reinterpret_cast<const char32_t*>(before.data()), before.size())
-                .size(),
-            text().size() - 1);
+        const int start = std::min(UnitsBefore(text(), place), static_cast<int>(text().size()) - 1);
+        int end = start + 1;
+        while (end < text().size() && text()[end].isLetterOrNumber()) ++end;
         QTextCharFormat fault;
         fault.setUnderlineStyle(QTextCharFormat::WaveUnderline);
         fault.setUnderlineColor(PaintColour(OwnColour::Fault));
         fault.setForeground(PaintColour(OwnColour::Fault));
         attributes.append(
-            {QInputMethodEvent::TextFormat, static_cast<int>(start) - cursorPosition(), 1, fault});
+            {QInputMethodEvent::TextFormat, start - cursorPosition(), end - start, fault});
     }
     QInputMethodEvent event({}, attributes);
     QCoreApplication::sendEvent(this, &event);

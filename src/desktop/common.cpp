@@ -27,15 +27,15 @@ void UpdateCommon(QWidget& widget, const controls::Control& control) {
     // A widget outside a window would be shown as a window; it becomes visible once it is in one.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.visible) widget.setVisible(control.visible);
-    const QString tooltip = control.tooltip->empty() ? widget.property(OwnTooltip).toString()
-                                                     : TooltipText(control.tooltip.Get());
+    QString tooltip = control.tooltip->empty() ? widget.property(OwnTooltip).toString()
+                                               : Shown(control.tooltip.Get());
+    if (Qt::mightBeRichText(tooltip)) tooltip = TooltipText(tooltip);
     if (widget.toolTip() != tooltip) widget.setToolTip(tooltip);
     UpdateColours(widget, control);
 }
 
-QString TooltipText(const std::string& text) {
-    const QString shown = Shown(text);
-    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
+QString TooltipText(const QString& text) {
+    return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 void SetOwnTooltip(QWidget& widget, const QString& text) {

@@ -17,7 +17,7 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       view_(preferences_, {main_.Widget(), main_.WindowMenu(), results_, main_.Formulas(),
-                           [this] { mirror_.ShowAll(); }}) {
+                           [this] { Recolour(); }}) {
     GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings, false);
     GiveFormulaMenu(main_.Formulas());
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
@@ -33,10 +33,14 @@ Desktop::~Desktop() {
     KeepLook();
 }
 
+void Desktop::Recolour() {
+    main_.Area().setBackground(PaintColour(Part::Surface, controls::Blue));
+    if (shown_ != CurrentScheme()) mirror_.ShowAll();
+    shown_ = CurrentScheme();
+}
+
 void Desktop::KeepLook() {
-    FrameWindow& frame = main_.Widget();
-    frame.setWindowState(frame.windowState() & ~Qt::WindowFullScreen);
-    preferences_.SetFrame(frame.saveGeometry());
+    preferences_.SetFrame(main_.Widget().Geometry());
     if (!results_.Table().Fitted() && results_.Window().PlacedByPerson())
         preferences_.SetPlace(ResultWindow, results_.Window().geometry());
 }

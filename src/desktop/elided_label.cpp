@@ -6,6 +6,8 @@
 #include <QTextLayout>
 #include <QToolTip>
 
+#include "desktop/common.h"
+
 namespace kelvra::desktop {
 
 namespace {
@@ -29,30 +31,32 @@ QString ElidedLabel::Line() const {
     return text().simplified();
 }
 
-void ElidedLabel::paintEvent(QPaintEvent*) {
+QStringList ElidedLabel::Parts() const {
     const QString line = Line();
     QTextLayout layout(line, font());
-    QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
+    QStringList parts;
     layout.beginLayout();
-    for (int number = 1; number <= lines_; ++number) {
-        QTextLine part = layout.createLine();
-        if (!part.isValid()) break;
+    for (QTextLine part = layout.createLine(); part.isValid(); part = layout.createLine()) {
         part.setLineWidth(width());
-        const bool last = number == lines_;
-        const QString shown =
-            last ? fontMetrics().elidedText(line.mid(part.textStart()), Qt::ElideRight, width())
-                 : line.mid(part.textStart(), part.textLength());
-        painter.drawText(0, (number - 1) * fontMetrics().lineSpacing() + fontMetrics().ascent(),
-                         shown);
+        const bool last = parts.size() + 1 == lines_;
+        parts << (last ? fontMetrics().elidedText(line.mid(part.textStart()), Qt::ElideRight,
+                                                  width())
+                       : line.mid(part.textStart(), part.textLength()));
+        if (last) break;
     }
     layout.endLayout();
+    return parts;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft, Parts().join('\n'));
 }
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || text().isEmpty()) return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent&>(*event).globalPos(),
-                       Qt::convertFromPlainText(text()), this);
+    QToolTip::showText(static_cast<QHelpEvent&>(*event).globalPos(), TooltipText(text()), this);
     return true;
 }
 

@@ -145,7 +145,7 @@ void GridAdapter::ShowHeading(int column) {
     item->setText(text);
     item->setData(Qt::AccessibleTextRole, QString(text).replace('\n', ' '));
     item->setFont(CellFont(widget_.horizontalHeader()->font(), cell.look));
-    item->setToolTip(TooltipText(cell.tooltip));
+    item->setToolTip(TooltipText(Shown(cell.tooltip)));
 }
 
 void GridAdapter::ShowCell(int row, int column) {

@@ -49,6 +49,12 @@ int LongestText(const controls::Grid& grid, int column, const QFont& font) {
     return width;
 }
 
+// So many characters of a name: names are bold and marked.
+int LongestShown(QFont font) {
+    font.setBold(true);
+    return MostCharacters * QFontMetrics(font).averageCharWidth() + MarkSide(font) + CellMargin;
+}
+
 Extents FindExtents(const controls::Grid& grid, const GridFonts& fonts) {
     Extents extents;
     const QFont heading = fonts.Heading();
@@ -58,7 +64,7 @@ Extents FindExtents(const controls::Grid& grid, const GridFonts& fonts) {
         const QFont font = fonts.Of(column);
         extents.headings.push_back(TextWidth(title, CellFont(heading, top.look)) - 2 * CellMargin);
         extents.texts.push_back(LongestText(grid, column, font) - 2 * CellMargin);
-        extents.mostTexts.push_back(MostCharacters * QFontMetrics(font).averageCharWidth());
+        extents.mostTexts.push_back(LongestShown(font));
     }
     extents.headingLine = HeadingLines(grid) * QFontMetrics(heading).lineSpacing();
     extents.line = QFontMetrics(fonts.Of(MainColumn)).lineSpacing();

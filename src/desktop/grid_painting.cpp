@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "desktop/cell_editor.h"
+#include "desktop/common.h"
 #include "desktop/grid_measures.h"
 #include "desktop/qt_text.h"
 #include "desktop/schemes.h"
@@ -13,6 +14,8 @@
 namespace kelvra::desktop {
 
 namespace {
+
+constexpr int FocusFrame = 3;  // logical pixels
 
 // Drawn inside the rectangle.
 void Frame(QPainter& painter, const QRect& place, const QColor& colour, int width) {
@@ -84,12 +87,13 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(text);
     painter->drawText(place, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
                       Elided(index.data().toString(), font, place.width()));
-    if (index.data(FaultyRole).toBool()) FaultCorner(*painter, option.rect);
     painter->setBrush(Qt::NoBrush);
     if (option.state.testFlag(QStyle::State_Selected))
         Frame(*painter, option.rect, PaintColour(OwnColour::Selection), 2);
     if (option.state.testFlag(QStyle::State_HasFocus))
-        Frame(*painter, option.rect, TextOn(back.color()), 3);
+        Frame(*painter, option.rect, TextOn(back.color()), FocusFrame);
+    if (index.data(FaultyRole).toBool())
+        FaultCorner(*painter, option.rect.adjusted(0, FocusFrame, -FocusFrame, 0));
     painter->restore();
 }
 
@@ -103,7 +107,7 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const int width = TextPlace(option.rect, font, Marked(index)).width();
     const bool whole = QFontMetrics(font).horizontalAdvance(text) <= width;
     if (!whole && !help.startsWith(text)) help = help.isEmpty() ? text : text + "\n\n" + help;
-    QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(help), view);
+    QToolTip::showText(event->globalPos(), TooltipText(help), view);
     return true;
 }
 

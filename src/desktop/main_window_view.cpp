@@ -85,6 +85,7 @@ QWidget* MainWindowView::BuildStrip() {
     rows->setHorizontalSpacing(2 * Margin);
     rows->setColumnStretch(1, 1);
     auto* tools = new QVBoxLayout;
+    tools->setSpacing(Margin);
     tools->addLayout(BuildButtons());
     tools->addLayout(BuildChoices());
     tools->addStretch();

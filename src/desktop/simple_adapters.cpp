@@ -90,7 +90,7 @@ bool ListWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || currentText().isEmpty()) return QComboBox::event(event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const QString text = currentText() + (toolTip().isEmpty() ? "" : "\n\n" + toolTip());
-    QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), this);
+    QToolTip::showText(help.globalPos(), TooltipText(text), this);
     return true;
 }
 
@@ -117,7 +117,7 @@ void ListAdapter::Fill() {
     widget_.clear();
     for (const controls::List::Item& item : shown_) {
         widget_.addItem(Shown(item.text));
-        widget_.setItemData(widget_.count() - 1, TooltipText(item.text), Qt::ToolTipRole);
+        widget_.setItemData(widget_.count() - 1, TooltipText(Shown(item.text)), Qt::ToolTipRole);
     }
     widget_.updateGeometry();
 }

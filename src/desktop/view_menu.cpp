@@ -14,7 +14,7 @@ ViewMenu::ViewMenu(Preferences& preferences, const ViewParts& parts)
     AddScreen();
     AddColours();
     SetFitted(preferences_.Fitted(parts_.results.Table().objectName()));
-    if (CurrentScheme() != Scheme::Classic) parts_.onColours();
+    parts_.onColours();
 }
 
 void ViewMenu::Keep(GridWidget& table) {
@@ -55,10 +55,8 @@ void ViewMenu::AddScreen() {
     QAction* full = parts_.menu.addAction("F&ull screen");
     full->setCheckable(true);
     full->setShortcut(QKeySequence("F11"));
-    QObject::connect(full, &QAction::triggered, [this](bool on) {
-        parts_.frame.setWindowState(on ? parts_.frame.windowState() | Qt::WindowFullScreen
-                                       : parts_.frame.windowState() & ~Qt::WindowFullScreen);
-    });
+    QObject::connect(full, &QAction::triggered,
+                     [this](bool on) { parts_.frame.ShowFullScreen(on); });
 }
 
 void ViewMenu::AddColours() {

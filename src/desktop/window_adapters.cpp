@@ -47,6 +47,12 @@ void FrameWindow::ShowAsBefore(const QByteArray& geometry) {
         window_.PersonResizes(Twips(width()), Twips(height()));
 }
 
+void FrameWindow::ShowFullScreen(bool full) {
+    if (full) beforeFullScreen_ = saveGeometry();
+    setWindowState(full ? windowState() | Qt::WindowFullScreen
+                        : windowState() & ~Qt::WindowFullScreen);
+}
+
 void FrameWindowAdapter::Update() {
     const QString title = Shown(window_.caption.Get());
     if (widget_.windowTitle() != title) widget_.setWindowTitle(title);
@@ -86,7 +92,13 @@ QSize ChildWindow::Room() const {
 }
 
 void ChildWindow::ResizeInside(const QSize& wanted) {
-    resize(wanted.boundedTo(Room()).expandedTo(minimumSizeHint()));
+    // Into the area first: a small frame must not hide the window.
+    const QSize area = area_.viewport()->size();
+    const QSize least = minimumSizeHint();
+    const QPoint corner(std::min(x(), area.width() - least.width()),
+                        std::min(y(), area.height() - least.height()));
+    move(std::max(corner.x(), 0), std::max(corner.y(), 0));
+    resize(wanted.boundedTo(Room()).expandedTo(least));
 }
 
 bool ChildWindow::eventFilter(QObject* object, QEvent* event) {

@@ -134,6 +134,16 @@ CalcGrid::Evaluator& CalcGrid::EvaluatorOf(int row) {
     return evaluator;
 }
 
+void CalcGrid::ShowAge(const ReadingAge& age) {
+    for (int row = 1; row <= FormulaRows; ++row) {
+        const auto& parser = evaluators_[row - 1].parser;
+        bool stale = false;
+        for (int i = 1; parser != nullptr && i <= parser->VarTop(); ++i)
+            stale = stale || age.IsStale(ParseReadingName(parser->VarName(i)).slot);
+        grid_.SetStale(row, ResultColumn, stale);
+    }
+}
+
 std::string_view CalcGrid::BindReadings(parser::MathParser& parser) {
     for (int i = 1; i <= parser.VarTop(); ++i) {
         const std::string_view name = parser.VarName(i);

@@ -100,6 +100,8 @@ void Notice::Awaited(int slot, const std::string& complaint) {
                        util::TrimmedNumberText(std::int64_t{driver::ChannelOf(slot)});
     if (!complaint.empty()) text += ": " + complaint;
     Set(Rank::Course, std::move(text));
+    if (!complaint.empty() && Text(Rank::Error).empty() && Text(Rank::Files).empty())
+        window_.picNotice.image = Images[static_cast<std::size_t>(Rank::Files)];
 }
 
 void Notice::PassWaits(platform::Duration left) {

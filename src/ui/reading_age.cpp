@@ -58,8 +58,7 @@ void ReadingAge::ShowAll() {
 
 // A cell without a text says nothing that could be old.
 void ReadingAge::ShowState(int slot) {
-    const auto index = static_cast<std::size_t>(slot);
-    const bool stale = index < readings_.size() && readings_[index].stale;
+    const bool stale = IsStale(slot);
     for (const ResultColumn column : ValueColumns) {
         const controls::CellText& content = grid_.At(RowOf(slot), column).content;
         grid_.SetStale(RowOf(slot), column,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/speed_label.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "util/number_reading.h"
@@ -17,7 +18,8 @@ void SpeedLabel::Started() {
     Hide();
     running_ = true;
     counted_ = {};
-    lastMove_ = host_.clock.Monotonic();
+    lastLasted_ = {};
+    lastPass_ = lastMove_ = host_.clock.Monotonic();
 }
 
 void SpeedLabel::Hide() {
@@ -31,8 +33,12 @@ void SpeedLabel::StartFailed(measure::StartFailure /*why*/) {
     window_.NotMeasuring.visible = true;
 }
 
+// A figure that no pass has confirmed for some time says nothing any more.
 void SpeedLabel::Awaited(int /*slot*/, const std::string& /*complaint*/) {
-    MoveBusyPicture(host_.clock.Monotonic());
+    const platform::Duration now = host_.clock.Monotonic();
+    MoveBusyPicture(now);
+    if (now - lastPass_ > std::max<platform::Duration>(2 * UpdateInterval, 2 * lastLasted_))
+        window_.MeasSpeedInfo.visible = false;
 }
 
 void SpeedLabel::PassWaits(platform::Duration /*left*/) {
@@ -41,6 +47,8 @@ void SpeedLabel::PassWaits(platform::Duration /*left*/) {
 
 void SpeedLabel::PassSeen(platform::Duration now, platform::Duration lasted) {
     MoveBusyPicture(now);
+    lastPass_ = now;
+    lastLasted_ = lasted;
     counted_.time += lasted;
     ++counted_.passes;
     if (counted_.time <= UpdateInterval) return;

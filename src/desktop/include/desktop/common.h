@@ -19,8 +19,8 @@ int Twips(int pixels);
 // Enabled, visible, tooltip, colours.
 void UpdateCommon(QWidget& widget, const controls::Control& control);
 
-// A tooltip text, protected from being taken for markup.
-QString TooltipText(const std::string& text);
+// A text for a tooltip: nothing in it is taken for markup, and long lines are wrapped.
+QString TooltipText(const QString& text);
 
 // The tooltip to show while the control has none.
 void SetOwnTooltip(QWidget& widget, const QString& text);

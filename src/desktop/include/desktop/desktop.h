@@ -29,10 +29,12 @@ public:
     ResultWindowView& Results() { return results_; }
 
 private:
+    void Recolour();
     void KeepLook();
 
     QtEvents& events_;
     Preferences preferences_;
+    Scheme shown_ = Scheme::Classic;
     Mirror mirror_;
     MainWindowView main_;
     ResultWindowView results_;

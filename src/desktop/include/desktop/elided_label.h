@@ -21,6 +21,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QStringList Parts() const;  // as many lines as there is room for
+
     int lines_;
 };
 

@@ -16,7 +16,7 @@
 namespace kelvra::desktop {
 
 struct ViewParts {
-    QMainWindow& frame;
+    FrameWindow& frame;
     QMenu& menu;
     ResultWindowView& results;
     GridWidget& formulas;

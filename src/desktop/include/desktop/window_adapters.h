@@ -22,6 +22,9 @@ public:
     // As the toolkit has written it in an earlier run. The window is shown there instead of at the
     // record's place; the record hears of the size.
     void ShowAsBefore(const QByteArray& geometry);
+    // To be kept for the next run: full screen is not.
+    QByteArray Geometry() const { return isFullScreen() ? beforeFullScreen_ : saveGeometry(); }
+    void ShowFullScreen(bool full);
 
     using QMainWindow::focusNextPrevChild;  // public, for the Tab key of the windows inside
 
@@ -32,6 +35,7 @@ protected:
 
 private:
     controls::Window& window_;
+    QByteArray beforeFullScreen_;
 };
 
 class FrameWindowAdapter final : public Adapter {

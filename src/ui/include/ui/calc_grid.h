@@ -15,6 +15,7 @@
 #include "parser/math_parser.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/reading_age.h"
 
 namespace kelvra::ui {
 
@@ -31,6 +32,8 @@ public:
     // "---" when a variable names no sensor with a scalar reading. Skips a row without a name.
     void Compute();
     void PassMeasured() override { Compute(); }
+    // Marks the results that need a reading which is no longer live. Call about twice a second.
+    void ShowAge(const ReadingAge& age);
 
 private:
     static constexpr int FormulaRows = 2;

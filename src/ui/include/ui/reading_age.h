@@ -22,6 +22,11 @@ public:
     // Call about twice a second, and after the table has changed.
     void Look();
 
+    bool IsStale(int slot) const {
+        const auto index = static_cast<std::size_t>(slot);
+        return index < readings_.size() && readings_[index].stale;
+    }
+
     void Started() override;
     void ModesChanged() override { Look(); }
     void Stopped() override { Date(clock_.Monotonic(), std::nullopt); }

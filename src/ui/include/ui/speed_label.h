@@ -37,6 +37,8 @@ private:
     bool running_ = false;
     Counted counted_;
     platform::Duration lastMove_{};
+    platform::Duration lastPass_{};    // its end
+    platform::Duration lastLasted_{};  // its length
 };
 
 }  // namespace kelvra::ui
