@@ -41,6 +41,8 @@ TEST_F(ReadingAgeTest, ValuesAreLiveForTwoSecondsAndTwiceTheirPassAndAgainFromSt
         };
         Measure(2);
         Wait(c.wait);
+        const bool old = c.stale != "----";
+        EXPECT_EQ(program->forms.mdiMain.CalcGrid.At(1, 2).stale, old) << c.pass.count();
         EXPECT_EQ(Stale(0), c.stale) << c.pass.count() << ", " << c.wait.count();
         EXPECT_EQ(Stale(1), c.stale) << c.pass.count() << ", " << c.wait.count();
     }
