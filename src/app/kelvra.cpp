@@ -14,10 +14,10 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       cycle({table, state, host, driverSession, transfer, readings, modes, news}),
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
-      windows(forms, table, state, cycle, host),
+      windows(forms, table, state, cycle, modes, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
-      settingsCommands_(forms, table, modes, windows.enabling, windows.notice, host) {
+      settingsCommands_(forms, table, modes, windows.setupDialog, windows.notice, host) {
     Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { ExitAsAsked(); });
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });

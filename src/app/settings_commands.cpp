@@ -17,9 +17,9 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   measure::Modes& modes, ui::Enabling& enabling,
+                                   measure::Modes& modes, ui::SetupDialog& dialog,
                                    ui::Notice& notice, platform::Host& host)
-    : table_(table), modes_(modes), enabling_(enabling), notice_(notice), host_(host) {
+    : table_(table), modes_(modes), dialog_(dialog), notice_(notice), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -42,7 +42,7 @@ void SettingsCommands::Load(const std::string& path) {
         sensors::ChangeMode(table_, table_.currentSensor);
         modes_.Find();
     }
-    enabling_.Refresh();
+    dialog_.ShowCurrent();
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,

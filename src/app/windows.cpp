@@ -6,7 +6,7 @@
 namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-                 measure::Cycle& cycle, platform::Host& host)
+                 measure::Cycle& cycle, measure::Modes& modes, platform::Host& host)
     : notice(forms.mdiMain, table, host.clock),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
@@ -21,7 +21,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       displayLists(forms, table, selection),
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
-      sensorName({forms.setupForm, table, host.computer, results, selection, notice}) {
+      sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
+      setupDialog({forms.setupForm, table, modes, selection, enabling, errorStrip, host}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
 }

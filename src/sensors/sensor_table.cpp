@@ -88,7 +88,7 @@ void ChangeMode(SensorTable& table, int slot) {
 
 std::string ErrorOf(const SensorPresence& sensor) {
     std::string all = sensor.lastErrorText;
-    for (const std::string& error : {sensor.initiateError, sensor.fetchError})
+    for (const std::string& error : {sensor.initiateError, sensor.fetchError, sensor.pointsError})
         if (!error.empty()) all += error + "\r\n";
     return std::string(util::TrimLineBreaks(all));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/error_strip.h"
 
+#include "ui/setup_pages.h"
+
 namespace kelvra::ui {
 
 namespace {
@@ -8,10 +10,11 @@ namespace {
 constexpr int OpenHeight = 2835;  // twips, height of the dialog's header with the strip
 constexpr int ClosedHeight = forms::SetupForm::HeaderHeight;
 
-void SetHeaderHeight(controls::Frame& header, int height) {
-    controls::Geometry place = header.place;
+void SetHeaderHeight(forms::SetupForm& dialog, int height) {
+    controls::Geometry place = dialog.Frame1.place;
     place.height = height;
-    header.place = place;
+    dialog.Frame1.place = place;
+    PlaceVisiblePage(dialog);
 }
 
 }  // namespace
@@ -34,7 +37,7 @@ void ErrorStrip::Open(const std::string& text) {
     notice_.ShowError(text);
     dialog_.lblInputError.caption = text;
     dialog_.InputErrorFrame.visible = true;
-    SetHeaderHeight(dialog_.Frame1, OpenHeight);
+    SetHeaderHeight(dialog_, OpenHeight);
 }
 
 void ErrorStrip::Close() {
@@ -42,7 +45,7 @@ void ErrorStrip::Close() {
     notice_.ShowError({});
     dialog_.lblInputError.caption = "";
     dialog_.InputErrorFrame.visible = false;
-    SetHeaderHeight(dialog_.Frame1, ClosedHeight);
+    SetHeaderHeight(dialog_, ClosedHeight);
 }
 
 }  // namespace kelvra::ui

@@ -22,9 +22,9 @@ namespace {
 constexpr int SingleTrigger = 0;
 
 constexpr SetupUnit One{};
-constexpr SetupUnit Ms{1e3, 1};
-constexpr SetupUnit Us{1e6, 1};
-constexpr SetupUnit Mhz{1, 1e6};
+constexpr SetupUnit Ms{1e3, 1, Quantity::Time};
+constexpr SetupUnit Us{1e6, 1, Quantity::Time};
+constexpr SetupUnit Mhz{1, 1e6, Quantity::Frequency};
 
 // clang-format off
 constexpr SetupRow Rows[] = {
@@ -33,7 +33,7 @@ constexpr SetupRow Rows[] = {
     {&SetupForm::SensContAVSmooth,     &SensorSettings::ContAvSmooth},
     {&SetupForm::SensBuffAVSize,       &SensorSettings::BuffAVBuffer},
     {&SetupForm::SensBurstDropOut,     &SensorSettings::BurstAVDropTol,      Us},
-    {&SetupForm::SensSlotCount,        &SensorSettings::TSlotCount},
+    {&SetupForm::SensSlotCount,        &SensorSettings::TSlotCount,          One, SetupRule::AtLeastOne},
     {&SetupForm::SensSlotWidth,        &SensorSettings::TSlotWidth,          Ms},
     {&SetupForm::SensSlotExclStart,    &SensorSettings::TSlotExclStart,      Ms},
     {&SetupForm::SensSlotExclStop,     &SensorSettings::TSlotExclStop,       Ms},
@@ -86,34 +86,26 @@ std::string ShownNumber(double value) {
     return util::GeneralText(value, {});
 }
 
-void Show(TextBox& box, double stored, const SetupRow& row) {
-    double shown = stored * row.unit.shown / row.unit.stored;
-    if (row.rule == SetupRule::Thousandths) shown = std::nearbyint(shown * 1e3) / 1e3;
-    box.SetText(ShownNumber(shown));
+void Show(TextBox& box, double stored, const SetupRow& row, Typing typing) {
+    if (typing == Typing::Stays && box.Edited()) return;
+    box.SetText(ShownText(stored, row));
+    box.fault = std::string();
 }
 
-void Show(CheckBox& box, double stored, const SetupRow& row) {
+void Show(CheckBox& box, double stored, const SetupRow& row, Typing) {
     box.SetChecked(stored != 0 || row.rule == SetupRule::AlwaysChecked);
 }
 
-void Show(List& list, double stored, const SetupRow& row) {
+void Show(List& list, double stored, const SetupRow& row, Typing) {
     int index = static_cast<int>(stored);
     if (row.rule == SetupRule::ItemData) index = list.IndexOfData(index);
     if (row.rule == SetupRule::NearestEntry) index = std::min(std::max(index, 0), list.Count() - 1);
     list.SetIndex(index);
 }
 
-void Show(OptionGroup& group, double stored, const SetupRow& row) {
+void Show(OptionGroup& group, double stored, const SetupRow& row, Typing) {
     const int option = static_cast<int>(stored);
     group.SetSelected(row.rule == SetupRule::TrueIsFirst ? 1 - option : option);
-}
-
-void FillSlotNumbers(SetupForm& form) {
-    const auto count = util::RoundToInt16(util::ReadNumber(form.SensSlotCount.Text()));
-    std::vector<List::Item> numbers;
-    for (int slot = 1; slot <= count.value_or(0); ++slot)
-        numbers.push_back({util::TrimmedNumberText(std::int64_t{slot})});
-    form.ShowExclInTSlot.Fill(std::move(numbers));
 }
 
 }  // namespace
@@ -122,14 +114,33 @@ std::span<const SetupRow> SetupRows() {
     return Rows;
 }
 
-void ShowSettings(SetupForm& form, const SensorSettings& settings) {
-    FillSlotNumbers(form);
+std::string ShownText(double stored, const SetupRow& row) {
+    double shown = stored * row.unit.shown / row.unit.stored;
+    if (row.rule == SetupRule::Thousandths) shown = std::nearbyint(shown * 1e3) / 1e3;
+    return ShownNumber(shown);
+}
+
+void ShowSettings(SetupForm& form, const SensorSettings& settings, Typing typing) {
+    ShowSlotNumbers(form, settings);
     for (const SetupRow& row : Rows)
         std::visit(
             [&](auto field, auto member) {
-                Show(form.*field, static_cast<double>(settings.*member), row);
+                Show(form.*field, static_cast<double>(settings.*member), row, typing);
             },
             row.field, row.member);
+    ShowTriggerButton(form, settings);
+}
+
+void ShowSlotNumbers(SetupForm& form, const SensorSettings& settings) {
+    std::vector<List::Item> numbers;
+    for (int slot = 1; slot <= settings.TSlotCount; ++slot)
+        numbers.push_back({util::TrimmedNumberText(std::int64_t{slot})});
+    if (form.ShowExclInTSlot.Items() != numbers) form.ShowExclInTSlot.Fill(std::move(numbers));
+    const int last = form.ShowExclInTSlot.Count() - 1;
+    form.ShowExclInTSlot.SetIndex(std::min(std::max<int>(settings.TSlotExclDispInSlot, 0), last));
+}
+
+void ShowTriggerButton(SetupForm& form, const SensorSettings& settings) {
     form.SensTriggerNow.visible = settings.TrigSource == SingleTrigger;
 }
 

@@ -79,7 +79,8 @@ public:
         else
             answer(fileAnswer);
     }
-    void OpenHelp(Text, int) override {}
+    std::vector<int> helpTopics;
+    void OpenHelp(Text, int topic) override { helpTopics.push_back(topic); }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 

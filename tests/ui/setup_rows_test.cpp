@@ -74,16 +74,16 @@ TEST_F(SetupRowsTest, MarksOptionsAndEntriesFollowTheirSettings) {
 
 TEST_F(SetupRowsTest, SlotOfTheExclusionIsOneThatIsListed) {
     const struct {
-        const char* shownCount;
+        std::int16_t count;
         std::int16_t stored;
         const char* selected;
-    } cases[] = {{"4", 2, "3"}, {"4", -1, "1"}, {"4", 4, "4"}, {"", 0, ""}, {"-3", 1, ""}};
+    } cases[] = {{4, 2, "3"}, {4, -1, "1"}, {4, 4, "4"}, {1, 0, "1"}};
     for (const auto& c : cases) {
-        form_.SensSlotCount.SetText(c.shownCount);
+        settings_.TSlotCount = c.count;
         settings_.TSlotExclDispInSlot = c.stored;
         Show();
-        EXPECT_EQ(form_.ShowExclInTSlot.Text(), c.selected) << c.shownCount << c.stored;
-        EXPECT_EQ(form_.SensSlotCount.Text(), "8");
+        EXPECT_EQ(form_.ShowExclInTSlot.Text(), c.selected) << c.count << ", " << c.stored;
+        EXPECT_EQ(form_.ShowExclInTSlot.Count(), c.count);
     }
 }
 

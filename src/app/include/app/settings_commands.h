@@ -11,15 +11,15 @@
 #include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
-#include "ui/enabling.h"
 #include "ui/notice.h"
+#include "ui/setup_dialog.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
     SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
-                     ui::Enabling& enabling, ui::Notice& notice, platform::Host& host);
+                     ui::SetupDialog& dialog, ui::Notice& notice, platform::Host& host);
 
     // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
     // measurement. A file that can't be read leaves them as they were, with a message. A file
@@ -44,7 +44,7 @@ private:
 
     sensors::SensorTable& table_;
     measure::Modes& modes_;
-    ui::Enabling& enabling_;
+    ui::SetupDialog& dialog_;
     ui::Notice& notice_;
     platform::Host& host_;
 };

@@ -8,6 +8,7 @@
 #include "forms/forms.h"
 #include "measure/cycle.h"
 #include "measure/listener.h"
+#include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
@@ -22,6 +23,7 @@
 #include "ui/selection_lists.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
+#include "ui/setup_dialog.h"
 #include "ui/speed_label.h"
 #include "ui/start_messages.h"
 #include "ui/status_marks.h"
@@ -30,7 +32,7 @@ namespace kelvra::app {
 
 struct Windows {
     Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-            measure::Cycle& cycle, platform::Host& host);
+            measure::Cycle& cycle, measure::Modes& modes, platform::Host& host);
 
     ui::Notice notice;
     ui::ErrorStrip errorStrip;
@@ -47,6 +49,7 @@ struct Windows {
     ui::MainWindow mainWindow;
     ui::StartMessages startMessages;
     ui::SensorName sensorName;
+    ui::SetupDialog setupDialog;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

@@ -84,6 +84,9 @@ public:
     // Something has been typed since the last commit.
     bool Edited() const { return edited_; }
 
+    // Why the text can't be used as it is; empty if it can.
+    Property<std::string> fault{*this, {}};
+
     Event<> change;
     Event<> commit;  // Enter, or the user leaves the control after an edit
 

@@ -40,6 +40,7 @@ struct SensorPresence {
     std::string lastErrorText{};  // from its opening and its last transfer
     std::string initiateError{};  // empty: the last such call succeeded; likewise fetchError
     std::string fetchError{};
+    std::string pointsError{};  // the trace has too many points
     bool triggerNowRequest = false;
 };
 

@@ -4,11 +4,13 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <variant>
 
 #include "forms/setup_form.h"
 #include "sensors/sensor_table.h"
 #include "sensors/settings_fields.h"
+#include "ui/typed_number.h"
 
 namespace kelvra::ui {
 
@@ -17,10 +19,11 @@ using SetupField =
                  controls::ListField forms::SetupForm::*,
                  controls::OptionField forms::SetupForm::*>;
 
-// How many shown units make how many stored ones.
+// How many shown units make how many stored ones (s, Hz).
 struct SetupUnit {
     double shown = 1;
     double stored = 1;
+    Quantity quantity = Quantity::Plain;
 };
 
 // How a field shows its setting if not simply as a number, a mark, or an index.
@@ -30,7 +33,8 @@ enum class SetupRule {
     NearestEntry,   // an index beyond the list selects its last entry
     TrueIsFirst,    // of a pair of options
     AlwaysChecked,  // ignores the setting
-    Thousandths,    // at most three decimals
+    Thousandths,    // at most three decimals are shown; whole ones are stored
+    AtLeastOne,     // a smaller number is stored as 1
 };
 
 struct SetupRow {
@@ -43,9 +47,20 @@ struct SetupRow {
 // In the order of the pages.
 std::span<const SetupRow> SetupRows();
 
-// Fills all fields from one sensor's settings. ShowExclInTSlot has the entries for the slot count
-// that was shown so far; showing another count refills it.
-void ShowSettings(forms::SetupForm& form, const sensors::SensorSettings& settings);
+// The text of a text field for a setting.
+std::string ShownText(double stored, const SetupRow& row);
+
+// A text that the user is typing.
+enum class Typing { IsReplaced, Stays };
+
+// Fills all fields from one sensor's settings.
+void ShowSettings(forms::SetupForm& form, const sensors::SensorSettings& settings,
+                  Typing typing = Typing::IsReplaced);
+
+// ShowExclInTSlot: a number for each time slot, and the chosen one, or else the last.
+void ShowSlotNumbers(forms::SetupForm& form, const sensors::SensorSettings& settings);
+// The button that triggers is there for single triggers.
+void ShowTriggerButton(forms::SetupForm& form, const sensors::SensorSettings& settings);
 
 // The same for the scales of the two displays.
 void ShowScaling(forms::SetupForm& form, const sensors::DisplayScaling& scaling);

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/typed_number.h"
+
+#include <algorithm>
+
+#include "util/number_reading.h"
+#include "util/text.h"
+
+namespace kelvra::ui {
+
+namespace {
+
+constexpr struct {
+    Quantity quantity;
+    std::string_view word;
+    double scale;  // in s or Hz
+} Units[] = {
+    {Quantity::Time, "s", 1},          {Quantity::Time, "ms", 1e-3},
+    {Quantity::Time, "us", 1e-6},      {Quantity::Time, "\u00B5s", 1e-6},
+    {Quantity::Time, "ns", 1e-9},      {Quantity::Frequency, "Hz", 1},
+    {Quantity::Frequency, "kHz", 1e3}, {Quantity::Frequency, "KHz", 1e3},
+    {Quantity::Frequency, "MHz", 1e6}, {Quantity::Frequency, "GHz", 1e9},
+};
+
+// With one decimal comma and no point the comma is the point, where the locale has it so.
+std::string WithPoint(std::string_view text, const util::NumberForm& locale) {
+    std::string read(text);
+    const bool comma = locale.decimal == ",";
+    const bool clear =
+        std::count(read.begin(), read.end(), ',') == 1 && read.find('.') == std::string::npos;
+    if (comma && clear) std::replace(read.begin(), read.end(), ',', '.');
+    return read;
+}
+
+}  // namespace
+
+TypedNumber ReadTyped(std::string_view text, Quantity quantity, double scale,
+                      const util::NumberForm& locale) {
+    const std::string read = WithPoint(text, locale);
+    const util::NumberRead number = util::ReadNumberAt(read);
+    if (number.length == 0) return {0, "This is no number; it counts as 0."};
+    const std::string_view rest = util::TrimSpaces(std::string_view(read).substr(number.length));
+    if (rest.empty()) return {number.value, {}};
+    for (const auto& unit : Units)
+        if (unit.quantity == quantity && unit.word == rest)
+            return {number.value * unit.scale / scale, {}};
+    return {number.value, "\"" + std::string(rest) + "\" is not understood and is left out."};
+}
+
+}  // namespace kelvra::ui

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/setup_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/whole_kelvra.h"
+
+namespace kelvra::ui {
+
+using sensors::SensorSettings;
+
+class SetupDialogTest : public testing::Test, public test::WholeKelvra {
+protected:
+    void SetUp() override { StartWith(2); }
+
+    forms::SetupForm& Form() { return program->forms.setupForm; }
+    sensors::SensorEntry& Entry(int slot = 0) { return program->table[slot]; }
+    SensorSettings& Settings() { return Entry().settings; }
+    // The settings of which a and b differ.
+    static std::string Differing(const SensorSettings& a, const SensorSettings& b) {
+        std::string names;
+        for (const sensors::SettingsField& field : sensors::SettingsFields())
+            std::visit(
+                [&](auto member) {
+                    if (a.*member != b.*member) names += std::string(field.name) + ' ';
+                },
+                field.member);
+        return names;
+    }
+
+    // What the user does to a control so that it changes.
+    static void Act(controls::TextBox& box) { box.Type(box.Text() == "2" ? "3" : "2"); }
+    static void Act(controls::CheckBox& box) { box.Toggle(); }
+    static void Act(controls::List& list) { list.Choose(list.Index() == 1 ? 0 : 1); }
+    static void Act(controls::OptionGroup& group) { group.Select(group.Selected() == 1 ? 0 : 1); }
+};
+
+TEST_F(SetupDialogTest, EachFieldStoresItsOwnSettingAndNoOther) {
+    for (const SetupRow& row : SetupRows()) {
+        const bool always = row.rule == SetupRule::AlwaysChecked;
+        Settings() = sensors::DefaultSettings();
+        Settings().CorrFreq = true;
+        Settings().TSlotCount = 4;
+        Settings().TrigDelay = 0.0012345;  // is not rounded by other edits
+        Settings().ContAVAper = 1.0 / 3;
+        program->windows.setupDialog.ShowCurrent();
+        Entry().settingsChanged = false;
+        const SensorSettings before = Settings();
+        std::visit([&](auto field) { Act(Form().*field); }, row.field);
+        std::string name;
+        for (const sensors::SettingsField& field : sensors::SettingsFields())
+            if (field.member == row.member) name = std::string(field.name) + ' ';
+        EXPECT_EQ(Differing(before, Settings()), always ? "" : name);
+        EXPECT_TRUE(Entry().settingsChanged) << name;
+    }
+}
+
+TEST_F(SetupDialogTest, WhatIsTypedIsStoredInTheUnitOfTheSetting) {
+    fake.computer.numbers = {",", "."};
+    const struct {
+        controls::TextBox& box;
+        const char* typed;
+        double SensorSettings::*setting;
+        double stored;
+        bool faulty;
+    } cases[] = {
+        {Form().SensContAVTime, "12.5", &SensorSettings::ContAVAper, 0.0125, false},
+        {Form().SensContAVTime, "12,5", &SensorSettings::ContAVAper, 0.0125, false},
+        {Form().SensContAVTime, "1,000.5", &SensorSettings::ContAVAper, 0.001, true},
+        {Form().SensContAVTime, "100us", &SensorSettings::ContAVAper, 1e-4, false},
+        {Form().SensContAVTime, "12abc", &SensorSettings::ContAVAper, 0.012, true},
+        {Form().SensContAVTime, "abc", &SensorSettings::ContAVAper, 0, true},
+        {Form().SensContAVTime, "", &SensorSettings::ContAVAper, 0, true},
+        {Form().SensBurstDropOut, "2 ms", &SensorSettings::BurstAVDropTol, 0.002, false},
+        {Form().CorrFreqValue, "1.5 GHz", &SensorSettings::CorrFreqVal, 1.5e9, false},
+        {Form().CorrFreqValue, "50", &SensorSettings::CorrFreqVal, 5e7, false},
+        {Form().SensTriggerDelay, "1.2345", &SensorSettings::TrigDelay, 0.001, false},
+        {Form().SensTriggerLevel, "-20 ms", &SensorSettings::TrigLevel, -20, true},
+        {Form().SensTriggerLevel, "1e999", &SensorSettings::TrigLevel, -20, true},  // stays
+    };
+    for (const auto& c : cases) {
+        c.box.Type(c.typed);
+        EXPECT_DOUBLE_EQ(Settings().*c.setting, c.stored) << c.box.Name() << ' ' << c.typed;
+        EXPECT_EQ(!c.box.fault->empty(), c.faulty) << c.box.Name() << ' ' << c.typed;
+    }
+    Form().SensAvgCount.Type("3000000000");
+    EXPECT_FALSE(Form().SensAvgCount.fault->empty());
+    EXPECT_EQ(Settings().AvgManCount, sensors::DefaultSettings().AvgManCount);
+}
+
+TEST_F(SetupDialogTest, ASlotCountBelowOneBecomesOneAndTheSlotsAreListed) {
+    for (const char* typed : {"", "abc", "0", "-3"}) {
+        Form().SensSlotCount.Type("7");
+        EXPECT_EQ(Form().ShowExclInTSlot.Count(), 7);
+        Form().SensSlotCount.Type(typed);
+        EXPECT_EQ(Form().SensSlotCount.Text(), "1") << typed;
+        EXPECT_EQ(Settings().TSlotCount, 1) << typed;
+        EXPECT_EQ(Form().ShowExclInTSlot.Text(), "1") << typed;
+    }
+}
+
+TEST_F(SetupDialogTest, TooManyPointsAreAnErrorOfTheirSensorAndAreCutInSimulation) {
+    Entry(1).fetchError = "Fetch: other";
+    Form().ScopePoints.Type("1025");
+    EXPECT_EQ(Settings().ScopePoints, 1025);
+    EXPECT_EQ(Form().lblInputError.caption.Get(), "A: Scope points number\r\ncannot exceed 1024.");
+    EXPECT_EQ(Form().GeneralFrame.place->top, Form().Frame1.place->height);
+    Form().ScopePoints.Type("1024");
+    EXPECT_EQ(Form().lblInputError.caption.Get(), "B: Fetch: other");
+    driver.devices.clear();
+    Tick();
+    Form().ScopePoints.Type("2000");
+    EXPECT_EQ(Form().ScopePoints.Text(), "1024");
+    EXPECT_EQ(Settings().ScopePoints, 1024);
+    EXPECT_FALSE(Form().InputErrorFrame.visible);
+}
+
+TEST_F(SetupDialogTest, TheModeDecidesWhatTheDialogAndTheDisplaysShow) {
+    const struct {
+        int mode;
+        controls::Frame& frame;
+        bool traceScale, slotScale;
+    } cases[] = {
+        {sensors::Trace, Form().ScopeFrame, true, false},
+        {sensors::TimeSlot, Form().TimeSlotFrame, false, true},
+        {sensors::Burst, Form().BurstAVFrame, false, false},
+        {sensors::ContinuousAverage, Form().ContAVFrame, false, false},
+    };
+    for (const auto& c : cases) {
+        Form().SensMode.Choose(Form().SensMode.IndexOfData(c.mode));
+        EXPECT_EQ(Settings().Mode, c.mode);
+        int visible = 0;
+        for (const controls::Frame* frame :
+             {&Form().ContAVFrame, &Form().BufferAVFrame, &Form().TimeSlotFrame,
+              &Form().BurstAVFrame, &Form().ScopeFrame})
+            visible += frame->visible ? 1 : 0;
+        EXPECT_TRUE(c.frame.visible && visible == 1) << c.mode;
+        EXPECT_EQ(Form().AverageFrame.visible, !c.traceScale);
+        EXPECT_EQ(Form().txtMinScope.visible, c.traceScale);
+        EXPECT_EQ(Form().txtMinTime.visible, !c.traceScale);
+        EXPECT_EQ(program->windows.setupDialog.TraceScaleShown(), c.traceScale);
+        EXPECT_EQ(program->windows.setupDialog.TimeSlotScaleShown(), c.slotScale);
+        EXPECT_EQ(program->forms.scopeDisp.visible, c.traceScale);
+        EXPECT_EQ(program->forms.timeSlotDisp.visible, c.slotScale);
+        EXPECT_EQ(Form().CorrDutyEnable.enabled, c.mode == sensors::ContinuousAverage);
+    }
+}
+
+TEST_F(SetupDialogTest, ChoosingSensorsAndTicksMarkNothingAndLeaveATypedTextAlone) {
+    Entry(1).settings.Mode = sensors::Trace;
+    Entry(1).settings.TSlotCount = 3;
+    for (const int slot : {1, 0, 1}) {
+        Form().SensSelect.Choose(Form().SensSelect.IndexOfData(slot));
+        Form().SensSelect.Open();
+        Tick();
+        EXPECT_EQ(Form().SensTypeInfo.caption.Get(), slot == 0 ? "PS-101, S/N 1" : "PS-101, S/N 2");
+        EXPECT_EQ(Form().SensMode.Data(), Entry(slot).settings.Mode);
+        EXPECT_FALSE(Entry(0).settingsChanged || Entry(1).settingsChanged);
+    }
+    Form().SensContAVTime.Type("5x");
+    driver.devices[1].name = "New";
+    Tick();
+    EXPECT_EQ(Form().SensContAVTime.Text(), "5x");
+    Form().SensSelect.Choose(Form().SensSelect.IndexOfData(0));
+    EXPECT_EQ(Form().SensContAVTime.Text(), "100");
+    EXPECT_TRUE(Form().SensContAVTime.fault->empty());
+}
+
+TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
+    Form().txtMaxTime.Type("7.5");
+    Form().chkAutoScaleScope.Toggle();
+    EXPECT_EQ(program->table.scaling[0].maxTime, 7.5);
+    EXPECT_TRUE(program->table.scaling[0].autoScaleScope);
+    Form().SensTrigger.Choose(0);
+    EXPECT_TRUE(Form().SensTriggerNow.visible);
+    Form().SensTriggerNow.Press();
+    EXPECT_TRUE(Entry().triggerNowRequest);
+    Form().PageSelect.Select(4);
+    EXPECT_TRUE(Form().AdvancedFrame.visible);
+    EXPECT_FALSE(Form().GeneralFrame.visible);
+    Form().PersonResizes(20000, 20000);
+    EXPECT_EQ(Form().place->width, Form().Frame1.place->width + 100);
+    Form().SensContAVTime.PressKey("F1");
+    Form().SensRange.PressKey("F1");
+    Form().CorrGammaAmp.PressKey("F1");  // has no page
+    ASSERT_EQ(fake.dialogs.helpTopics, (std::vector<int>{7151, 7141}));
+}
+
+}  // namespace kelvra::ui
