@@ -26,6 +26,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
 // The recovery comes last, after the windows have shown the error that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
+    windows.setupDialog.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
     windows.Subscribe(news, sessionNews);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);

@@ -43,6 +43,7 @@ void SettingsCommands::Load(const std::string& path) {
         modes_.Find();
     }
     dialog_.ShowCurrent();
+    dialog_.onEdit();
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,

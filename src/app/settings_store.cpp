@@ -2,6 +2,7 @@
 #include "app/settings_store.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include "sensors/settings_file.h"
 #include "util/number_text.h"
@@ -11,6 +12,8 @@ namespace kelvra::app {
 using sensors::Transfer;
 
 namespace {
+
+constexpr auto QuietTime = std::chrono::seconds(3);
 
 // The sensor's name in section names. Characters of a serial number that would end the name are
 // replaced.
@@ -81,10 +84,16 @@ void SettingsStore::NoteLoad(const platform::ProfileFile& file) {
 }
 
 void SettingsStore::Save(const std::vector<sensors::SensorEntry*>& entries) {
+    edited_.reset();
     for (const sensors::SensorEntry* entry : entries)
         if (!entry->sensorId.empty()) Keep(entry->sensorId, entry->settings);
     saveFailure_ = HasUnsaved() ? WriteUnsaved() : std::string();
     ShowTrouble();
+}
+
+void SettingsStore::SaveEdits(platform::Duration now,
+                              const std::vector<sensors::SensorEntry*>& entries) {
+    if (edited_ && now - *edited_ >= QuietTime) Save(entries);
 }
 
 void SettingsStore::Keep(const std::string& sensorId, sensors::SensorSettings settings) {

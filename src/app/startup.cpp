@@ -36,7 +36,11 @@ void Kelvra::Start() {
     library.Load(host.computer, log);
     forms.mdiMain.caption = Title();
     store.Open(host.computer);
-    host.events.StartTimer(SearchInterval, [this] { discovery.Search(); });
+    host.events.StartTimer(SearchInterval, [this] {
+        discovery.Search();
+        if (!state.fetching && !state.exiting)
+            store.SaveEdits(host.clock.Monotonic(), table.Present());
+    });
     forms.mdiMain.FileSaveData.enabled = false;
     CreateTable();
     ui::ShowSettings(forms.setupForm, sensors::DefaultSettings());

@@ -173,11 +173,13 @@ bool Cycle::GoesOn() {
 }
 
 void Cycle::Fetch() {
+    p_.state.fetching = true;
     for (int slot = 0; slot < p_.table.Slots() && !p_.state.Ending(); ++slot) {
         if (!Takes(slot) || !p_.table[slot].sessionOpen || p_.table[slot].settingsChanged) continue;
         FetchSlot(slot);
         rounds_.AfterCall(CallKind::Fetching);
     }
+    p_.state.fetching = false;
 }
 
 void Cycle::FetchSlot(int slot) {

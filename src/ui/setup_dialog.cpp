@@ -151,6 +151,7 @@ void SetupDialog::Store() {
     StoreSettings(p_.form, entry.settings, p_.host.computer.Numbers());
     entry.settingsChanged = true;
     p_.enabling.Refresh();
+    if (onEdit) onEdit();
 }
 
 void SetupDialog::AfterStore(const SetupRow& row) {

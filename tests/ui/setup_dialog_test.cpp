@@ -168,6 +168,25 @@ TEST_F(SetupDialogTest, ChoosingSensorsAndTicksMarkNothingAndLeaveATypedTextAlon
     EXPECT_TRUE(Form().SensContAVTime.fault->empty());
 }
 
+TEST_F(SetupDialogTest, EditsAreSavedSomeSecondsAfterTheLastOneAlsoWhileMeasuring) {
+    fake.events.roundTime = std::chrono::milliseconds(100);
+    fake.events.onRound = [this](int round) {
+        const bool saved = folder.Get("Kelvra.INI").find("7E-03") != std::string::npos ||
+                           folder.Get("Kelvra.INI").find(".007") != std::string::npos;
+        if (round == 5) Form().SensContAVTime.Type("7");
+        if (round == 25) Form().SensContAVSmooth.Toggle();
+        if (round > 5 && round < 50) {
+            EXPECT_FALSE(saved) << round;
+        }
+        if (round == 65) {
+            EXPECT_TRUE(saved);
+            EXPECT_FALSE(Entry().settingsChanged);  // the sensor has them, too
+            PressStop();
+        }
+    };
+    PressStart();
+}
+
 TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
     Form().txtMaxTime.Type("7.5");
     Form().chkAutoScaleScope.Toggle();

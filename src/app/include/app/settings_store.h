@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "driver/debug_log.h"
+#include "platform/clock.h"
 #include "platform/computer.h"
 #include "platform/data_folder.h"
 #include "platform/files.h"
@@ -37,6 +38,10 @@ public:
     void Read(const std::vector<sensors::SensorEntry*>& entries);
     // Writes their settings with one pass over the file. Skips sensors without a SensorId.
     void Save(const std::vector<sensors::SensorEntry*>& entries);
+    // The user has edited settings.
+    void NoteEdit(platform::Duration now) { edited_ = now; }
+    // Saves edits some seconds after the last one. Call about twice a second.
+    void SaveEdits(platform::Duration now, const std::vector<sensors::SensorEntry*>& entries);
     // The failure of the last save, empty if there was none; for use after the windows have gone.
     const std::string& SaveFailure() const { return saveFailure_; }
 
@@ -70,6 +75,7 @@ private:
     std::string loadFailure_;           // of the latest read
     std::string useTrouble_;            // as last shown
     std::string saveFailure_;
+    std::optional<platform::Duration> edited_;  // the last edit that is not saved yet
 };
 
 }  // namespace kelvra::app

@@ -8,6 +8,7 @@ namespace kelvra::measure {
 
 struct MeasureState {
     bool measuring = false;           // from Start to Stop
+    bool fetching = false;            // results are being read
     bool stopRequested = false;       // the cycle is to end when it next checks
     bool traceModeActive = false;     // an enabled sensor measures in trace mode
     bool timeSlotModeActive = false;  // an enabled sensor measures in time slot mode

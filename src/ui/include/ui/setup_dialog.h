@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ public:
     void ShowCurrent(Typing typing = Typing::IsReplaced);
     // A box in which the user is typing stays as it is, unless it was another sensor's.
     void CurrentSensorChanged() override;
+
+    // The settings have been edited.
+    std::function<void()> onEdit;
 
     // The dialog shows the scales of that display for the current sensor.
     bool TraceScaleShown() const;
