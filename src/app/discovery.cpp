@@ -43,6 +43,7 @@ void Discovery::Tick() {
         p_.modes.Find();
     }
     p_.windows.lists.Refresh();
+    if (changed_) p_.windows.setupDialog.ShowCurrent(ui::Typing::Stays);
     p_.windows.errorStrip.Refresh();
     p_.windows.enabling.Refresh();
 }

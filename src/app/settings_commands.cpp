@@ -60,7 +60,9 @@ void SettingsCommands::SaveSensorSettings() {
 }
 
 void SettingsCommands::Save(const std::string& path) {
-    if (const std::error_code error = Write(path)) return Complain("saved", path, error);
+    const std::error_code error = Write(path);
+    dialog_.ShowCurrent(ui::Typing::Stays);  // saving resets a setting that files don't keep
+    if (error) return Complain("saved", path, error);
     Confirm("saved to", path);
 }
 

@@ -13,12 +13,13 @@ DisplayLists::DisplayLists(forms::Forms& forms, const sensors::SensorTable& tabl
     selection.listeners.Add(*this);
 }
 
-void DisplayLists::ModesChanged() {
-    Fill(forms_.timeSlotDisp.Timeslot_Sensorselect, sensors::TimeSlot, -1);
-    Fill(forms_.scopeDisp.Scope_Sensorselect, sensors::Trace, -1);
+// Start selects the first of each list.
+void DisplayLists::Started() {
+    forms_.timeSlotDisp.Timeslot_Sensorselect.Clear();
+    forms_.scopeDisp.Scope_Sensorselect.Clear();
 }
 
-void DisplayLists::ListedChanged() {
+void DisplayLists::ModesChanged() {
     controls::List& slots = forms_.timeSlotDisp.Timeslot_Sensorselect;
     controls::List& traces = forms_.scopeDisp.Scope_Sensorselect;
     Fill(slots, sensors::TimeSlot, slots.Data());

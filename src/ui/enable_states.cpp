@@ -80,6 +80,7 @@ void ApplyEnableStates(forms::Forms& forms, const EnableStates& states) {
     dialog.TriggerFrame.enabled = states.triggerPage;
     dialog.AdvancedFrame.enabled = states.advancedPage;
     dialog.SensTriggerLevel.enabled = states.triggerLevel;
+    dialog.SensTriggerLevel.back = states.triggerLevel ? controls::Cyan : controls::Grey;
 }
 
 }  // namespace kelvra::ui

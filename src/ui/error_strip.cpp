@@ -2,6 +2,7 @@
 #include "ui/error_strip.h"
 
 #include "ui/setup_pages.h"
+#include "util/text.h"
 
 namespace kelvra::ui {
 
@@ -19,12 +20,16 @@ void SetHeaderHeight(forms::SetupForm& dialog, int height) {
 
 }  // namespace
 
+// What a driver has reported comes before what was typed.
 void ErrorStrip::Refresh() {
-    for (int slot = 0; slot < table_.Slots(); ++slot) {
-        const std::string error = sensors::ErrorOf(table_[slot]);
-        if (!table_.simulationMode && !error.empty())
-            return Open(table_[slot].logicalName + ": " + error);
-    }
+    if (table_.simulationMode) return Close();
+    for (const bool typed : {false, true})
+        for (int slot = 0; slot < table_.Slots(); ++slot) {
+            const std::string error = sensors::ErrorOf(table_[slot]);
+            const bool onlyTyped = error == util::TrimLineBreaks(table_[slot].pointsError);
+            if (!error.empty() && onlyTyped == typed)
+                return Open(table_[slot].logicalName + ": " + error);
+        }
     Close();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/setup_dialog.h"
 
+#include <cmath>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -22,6 +24,19 @@ namespace {
 constexpr int MostPoints = 1024;
 constexpr const char* HelpFile = "KelvraHelp.chm";
 constexpr const char* HelpKey = "F1";
+
+// While it lives, events of the controls are not the user's.
+class Filling {
+public:
+    explicit Filling(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+    ~Filling() { flag_ = before_; }
+    Filling(const Filling&) = delete;
+    Filling& operator=(const Filling&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
 
 // What happens when the user, or filling, changes the field.
 controls::Event<>& ChangeOf(controls::TextField& field) {
@@ -65,20 +80,24 @@ SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.S
 void SetupDialog::ConnectFields() {
     for (const SetupRow& row : SetupRows())
         std::visit(
-            [&](auto field) { ChangeOf(p_.form.*field).Connect([this, &row] { Edited(row); }); },
+            [&](auto field) {
+                auto& control = p_.form.*field;
+                ChangeOf(control).Connect([this, &row] { Edited(row); });
+                if constexpr (std::is_base_of_v<controls::TextBox,
+                                                std::remove_reference_t<decltype(control)>>)
+                    control.commit.Connect([this, &row, &control] { Tidy(row, control); });
+            },
             row.field);
 }
 
 void SetupDialog::ConnectScales() {
-    for (controls::TextBox* box :
-         {&p_.form.txtMinScope, &p_.form.txtMaxScope, &p_.form.txtMinTime, &p_.form.txtMaxTime})
-        box->change.Connect([this] { StoreScales(); });
+    for (const ScaleBox& row : ScaleBoxes())
+        (p_.form.*row.box).change.Connect([this, &row] { StoreLimit(row); });
     for (controls::CheckBox* box : {&p_.form.chkAutoScaleScope, &p_.form.chkAutoScaleTime})
-        box->click.Connect([this] { StoreScales(); });
+        box->click.Connect([this] { StoreAutomatic(); });
     p_.form.SensSelect.dropDown.Connect([this] {
-        filling_ = true;
-        ShowScaling(p_.form, p_.table.scaling[static_cast<std::size_t>(p_.table.currentSensor)]);
-        filling_ = false;
+        const Filling filling(filling_);
+        ShowScaling(p_.form, Scaling(), Typing::Stays);
     });
 }
 
@@ -108,16 +127,19 @@ void SetupDialog::CurrentSensorChanged() {
 }
 
 void SetupDialog::ShowCurrent(Typing typing) {
-    const SensorEntry* entry = Current();
+    SensorEntry* entry = Current();
     if (entry == nullptr) return;
-    filling_ = true;
-    shownFor_ = entry->resourceName;
-    p_.form.SensTypeInfo.caption = TypeInfo(entry->sensorId);
-    ShowScaling(p_.form, p_.table.scaling[static_cast<std::size_t>(p_.table.currentSensor)]);
-    FillModes(*entry);
-    ShowSettings(p_.form, entry->settings, typing);
-    ShowModeFrames(p_.form, entry->settings.Mode);
-    filling_ = false;
+    {
+        const Filling filling(filling_);
+        shownFor_ = entry->resourceName;
+        p_.form.SensTypeInfo.caption = TypeInfo(entry->sensorId);
+        ShowScaling(p_.form, Scaling(), typing);
+        FillModes(*entry);
+        ShowSettings(p_.form, entry->settings, typing);
+        ShowModeFrames(p_.form, entry->settings.Mode);
+    }
+    filling_ = false;  // also after the first sensor
+    NotePoints(*entry, entry->settings.ScopePoints);
     p_.enabling.Refresh();
 }
 
@@ -134,9 +156,26 @@ void SetupDialog::FillModes(const SensorEntry& entry) {
 void SetupDialog::Edited(const SetupRow& row) {
     if (filling_ || Current() == nullptr) return;
     if (Is(row, &SetupForm::SensSlotCount) && !CountIsRight()) return;
-    if (Is(row, &SetupForm::ScopePoints)) PointsChanged();
-    Store();
-    AfterStore(row);
+    if (Is(row, &SetupForm::ScopePoints)) CheckPoints();
+    SensorEntry& entry = *Current();
+    const sensors::SensorSettings before = entry.settings;
+    StoreField(p_.form, row, entry.settings, p_.host.computer.Numbers());
+    entry.settingsChanged = true;
+    p_.enabling.Refresh();
+    if (onEdit) onEdit();
+    AfterStore(row, before);
+}
+
+// A text that the user has finished says what is stored, unless it can't be used.
+void SetupDialog::Tidy(const SetupRow& row, controls::TextBox& box) {
+    const SensorEntry* entry = Current();
+    if (entry == nullptr || !box.fault->empty()) return;
+    const Filling filling(filling_);
+    std::visit(
+        [&](auto member) {
+            box.SetText(ShownText(static_cast<double>(entry->settings.*member), row));
+        },
+        row.member);
 }
 
 // A count of 0 or less becomes 1, which is an edit of its own.
@@ -146,21 +185,16 @@ bool SetupDialog::CountIsRight() {
     return right;
 }
 
-void SetupDialog::Store() {
-    SensorEntry& entry = *Current();
-    StoreSettings(p_.form, entry.settings, p_.host.computer.Numbers());
-    entry.settingsChanged = true;
-    p_.enabling.Refresh();
-    if (onEdit) onEdit();
+void SetupDialog::AfterStore(const SetupRow& row, const sensors::SensorSettings& before) {
+    const sensors::SensorSettings& now = Current()->settings;
+    if (Is(row, &SetupForm::SensMode) && now.Mode != before.Mode) ModeChanged();
+    if (now.TSlotCount != before.TSlotCount) SlotCountChanged();
+    const Filling filling(filling_);
+    if (Is(row, &SetupForm::SensTrigger)) ShowTriggerButton(p_.form, now);
+    p_.form.CorrFreqEnable.SetChecked(true);
 }
 
-void SetupDialog::AfterStore(const SetupRow& row) {
-    if (Is(row, &SetupForm::SensMode)) ModeChosen();
-    if (Is(row, &SetupForm::SensSlotCount)) SlotCountChanged();
-    if (Is(row, &SetupForm::SensTrigger)) ShowTriggerButton(p_.form, Current()->settings);
-}
-
-void SetupDialog::ModeChosen() {
+void SetupDialog::ModeChanged() {
     sensors::ChangeMode(p_.table, p_.table.currentSensor);
     ShowModeFrames(p_.form, Current()->settings.Mode);
     p_.modes.Find();
@@ -168,33 +202,43 @@ void SetupDialog::ModeChosen() {
 
 void SetupDialog::SlotCountChanged() {
     sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
-    filling_ = true;
+    const Filling filling(filling_);
     ShowSlotNumbers(p_.form, Current()->settings);
-    filling_ = false;
 }
 
-void SetupDialog::PointsChanged() {
-    SensorEntry& entry = *Current();
-    const bool tooMany = util::ReadNumber(p_.form.ScopePoints.Text()) > MostPoints;
+// A typed number counts even if it can't be stored. A simulated sensor gets the most there is.
+void SetupDialog::CheckPoints() {
+    const double points = util::ReadNumber(p_.form.ScopePoints.Text());
+    if (points > MostPoints && p_.table.simulationMode) {
+        const Filling filling(filling_);
+        p_.form.ScopePoints.SetText(util::TrimmedNumberText(std::int64_t{MostPoints}));
+    }
+    NotePoints(*Current(), points);
+}
+
+void SetupDialog::NotePoints(SensorEntry& entry, double points) {
+    const bool tooMany = points > MostPoints && !p_.table.simulationMode;
     entry.pointsError = tooMany ? "Scope points number\r\ncannot exceed 1024." : "";
     p_.errorStrip.Refresh();
-    if (!tooMany || !p_.table.simulationMode) return;
-    filling_ = true;
-    p_.form.ScopePoints.SetText(util::TrimmedNumberText(std::int64_t{MostPoints}));
-    filling_ = false;
-    entry.pointsError.clear();
 }
 
-void SetupDialog::StoreScales() {
+sensors::DisplayScaling& SetupDialog::Scaling() {
+    return p_.table.scaling[static_cast<std::size_t>(p_.table.currentSensor)];
+}
+
+// A number that is not finite leaves the limit as it is.
+void SetupDialog::StoreLimit(const ScaleBox& row) {
     if (filling_ || Current() == nullptr) return;
-    sensors::DisplayScaling& scaling =
-        p_.table.scaling[static_cast<std::size_t>(p_.table.currentSensor)];
-    scaling.autoScaleScope = p_.form.chkAutoScaleScope.Checked();
-    scaling.autoScaleTime = p_.form.chkAutoScaleTime.Checked();
-    scaling.minScope = util::ReadNumber(p_.form.txtMinScope.Text());
-    scaling.maxScope = util::ReadNumber(p_.form.txtMaxScope.Text());
-    scaling.minTime = util::ReadNumber(p_.form.txtMinTime.Text());
-    scaling.maxTime = util::ReadNumber(p_.form.txtMaxTime.Text());
+    controls::TextBox& box = p_.form.*row.box;
+    const TypedNumber typed = ReadTyped(box.Text(), Quantity::Plain, 1, p_.host.computer.Numbers());
+    if (std::isfinite(typed.value)) Scaling().*row.limit = typed.value;
+    box.fault = std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
+}
+
+void SetupDialog::StoreAutomatic() {
+    if (filling_ || Current() == nullptr) return;
+    Scaling().autoScaleScope = p_.form.chkAutoScaleScope.Checked();
+    Scaling().autoScaleTime = p_.form.chkAutoScaleTime.Checked();
 }
 
 bool SetupDialog::TraceScaleShown() const {

@@ -23,6 +23,7 @@ constexpr int SingleTrigger = 0;
 
 constexpr SetupUnit One{};
 constexpr SetupUnit Ms{1e3, 1, Quantity::Time};
+constexpr SetupUnit Seconds{1, 1, Quantity::Time};
 constexpr SetupUnit Us{1e6, 1, Quantity::Time};
 constexpr SetupUnit Mhz{1, 1e6, Quantity::Frequency};
 
@@ -47,14 +48,14 @@ constexpr SetupRow Rows[] = {
     {&SetupForm::ScopeAvgResValue,     &SensorSettings::ScopeAVGNormVal},
     {&SetupForm::ScopeAvgSNRValue,     &SensorSettings::ScopeAVGSNVal},
     {&SetupForm::ScopeAvgCount,        &SensorSettings::ScopeAVGManCount},
-    {&SetupForm::ScopeAvgMaxTime,      &SensorSettings::ScopeAVGMaxSetTime},
+    {&SetupForm::ScopeAvgMaxTime,      &SensorSettings::ScopeAVGMaxSetTime,  Seconds},
     {&SetupForm::ScopeMovingAveraging, &SensorSettings::ScopeAVGMoving},
     {&SetupForm::SensAVGState,         &SensorSettings::AvgEnable},
     {&SetupForm::SensAvgMode,          &SensorSettings::AvgMode},
     {&SetupForm::SensAvgResValue,      &SensorSettings::AvgNormVal},
     {&SetupForm::SensAvgSNRValue,      &SensorSettings::AvgSNVal},
     {&SetupForm::SensAvgCount,         &SensorSettings::AvgManCount},
-    {&SetupForm::SensAvgMaxTime,       &SensorSettings::AvgMaxSetTime},
+    {&SetupForm::SensAvgMaxTime,       &SensorSettings::AvgMaxSetTime,       Seconds},
     {&SetupForm::SensAvgSlot,          &SensorSettings::AvgSlotNum},
     {&SetupForm::MovingAveraging,      &SensorSettings::AvgMoving},
     {&SetupForm::SensTrigger,          &SensorSettings::TrigSource},
@@ -104,7 +105,7 @@ void Show(List& list, double stored, const SetupRow& row, Typing) {
 }
 
 void Show(OptionGroup& group, double stored, const SetupRow& row, Typing) {
-    const int option = static_cast<int>(stored);
+    const int option = std::min(std::max(static_cast<int>(stored), 0), group.Count() - 1);
     group.SetSelected(row.rule == SetupRule::TrueIsFirst ? 1 - option : option);
 }
 
@@ -117,6 +118,7 @@ std::span<const SetupRow> SetupRows() {
 std::string ShownText(double stored, const SetupRow& row) {
     double shown = stored * row.unit.shown / row.unit.stored;
     if (row.rule == SetupRule::Thousandths) shown = std::nearbyint(shown * 1e3) / 1e3;
+    if (row.rule == SetupRule::AtLeastOne) shown = std::max(shown, 1.0);
     return ShownNumber(shown);
 }
 
@@ -144,13 +146,25 @@ void ShowTriggerButton(SetupForm& form, const SensorSettings& settings) {
     form.SensTriggerNow.visible = settings.TrigSource == SingleTrigger;
 }
 
-void ShowScaling(SetupForm& form, const sensors::DisplayScaling& scaling) {
+std::span<const ScaleBox> ScaleBoxes() {
+    static constexpr ScaleBox boxes[] = {
+        {&SetupForm::txtMinScope, &sensors::DisplayScaling::minScope},
+        {&SetupForm::txtMaxScope, &sensors::DisplayScaling::maxScope},
+        {&SetupForm::txtMinTime, &sensors::DisplayScaling::minTime},
+        {&SetupForm::txtMaxTime, &sensors::DisplayScaling::maxTime},
+    };
+    return boxes;
+}
+
+void ShowScaling(SetupForm& form, const sensors::DisplayScaling& scaling, Typing typing) {
     form.chkAutoScaleScope.SetChecked(scaling.autoScaleScope);
     form.chkAutoScaleTime.SetChecked(scaling.autoScaleTime);
-    form.txtMinScope.SetText(ShownNumber(scaling.minScope));
-    form.txtMaxScope.SetText(ShownNumber(scaling.maxScope));
-    form.txtMinTime.SetText(ShownNumber(scaling.minTime));
-    form.txtMaxTime.SetText(ShownNumber(scaling.maxTime));
+    for (const ScaleBox& row : ScaleBoxes()) {
+        TextBox& box = form.*row.box;
+        if (typing == Typing::Stays && box.Edited()) continue;
+        box.SetText(ShownNumber(scaling.*row.limit));
+        box.fault = std::string();
+    }
 }
 
 }  // namespace kelvra::ui

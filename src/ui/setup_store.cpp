@@ -8,7 +8,6 @@
 #include <type_traits>
 #include <variant>
 
-#include "ui/setup_rows.h"
 #include "ui/typed_number.h"
 #include "util/number_reading.h"
 
@@ -73,12 +72,11 @@ void Store(const OptionGroup& group, Setting& setting, const SetupRow& row,
 
 }  // namespace
 
-void StoreSettings(forms::SetupForm& form, sensors::SensorSettings& settings,
-                   const util::NumberForm& locale) {
-    for (const SetupRow& row : SetupRows())
-        std::visit(
-            [&](auto field, auto member) { Store(form.*field, settings.*member, row, locale); },
-            row.field, row.member);
+void StoreField(forms::SetupForm& form, const SetupRow& row, sensors::SensorSettings& settings,
+                const util::NumberForm& locale) {
+    std::visit([&](auto field, auto member) { Store(form.*field, settings.*member, row, locale); },
+               row.field, row.member);
+    settings.CorrFreq = true;
 }
 
 }  // namespace kelvra::ui

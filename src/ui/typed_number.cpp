@@ -16,10 +16,11 @@ constexpr struct {
     double scale;  // in s or Hz
 } Units[] = {
     {Quantity::Time, "s", 1},          {Quantity::Time, "ms", 1e-3},
-    {Quantity::Time, "us", 1e-6},      {Quantity::Time, "\u00B5s", 1e-6},
-    {Quantity::Time, "ns", 1e-9},      {Quantity::Frequency, "Hz", 1},
-    {Quantity::Frequency, "kHz", 1e3}, {Quantity::Frequency, "KHz", 1e3},
-    {Quantity::Frequency, "MHz", 1e6}, {Quantity::Frequency, "GHz", 1e9},
+    {Quantity::Time, "\u03BCs", 1e-6}, {Quantity::Time, "us", 1e-6},
+    {Quantity::Time, "\u00B5s", 1e-6}, {Quantity::Time, "ns", 1e-9},
+    {Quantity::Frequency, "Hz", 1},    {Quantity::Frequency, "kHz", 1e3},
+    {Quantity::Frequency, "KHz", 1e3}, {Quantity::Frequency, "MHz", 1e6},
+    {Quantity::Frequency, "GHz", 1e9},
 };
 
 // With one decimal comma and no point the comma is the point, where the locale has it so.

@@ -45,6 +45,9 @@ TEST_F(SetupDialogTest, EachFieldStoresItsOwnSettingAndNoOther) {
         Settings().TSlotCount = 4;
         Settings().TrigDelay = 0.0012345;  // is not rounded by other edits
         Settings().ContAVAper = 1.0 / 3;
+        Settings().TSlotExclDispInSlot = 7;  // these can't be shown
+        Settings().AvgMode = 9;
+        Settings().ScopePoints = -5;
         program->windows.setupDialog.ShowCurrent();
         Entry().settingsChanged = false;
         const SensorSettings before = Settings();
@@ -73,6 +76,7 @@ TEST_F(SetupDialogTest, WhatIsTypedIsStoredInTheUnitOfTheSetting) {
         {Form().SensContAVTime, "12abc", &SensorSettings::ContAVAper, 0.012, true},
         {Form().SensContAVTime, "abc", &SensorSettings::ContAVAper, 0, true},
         {Form().SensContAVTime, "", &SensorSettings::ContAVAper, 0, true},
+        {Form().SensAvgMaxTime, "500 ms", &SensorSettings::AvgMaxSetTime, 0.5, false},
         {Form().SensBurstDropOut, "2 ms", &SensorSettings::BurstAVDropTol, 0.002, false},
         {Form().CorrFreqValue, "1.5 GHz", &SensorSettings::CorrFreqVal, 1.5e9, false},
         {Form().CorrFreqValue, "50", &SensorSettings::CorrFreqVal, 5e7, false},
@@ -101,14 +105,46 @@ TEST_F(SetupDialogTest, ASlotCountBelowOneBecomesOneAndTheSlotsAreListed) {
     }
 }
 
+TEST_F(SetupDialogTest, WhatIsShownAfterAnEditIsWhatIsStored) {
+    Settings().TSlotCount = 16;
+    Settings().TSlotExclDispInSlot = 11;
+    program->windows.setupDialog.ShowCurrent();
+    for (const char* typed : {"1", "16"}) Form().SensSlotCount.Type(typed);
+    EXPECT_EQ(Settings().TSlotExclDispInSlot, 11);
+    EXPECT_EQ(Form().ShowExclInTSlot.Text(), "12");
+    Form().SensTriggerDelay.Type("1.2345");
+    Form().SensTriggerDelay.PressKey("Enter");
+    EXPECT_EQ(Form().SensTriggerDelay.Text(), "1");
+    Form().CorrFreqEnable.Toggle();
+    EXPECT_TRUE(Form().CorrFreqEnable.Checked());
+    Form().SensInitCont.Toggle();
+    EXPECT_TRUE(Settings().ContMeas);
+    fake.dialogs.fileAnswer = folder.Path("x.ini");
+    program->forms.mdiMain.Save_Sensor_Settings.Press();
+    EXPECT_EQ(Form().SensInitCont.Checked(), Settings().ContMeas);
+    Entry().history.Add(1e-3);
+    Form().SensMode.Choose(Form().SensMode.Index());
+    EXPECT_EQ(Entry().history.Index(), 0);  // the same mode loses nothing
+}
+
 TEST_F(SetupDialogTest, TooManyPointsAreAnErrorOfTheirSensorAndAreCutInSimulation) {
-    Entry(1).fetchError = "Fetch: other";
+    const auto strip = [this] { return Form().lblInputError.caption.Get(); };
+    const std::string tooMany = "A: Scope points number\r\ncannot exceed 1024.";
     Form().ScopePoints.Type("1025");
     EXPECT_EQ(Settings().ScopePoints, 1025);
-    EXPECT_EQ(Form().lblInputError.caption.Get(), "A: Scope points number\r\ncannot exceed 1024.");
+    EXPECT_EQ(strip(), tooMany);
     EXPECT_EQ(Form().GeneralFrame.place->top, Form().Frame1.place->height);
+    Entry(1).fetchError = "Fetch: other";
+    program->windows.errorStrip.Refresh();
+    EXPECT_EQ(strip(), "B: Fetch: other");
+    Entry(1).fetchError.clear();
+    Settings().ScopePoints = 312;  // as a file does
+    program->windows.setupDialog.ShowCurrent();
+    EXPECT_EQ(strip(), "");
+    Form().ScopePoints.Type("99999");  // can't be stored
+    EXPECT_EQ(strip(), tooMany);
     Form().ScopePoints.Type("1024");
-    EXPECT_EQ(Form().lblInputError.caption.Get(), "B: Fetch: other");
+    EXPECT_EQ(strip(), "");
     driver.devices.clear();
     Tick();
     Form().ScopePoints.Type("2000");
@@ -188,7 +224,13 @@ TEST_F(SetupDialogTest, EditsAreSavedSomeSecondsAfterTheLastOneAlsoWhileMeasurin
 }
 
 TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
+    program->table.scaling[0].minTime = 1.0 / 3;
+    program->windows.setupDialog.ShowCurrent();
     Form().txtMaxTime.Type("7.5");
+    Form().txtMaxScope.Type("1e999");
+    EXPECT_FALSE(Form().txtMaxScope.fault->empty());
+    EXPECT_EQ(program->table.scaling[0].maxScope, 5);
+    EXPECT_EQ(program->table.scaling[0].minTime, 1.0 / 3);
     Form().chkAutoScaleScope.Toggle();
     EXPECT_EQ(program->table.scaling[0].maxTime, 7.5);
     EXPECT_TRUE(program->table.scaling[0].autoScaleScope);

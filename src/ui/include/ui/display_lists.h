@@ -15,9 +15,10 @@ public:
     DisplayLists(forms::Forms& forms, const sensors::SensorTable& table,
                  SensorSelection& selection);
 
+    void Started() override;
+    // A selected sensor that is still listed stays selected.
     void ModesChanged() override;
-    // The same with other names: the selected sensor stays selected.
-    void ListedChanged() override;
+    void ListedChanged() override { ModesChanged(); }
 
 private:
     void Fill(controls::List& list, sensors::Mode mode, int selected);

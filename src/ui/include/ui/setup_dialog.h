@@ -55,13 +55,16 @@ private:
     sensors::SensorEntry* Current();
     void FillModes(const sensors::SensorEntry& entry);
     void Edited(const SetupRow& row);
+    void Tidy(const SetupRow& row, controls::TextBox& box);
     bool CountIsRight();
-    void Store();
-    void AfterStore(const SetupRow& row);
-    void ModeChosen();
+    void AfterStore(const SetupRow& row, const sensors::SensorSettings& before);
+    void ModeChanged();
     void SlotCountChanged();
-    void PointsChanged();
-    void StoreScales();
+    void CheckPoints();
+    void NotePoints(sensors::SensorEntry& entry, double points);
+    sensors::DisplayScaling& Scaling();
+    void StoreLimit(const ScaleBox& row);
+    void StoreAutomatic();
 
     Parts p_;
     const std::vector<controls::List::Item> allModes_;

@@ -62,7 +62,15 @@ void ShowSlotNumbers(forms::SetupForm& form, const sensors::SensorSettings& sett
 // The button that triggers is there for single triggers.
 void ShowTriggerButton(forms::SetupForm& form, const sensors::SensorSettings& settings);
 
-// The same for the scales of the two displays.
-void ShowScaling(forms::SetupForm& form, const sensors::DisplayScaling& scaling);
+// The boxes for the limits of the displays' scales, in dBm.
+struct ScaleBox {
+    controls::TextBox forms::SetupForm::*box;
+    double sensors::DisplayScaling::*limit;
+};
+std::span<const ScaleBox> ScaleBoxes();
+
+// Fills the scales of the two displays.
+void ShowScaling(forms::SetupForm& form, const sensors::DisplayScaling& scaling,
+                 Typing typing = Typing::IsReplaced);
 
 }  // namespace kelvra::ui
