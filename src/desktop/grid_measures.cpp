@@ -45,7 +45,8 @@ int LongestText(const controls::Grid& grid, int column, const QFont& font) {
         return TextWidth(Shown(sample), font);
     int width = 0;
     for (int row = 1; row < grid.Rows(); ++row)
-        width = std::max(width, CellWidth(grid.At(row, column), font));
+        if (!grid.At(row, column).Text().empty())
+            width = std::max(width, CellWidth(grid.At(row, column), font));
     return width;
 }
 

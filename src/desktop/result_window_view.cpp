@@ -34,7 +34,12 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     window_->setWindowIcon(Icon("kelvra"));
 
     table_->onNeed = [this] { FitWindow(); };
-    window_->onRoom = [this] { FitWindow(); };
+    window_->onRoom = [this] {
+        if (table_->Fitted())
+            window_->FillArea();
+        else
+            FitWindow();
+    };
     mirror.Add(form, std::make_unique<ChildWindowAdapter>(form, *window_));
     FitWindow();
 }
