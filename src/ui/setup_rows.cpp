@@ -83,6 +83,13 @@ constexpr SetupRow Rows[] = {
 };
 // clang-format on
 
+constexpr ScaleBox Boxes[] = {
+    {&SetupForm::txtMinScope, &sensors::DisplayScaling::minScope},
+    {&SetupForm::txtMaxScope, &sensors::DisplayScaling::maxScope},
+    {&SetupForm::txtMinTime, &sensors::DisplayScaling::minTime},
+    {&SetupForm::txtMaxTime, &sensors::DisplayScaling::maxTime},
+};
+
 std::string ShownNumber(double value) {
     return util::GeneralText(value, {});
 }
@@ -147,13 +154,7 @@ void ShowTriggerButton(SetupForm& form, const SensorSettings& settings) {
 }
 
 std::span<const ScaleBox> ScaleBoxes() {
-    static constexpr ScaleBox boxes[] = {
-        {&SetupForm::txtMinScope, &sensors::DisplayScaling::minScope},
-        {&SetupForm::txtMaxScope, &sensors::DisplayScaling::maxScope},
-        {&SetupForm::txtMinTime, &sensors::DisplayScaling::minTime},
-        {&SetupForm::txtMaxTime, &sensors::DisplayScaling::maxTime},
-    };
-    return boxes;
+    return Boxes;
 }
 
 void ShowScaling(SetupForm& form, const sensors::DisplayScaling& scaling, Typing typing) {
