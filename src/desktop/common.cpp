@@ -50,6 +50,12 @@ QString MarkedText(const controls::Control& control, const std::string& caption)
            Shown(text.substr(place)).replace('&', "&&");
 }
 
+void KeepRoom(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
 void Withhold(QWidget& widget) {
     SetOwnTooltip(widget, Later);
     widget.setToolTip(Later);

@@ -22,13 +22,6 @@ namespace {
 constexpr int IndicatorIcon = 20;  // logical pixels
 constexpr int LeastFormulaWidth = 60;
 constexpr int FormulaColumn = 1;
-
-// The place stays as it is when the widget is hidden.
-void KeepRoom(QWidget& widget) {
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
 }  // namespace
 
 MainWindowView::MainWindowView(forms::MDIMain& form, Mirror& mirror)

@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "desktop/common.h"
 #include "desktop/elided_label.h"
 
 namespace kelvra::desktop {
@@ -70,12 +71,8 @@ QWidget* MakeNoticeBar(forms::MDIMain& form, WidgetMaker& maker) {
     QToolButton* details = AddButton(*row, "Details...", "Shows the whole message in a window");
     QObject::connect(details, &QToolButton::clicked,
                      [text, bar] { ShowWhole(text->text(), bar->window()); });
-    // The strip keeps its height when the notice comes and goes.
-    for (QWidget* hidden : {static_cast<QWidget*>(bar), static_cast<QWidget*>(text)}) {
-        QSizePolicy policy = hidden->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        hidden->setSizePolicy(policy);
-    }
+    KeepRoom(*bar);
+    KeepRoom(*text);
     return bar;
 }
 

@@ -2,13 +2,13 @@
 #include "desktop/table_menu.h"
 
 #include <QMenu>
-#include <optional>
+
+#include "desktop/common.h"
+#include "ui/result_columns.h"
 
 namespace kelvra::desktop {
 
 namespace {
-
-constexpr int NameColumn = 0;
 
 // Deletes itself when it is closed.
 QMenu* MenuWithCopies(GridWidget& table) {
@@ -28,18 +28,17 @@ const controls::Grid::Cell* CellAt(GridWidget& table, int row, int column) {
 
 void AddSensorEntries(QMenu& menu, GridWidget& table, int row, controls::Button& settings,
                       bool settingsShown) {
-    const controls::Grid::Cell* name = CellAt(table, row, NameColumn);
+    const controls::Grid::Cell* name = CellAt(table, row, ui::NameColumn);
     if (name == nullptr || !name->checked) return;
     const QString sensor = "sensor " + QString::number(row + 1);
     menu.addSeparator();
     menu.addAction("&Switch " + sensor + (*name->checked ? " off" : " on"),
-                   [&table, row] { table.Activate(row, NameColumn); });
+                   [&table, row] { table.Activate(row, ui::NameColumn); });
     QAction* show = menu.addAction("Se&ttings of " + sensor + "...", [&table, &settings, row] {
-        table.Record().PressCell(row + 1, NameColumn);
+        table.Record().PressCell(row + 1, ui::NameColumn);
         settings.Press();
     });
-    show->setEnabled(settingsShown);
-    if (!settingsShown) show->setToolTip("This window comes with a later version");
+    if (!settingsShown) Withhold(*show);
 }
 
 }  // namespace

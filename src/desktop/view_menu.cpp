@@ -77,7 +77,8 @@ void ViewMenu::AddColours() {
 void ViewMenu::SetFitted(bool fitted) {
     fit_->setChecked(fitted);
     parts_.results.SetFitted(fitted);
-    preferences_.SetFitted(parts_.results.Table().objectName(), fitted);
+    const QString table = parts_.results.Table().objectName();
+    if (preferences_.Fitted(table) != fitted) preferences_.SetFitted(table, fitted);
 }
 
 // A size that the user chooses takes the place of the largest that fits.

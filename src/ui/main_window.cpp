@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main_window.h"
 
+#include "ui/help.h"
+
 namespace kelvra::ui {
 
 using controls::Geometry;
@@ -25,10 +27,7 @@ MainWindow::MainWindow(forms::Forms& forms, measure::MeasureState& state, platfo
     forms_.mdiMain.resize.Connect([this] { ArrangeWindows(); });
     forms_.mdiMain.Show_Settings.click.Connect([this] { ShowSettings(); });
     forms_.mdiMain.SettingAlwaysOnTop.click.Connect([this] { ToggleAlwaysOnTop(); });
-    forms_.mdiMain.Helpfunction.click.Connect([this] {
-        platform::Computer& computer = host_.computer;
-        host_.dialogs.OpenHelp(computer.Join(computer.ProgramFolder(), "KelvraHelp.chm"), 0);
-    });
+    forms_.mdiMain.Helpfunction.click.Connect([this] { OpenHelp(host_, 0); });
 }
 
 void MainWindow::ApplyColourScheme() {

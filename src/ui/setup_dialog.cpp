@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "driver/catalogue.h"
+#include "ui/help.h"
 #include "ui/setup_pages.h"
 #include "ui/setup_store.h"
 #include "util/number_reading.h"
@@ -22,7 +23,6 @@ using sensors::SensorEntry;
 namespace {
 
 constexpr int MostPoints = 1024;
-constexpr const char* HelpFile = "KelvraHelp.chm";
 constexpr const char* HelpKey = "F1";
 
 // While it lives, events of the controls are not the user's.
@@ -106,9 +106,7 @@ void SetupDialog::ConnectHelp(controls::Control& control) {
     if (auto* focusable = dynamic_cast<controls::Focusable*>(&control);
         focusable != nullptr && control.access.helpTopic != 0)
         focusable->keyDown.Connect([this, topic = control.access.helpTopic](const auto& key) {
-            platform::Computer& computer = p_.host.computer;
-            if (key == HelpKey)
-                p_.host.dialogs.OpenHelp(computer.Join(computer.ProgramFolder(), HelpFile), topic);
+            if (key == HelpKey) OpenHelp(p_.host, topic);
         });
     for (controls::Control* child : control.Children()) ConnectHelp(*child);
 }

@@ -90,6 +90,10 @@ constexpr ScaleBox Boxes[] = {
     {&SetupForm::txtMaxTime, &sensors::DisplayScaling::maxTime},
 };
 
+int NearestEntryOf(const List& list, int index) {
+    return std::min(std::max(index, 0), list.Count() - 1);
+}
+
 std::string ShownNumber(double value) {
     return util::GeneralText(value, {});
 }
@@ -107,7 +111,7 @@ void Show(CheckBox& box, double stored, const SetupRow& row, Typing) {
 void Show(List& list, double stored, const SetupRow& row, Typing) {
     int index = static_cast<int>(stored);
     if (row.rule == SetupRule::ItemData) index = list.IndexOfData(index);
-    if (row.rule == SetupRule::NearestEntry) index = std::min(std::max(index, 0), list.Count() - 1);
+    if (row.rule == SetupRule::NearestEntry) index = NearestEntryOf(list, index);
     list.SetIndex(index);
 }
 
@@ -145,8 +149,8 @@ void ShowSlotNumbers(SetupForm& form, const SensorSettings& settings) {
     for (int slot = 1; slot <= settings.TSlotCount; ++slot)
         numbers.push_back({util::TrimmedNumberText(std::int64_t{slot})});
     if (form.ShowExclInTSlot.Items() != numbers) form.ShowExclInTSlot.Fill(std::move(numbers));
-    const int last = form.ShowExclInTSlot.Count() - 1;
-    form.ShowExclInTSlot.SetIndex(std::min(std::max<int>(settings.TSlotExclDispInSlot, 0), last));
+    form.ShowExclInTSlot.SetIndex(
+        NearestEntryOf(form.ShowExclInTSlot, settings.TSlotExclDispInSlot));
 }
 
 void ShowTriggerButton(SetupForm& form, const SensorSettings& settings) {

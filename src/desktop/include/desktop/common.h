@@ -29,6 +29,9 @@ void SetOwnTooltip(QWidget& widget, const QString& text);
 // expects it.
 QString MarkedText(const controls::Control& control, const std::string& caption);
 
+// The widget's place stays as it is when it is hidden.
+void KeepRoom(QWidget& widget);
+
 // For a control that opens a window which this front end doesn't have yet: the widget or menu entry
 // stays disabled and says why. The record is not changed.
 void Withhold(QWidget& widget);
