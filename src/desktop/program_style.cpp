@@ -12,9 +12,34 @@ namespace {
 
 constexpr int ChildFrame = 4;  // logical pixels; wide enough to drag
 constexpr int SliderGap = 2;
+constexpr int Rounding = 2;
+constexpr int TitleGap = 3;  // between a group's title and its frame
 
 bool IsDark(const QPalette& palette) {
     return qGray(palette.color(QPalette::Window).rgb()) < 128;
+}
+
+// Over what the toolkit has drawn, whose outlines are faint. What has the focus keeps its own.
+void DrawOutline(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+    const bool box = element == QStyle::PE_PanelLineEdit || element == QStyle::PE_IndicatorCheckBox;
+    const bool mark = element == QStyle::PE_IndicatorRadioButton;
+    const bool group = element == QStyle::PE_FrameGroupBox;
+    const bool focused = (option.state & QStyle::State_HasFocus) != 0;
+    if ((!box && !mark && !group) || focused) return;
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    QColor colour = PaintColour(OwnColour::Outline);
+    if (group || !enabled) colour.setAlphaF(0.5F);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(colour);
+    painter.setBrush(Qt::NoBrush);
+    const int title = group ? option.fontMetrics.height() + TitleGap : 0;
+    const QRectF rim = QRectF(option.rect).adjusted(0.5, title + 0.5, -0.5, -0.5);
+    if (mark)
+        painter.drawEllipse(rim);
+    else
+        painter.drawRoundedRect(rim, Rounding, Rounding);
+    painter.restore();
 }
 
 }  // namespace
@@ -41,8 +66,10 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
-    if (element != PE_FrameWindow)
-        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_FrameWindow) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return DrawOutline(element, *option, *painter);
+    }
     const QPalette palette = QApplication::palette();
     painter->fillRect(option->rect, palette.color(QPalette::Window));
     painter->setPen(palette.color(QPalette::Mid));

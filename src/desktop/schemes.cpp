@@ -32,6 +32,8 @@ struct Row {
 constexpr Row Table[] = {
     {Part::Surface, controls::DarkBlue, 0xF3F4F6, 0x1E2227},  // the strip of tools
     {Part::Surface, controls::Blue, 0xFFFFFF, 0x16191D},      // windows, a table's empty part
+    {Part::Surface, controls::Cyan, 0xD8F1F7, 0x15424D},      // the trigger level's box
+    {Part::Surface, controls::Grey, 0xDDE2E8, 0x3A4149},      // the same, without effect
     {Part::Cell, controls::Cyan, 0xF7F9FB, 0x1B1F24},         // no value
     {Part::Cell, controls::White, 0xFFFFFF, 0x262C33},        // a reading
     {Part::Cell, controls::Grey, 0xDDE2E8, 0x3A4149},         // off, absent, an array
@@ -53,6 +55,7 @@ constexpr OwnRow OwnTable[] = {
     {OwnColour::Selection, {0x0000FF, 0x0B57D0, 0x8AB4F8}},
     {OwnColour::Fault, {0xD00000, 0xB3261E, 0xFF8A80}},
     {OwnColour::Warning, {0xFFD040, 0x8A5A00, 0xFFC947}},
+    {OwnColour::Outline, {0x7A828A, 0x7A828A, 0x7D8791}},
 };
 
 constexpr Pair AllPairs[] = {
@@ -60,6 +63,8 @@ constexpr Pair AllPairs[] = {
     {"tools, \"Simulation Mode\"", Part::Surface, controls::DarkBlue, controls::Red},
     {"tools, sensors connected", Part::Surface, controls::DarkBlue, controls::Green},
     {"window, text", Part::Surface, controls::Blue, {}},
+    {"trigger level", Part::Surface, controls::Cyan, {}},
+    {"trigger level without effect", Part::Surface, controls::Grey, {}},
     {"heading", Part::Heading, controls::DarkCyan, {}},
     {"cell without a value", Part::Cell, controls::Cyan, {}},
     {"reading", Part::Cell, controls::White, {}},

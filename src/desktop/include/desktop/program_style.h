@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The toolkit's style, but for the windows inside the frame (a flat title, one thin border) and the
-// scroll bars, whose sliders must be seen on every background.
+// The toolkit's style, but for the windows inside the frame (a flat title, one thin border), the
+// scroll bars, whose sliders must be seen on every background, and the outlines of boxes, marks and
+// groups, which must be seen in every colour scheme.
 #pragma once
 
 #include <QProxyStyle>

@@ -26,7 +26,7 @@ enum class Part { Surface, Cell, Heading, Text };
 // In the current scheme.
 QColor PaintColour(Part part, controls::Colour colour);
 // Colours that no rule knows of.
-enum class OwnColour { Focus, Selection, Fault, Warning };
+enum class OwnColour { Focus, Selection, Fault, Warning, Outline };
 QColor PaintColour(OwnColour colour);
 // What is readable on this background.
 QColor TextOn(const QColor& back);
