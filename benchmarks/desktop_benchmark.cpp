@@ -181,7 +181,8 @@ public:
           button_(run.Find<QPushButton>("Show_Settings")),
           answer_(run.Find<QLabel>("SensorLabel")),
           count_(count) {
-        button_.setEnabled(true);  // its window does not exist yet
+        button_.click();  // makes the dialog, which is no part of the answer
+        run.desktop.Painter().Flush();
         run.kelvra.forms.mdiMain.Show_Settings.click.Connect([this, &run] {
             raised_.push_back(Since(sent_));
             run.kelvra.forms.mdiMain.SensorLabel.caption =

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/common.h"
 
+#include <QStyle>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "desktop/colour_roles.h"
 #include "desktop/qt_text.h"
@@ -54,6 +56,17 @@ void KeepRoom(QWidget& widget) {
     QSizePolicy policy = widget.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     widget.setSizePolicy(policy);
+}
+
+QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window) {
+    const QRect free = screen.availableGeometry();
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const bool tooHigh = wanted.height() + title > free.height();
+    const QRect room = tooHigh ? free.adjusted(0, title, 0, 0) : free;
+    wanted.setSize(wanted.size().boundedTo(room.size()));
+    wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - wanted.width()));
+    wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - wanted.height()));
+    return wanted;
 }
 
 void Withhold(QWidget& widget) {

@@ -7,22 +7,29 @@ namespace kelvra::desktop {
 
 namespace {
 constexpr const char* ResultWindow = "StatusForm";
+constexpr const char* SetupWindow = "SetupForm";
 }  // namespace
 
 Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
                  const std::string& dataFolder)
     : events_(events),
+      setup_(kelvra.forms.setupForm),
       preferences_(dataFolder),
       mirror_(kelvra.forms.changes),
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       view_(preferences_, {main_.Widget(), main_.WindowMenu(), results_, main_.Formulas(),
                            [this] { Recolour(); }}) {
-    GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings, false);
+    GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings);
     GiveFormulaMenu(main_.Formulas());
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
         results_.Window().PlaceAsBefore(place);
     main_.MirrorFrame(preferences_.Frame());
+    mirror_.Add(setup_, std::make_unique<DialogWindowAdapter>(
+                            setup_, [this]() -> DialogWindow& { return MakeSetupDialog(); }));
+    kelvra.forms.mdiMain.Show_Settings.click.Connect([this] {
+        if (setupDialog_) setupDialog_->Window().Raise();
+    });
     dialogs.SetParent(main_.Widget());
     events_.onRepaint = [this] { mirror_.PaintNow(); };
     events_.onQuit = [&dialogs] { dialogs.Drop(); };
@@ -39,7 +46,15 @@ void Desktop::Recolour() {
     shown_ = CurrentScheme();
 }
 
+// Made when it is first shown: many windows never show it.
+DialogWindow& Desktop::MakeSetupDialog() {
+    setupDialog_.emplace(setup_, mirror_, main_.Area());
+    setupDialog_->Window().ShowAsBefore(preferences_.Place(SetupWindow));
+    return setupDialog_->Window();
+}
+
 void Desktop::KeepLook() {
+    if (setupDialog_) preferences_.SetPlace(SetupWindow, setupDialog_->Window().Place());
     preferences_.SetFrame(main_.Widget().Geometry());
     if (!results_.Table().Fitted() && results_.Window().PlacedByPerson())
         preferences_.SetPlace(ResultWindow, results_.Window().geometry());

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "desktop/common.h"
+#include "desktop/icons.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -20,6 +21,19 @@ TextBoxAdapter::TextBoxAdapter(controls::TextBox& box, QLineEdit& widget)
 void TextBoxAdapter::Update() {
     if (const QString text = Shown(box_.Text()); widget_.text() != text) widget_.setText(text);
     UpdateCommon(widget_, box_);
+    ShowFault();
+}
+
+void TextBoxAdapter::ShowFault() {
+    const bool faulty = !box_.fault->empty();
+    if (sign_ == nullptr && !faulty) return;
+    if (sign_ == nullptr)
+        sign_ = widget_.addAction(Icon("inputFault"), QLineEdit::TrailingPosition);
+    sign_->setVisible(faulty);
+    const QString fault = Shown(box_.fault.Get());
+    sign_->setToolTip(fault);
+    widget_.setAccessibleDescription(faulty ? fault : widget_.toolTip());
+    if (faulty) widget_.setToolTip(TooltipText(fault + "\n\n" + Shown(box_.tooltip.Get())));
 }
 
 CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)
@@ -37,16 +51,17 @@ void CheckBoxAdapter::Update() {
     UpdateCommon(widget_, box_);
 }
 
-OptionAdapter::OptionAdapter(controls::Option& option, QRadioButton& widget)
+OptionAdapter::OptionAdapter(controls::Option& option, QAbstractButton& widget)
     : option_(option), widget_(widget) {
-    QObject::connect(&widget_, &QRadioButton::clicked, [this] { option_.Press(); });
+    QObject::connect(&widget_, &QAbstractButton::clicked, [this] { option_.Press(); });
 }
 
-// Checking one option makes the toolkit uncheck the others.
+// Checking one option makes the toolkit uncheck the others. The Tab key goes to the checked one.
 void OptionAdapter::Update() {
     if (const QString text = MarkedText(option_, option_.caption); widget_.text() != text)
         widget_.setText(text);
     if (option_.Checked()) widget_.setChecked(true);
+    widget_.setFocusPolicy(option_.Checked() ? Qt::StrongFocus : Qt::ClickFocus);
     UpdateCommon(widget_, option_);
 }
 

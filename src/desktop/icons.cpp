@@ -32,7 +32,8 @@ int BusyStep(std::string_view name) {
 QString FileOf(const std::string& name) {
     InitialisePictures();
     if (name.starts_with(BusyName)) return ":/icons/busy.svg";
-    return ":/icons/" + Shown(name) + ".svg";
+    // A disabled button's picture is the other one, paled by the toolkit.
+    return ":/icons/" + Shown(name).replace("DisPic", "Pic") + ".svg";
 }
 
 // Colours of the pictures that the other schemes' backgrounds hide.

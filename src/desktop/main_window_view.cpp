@@ -65,8 +65,8 @@ void MainWindowView::BuildMenus() {
 
 // Whether the control opens a window that is not drawn yet.
 bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
-    const std::initializer_list<const controls::Control*> openers{
-        &form_.FileSaveData, &form_.SettingAlwaysOnTop, &form_.MHelpAbout, &form_.Show_Settings};
+    const std::initializer_list<const controls::Control*> openers{&form_.FileSaveData,
+                                                                  &form_.MHelpAbout};
     return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 
@@ -93,9 +93,7 @@ QHBoxLayout* MainWindowView::BuildButtons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Margin);
     for (controls::Button* button : {&form_.StartIt, &form_.StopIt, &form_.Show_Settings}) {
-        QPushButton* widget = maker_.Make(*button);
-        if (OpensNothingYet(*button)) Withhold(*widget);
-        row->addWidget(widget);
+        row->addWidget(maker_.Make(*button));
     }
     row->addWidget(maker_.Make(form_.BusySign));
     QLabel* speed = maker_.Make(form_.MeasSpeedInfo);

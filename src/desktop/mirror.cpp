@@ -38,7 +38,9 @@ bool Mirror::eventFilter(QObject* receiver, QEvent* event) {
     return QObject::eventFilter(receiver, event);
 }
 
+// Changes first: an adapter whose window appears adds others.
 void Mirror::ShowAll() {
+    Flush();
     for (const auto& [control, adapter] : adapters_) adapter->Update();
 }
 

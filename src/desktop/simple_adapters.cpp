@@ -95,10 +95,7 @@ bool ListWidget::event(QEvent* event) {
 }
 
 void ListWidget::wheelEvent(QWheelEvent* event) {
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
+    event->ignore();
 }
 
 ListAdapter::ListAdapter(controls::List& list, QComboBox& widget) : list_(list), widget_(widget) {

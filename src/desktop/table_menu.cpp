@@ -3,7 +3,6 @@
 
 #include <QMenu>
 
-#include "desktop/common.h"
 #include "ui/result_columns.h"
 
 namespace kelvra::desktop {
@@ -26,27 +25,25 @@ const controls::Grid::Cell* CellAt(GridWidget& table, int row, int column) {
     return row < 0 || column < 0 ? nullptr : &table.Record().At(row + 1, column);
 }
 
-void AddSensorEntries(QMenu& menu, GridWidget& table, int row, controls::Button& settings,
-                      bool settingsShown) {
+void AddSensorEntries(QMenu& menu, GridWidget& table, int row, controls::Button& settings) {
     const controls::Grid::Cell* name = CellAt(table, row, ui::NameColumn);
     if (name == nullptr || !name->checked) return;
     const QString sensor = "sensor " + QString::number(row + 1);
     menu.addSeparator();
     menu.addAction("&Switch " + sensor + (*name->checked ? " off" : " on"),
                    [&table, row] { table.Activate(row, ui::NameColumn); });
-    QAction* show = menu.addAction("Se&ttings of " + sensor + "...", [&table, &settings, row] {
+    menu.addAction("Se&ttings of " + sensor + "...", [&table, &settings, row] {
         table.Record().PressCell(row + 1, ui::NameColumn);
         settings.Press();
     });
-    if (!settingsShown) Withhold(*show);
 }
 
 }  // namespace
 
-void GiveResultMenu(GridWidget& table, controls::Button& settings, bool settingsShown) {
-    table.onMenu = [&table, &settings, settingsShown](int row, int, const QPoint& place) {
+void GiveResultMenu(GridWidget& table, controls::Button& settings) {
+    table.onMenu = [&table, &settings](int row, int, const QPoint& place) {
         QMenu* menu = MenuWithCopies(table);
-        AddSensorEntries(*menu, table, row, settings, settingsShown);
+        AddSensorEntries(*menu, table, row, settings);
         menu->popup(place);
     };
 }

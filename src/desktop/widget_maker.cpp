@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widget_maker.h"
 
+#include <QBoxLayout>
+#include <QRadioButton>
 #include <QShortcut>
-#include <QVBoxLayout>
 #include <memory>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "desktop/common.h"
 #include "desktop/entry_adapters.h"
 #include "desktop/grid_adapter.h"
+#include "desktop/page_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/simple_adapters.h"
 
@@ -70,17 +72,34 @@ QCheckBox* WidgetMaker::Make(controls::CheckBox& box) {
     return Mirrored<CheckBoxAdapter>(box, new QCheckBox);
 }
 
-QWidget* WidgetMaker::Make(controls::OptionGroup& group) {
+QWidget* WidgetMaker::Make(controls::OptionGroup& group, OptionLook look) {
     auto* widget = new QWidget;
     widget->setFocusPolicy(Qt::ClickFocus);  // a caption's mnemonic needs a focus policy
-    auto* layout = new QVBoxLayout(widget);
+    const bool column = look == OptionLook::Column;
+    auto* layout =
+        new QBoxLayout(column ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
     layout->setContentsMargins(0, 0, 0, 0);
-    QList<QRadioButton*> options;
-    for (int option = 0; option < group.Count(); ++option) {
-        options << new QRadioButton(widget);
-        layout->addWidget(Mirrored<OptionAdapter>(group.At(option), options.last()));
-    }
+    const QList<QAbstractButton*> options = look == OptionLook::Pages
+                                                ? MakeOptions<PageButton>(group)
+                                                : MakeOptions<QRadioButton>(group);
+    for (QAbstractButton* option : options) layout->addWidget(option);
+    if (look == OptionLook::Pages)
+        layout->setSpacing(0);
+    else if (!column)
+        layout->addStretch();
     return Mirrored<OptionGroupAdapter>(group, widget, options);
+}
+
+QList<QAbstractButton*> WidgetMaker::MakeOptions(controls::OptionGroup& group) {
+    return MakeOptions<QRadioButton>(group);
+}
+
+template <class Button>
+QList<QAbstractButton*> WidgetMaker::MakeOptions(controls::OptionGroup& group) {
+    QList<QAbstractButton*> options;
+    for (int option = 0; option < group.Count(); ++option)
+        options << Mirrored<OptionAdapter>(group.At(option), new Button);
+    return options;
 }
 
 QComboBox* WidgetMaker::Make(controls::List& list) {
@@ -99,6 +118,10 @@ QFrame* WidgetMaker::Make(const controls::Frame& frame) {
     return Mirrored<FrameAdapter>(frame, new QFrame);
 }
 
+QGroupBox* WidgetMaker::MakeGroup(const controls::Frame& frame) {
+    return Mirrored<FrameAdapter>(frame, new QGroupBox(Shown(frame.caption.Get())));
+}
+
 QWidget* WidgetMaker::MakeAny(controls::Control& control) {
     return controls::Visit(control, [this](auto& own) -> QWidget* {
         if constexpr (requires { this->Make(own); })
@@ -108,7 +131,7 @@ QWidget* WidgetMaker::MakeAny(controls::Control& control) {
     });
 }
 
-void WidgetMaker::AddRow(QGridLayout& rows, controls::Control& control) {
+QWidget* WidgetMaker::AddRow(QGridLayout& rows, controls::Control& control, QWidget* lead) {
     const controls::Field& field = *control.AsField();
     const int row = rows.rowCount();
     QWidget* editor = MakeAny(control);
@@ -116,9 +139,13 @@ void WidgetMaker::AddRow(QGridLayout& rows, controls::Control& control) {
         auto* caption = new QLabel;
         caption->setBuddy(editor);
         rows.addWidget(Mirrored<LabelAdapter>(*field.captionLabel, caption, &control), row, 0);
+    } else if (lead == nullptr) {
+        lead = new QLabel(Shown(control.access.name));
     }
+    if (lead != nullptr) rows.addWidget(lead, row, 0);
     rows.addWidget(editor, row, 1);
     if (field.unitLabel) rows.addWidget(Make(*field.unitLabel), row, 2);
+    return editor;
 }
 
 QAction* WidgetMaker::AddEntry(QMenu& menu, controls::MenuItem& item) {

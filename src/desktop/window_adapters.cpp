@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QResizeEvent>
 #include <QScreen>
-#include <QStyle>
 #include <algorithm>
 #include <utility>
 
@@ -59,26 +58,19 @@ void FrameWindowAdapter::Update() {
     const controls::Geometry& place = window_.place.Get();
     // A size that the user has given comes back as the record's, with the corner that it knows.
     if (!SameCorner(shown_, place))
-        widget_.setGeometry(OnScreen(place));
+        widget_.setGeometry(PlaceOf(place));
     else if (shown_ != place && widget_.size() != SizeOf(place))
-        widget_.resize(OnScreen(place).size());
+        widget_.resize(PlaceOf(place).size());
     shown_ = place;
     if (!before.isEmpty()) widget_.ShowAsBefore(std::exchange(before, {}));
     widget_.setVisible(window_.visible);
 }
 
-// The rules count from the corner of the screen's free part; on a small screen the window is moved
-// and cut to what is there, with room for its title bar.
-QRect FrameWindowAdapter::OnScreen(const controls::Geometry& place) const {
-    const QRect screen = widget_.screen()->availableGeometry();
-    const int title = widget_.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    QRect wanted(screen.topLeft() + QPoint(Pixels(place.left), Pixels(place.top)), SizeOf(place));
-    const bool tooHigh = wanted.height() + title > screen.height();
-    const QRect room = tooHigh ? screen.adjusted(0, title, 0, 0) : screen;
-    wanted.setSize(wanted.size().boundedTo(room.size()));
-    wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - wanted.width()));
-    wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - wanted.height()));
-    return wanted;
+// The rules count from the corner of the screen's free part.
+QRect FrameWindowAdapter::PlaceOf(const controls::Geometry& place) const {
+    const QPoint corner = widget_.screen()->availableGeometry().topLeft();
+    const QPoint shift(Pixels(place.left), Pixels(place.top));
+    return OnScreen({corner + shift, SizeOf(place)}, *widget_.screen(), widget_);
 }
 
 ChildWindow::ChildWindow(controls::Window& window, QMdiArea& area) : window_(window), area_(area) {

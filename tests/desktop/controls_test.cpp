@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QRadioButton>
 #include <QtTest>
 #include <functional>
 

@@ -12,6 +12,7 @@ std::unique_ptr<QObject> ControlsTests();
 std::unique_ptr<QObject> DialogsTests();
 std::unique_ptr<QObject> GridTests();
 std::unique_ptr<QObject> ProgramTests();
+std::unique_ptr<QObject> SetupDialogTests();
 
 }  // namespace kelvra::desktop
 
@@ -19,8 +20,8 @@ int main(int argc, char** argv) {
     using namespace kelvra::desktop;
     QApplication application(argc, argv);
     int failures = 0;
-    for (const auto& make :
-         {AccessibilityTests, ColoursTests, ControlsTests, DialogsTests, GridTests, ProgramTests})
+    for (const auto& make : {AccessibilityTests, ColoursTests, ControlsTests, DialogsTests,
+                             GridTests, ProgramTests, SetupDialogTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }

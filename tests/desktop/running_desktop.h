@@ -54,6 +54,12 @@ public:
         return *Main().findChild<Widget*>(name);
     }
     GridWidget& Results() { return Find<GridWidget>("ResultGrid"); }
+    // Once it has been shown.
+    QWidget& SetupDialog() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->windowTitle() == "Settings") return *window;
+        qFatal("There is no setup dialog.");
+    }
     QPushButton& Start() { return Find<QPushButton>("StartIt"); }
     void Click(const char* button) {
         QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QAction>
+#include <QRect>
+#include <QScreen>
 #include <QWidget>
 #include <string>
 
@@ -31,6 +33,10 @@ QString MarkedText(const controls::Control& control, const std::string& caption)
 
 // The widget's place stays as it is when it is hidden.
 void KeepRoom(QWidget& widget);
+
+// The place of a window, moved and cut to the free part of a screen that is too small, with room
+// for its title bar.
+QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window);
 
 // For a control that opens a window which this front end doesn't have yet: the widget or menu entry
 // stays disabled and says why. The record is not changed.

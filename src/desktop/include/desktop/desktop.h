@@ -2,6 +2,7 @@
 // The desktop front end: the whole program with Qt Widgets.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/kelvra.h"
@@ -11,6 +12,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_events.h"
 #include "desktop/result_window_view.h"
+#include "desktop/setup_dialog_view.h"
 #include "desktop/view_menu.h"
 
 namespace kelvra::desktop {
@@ -30,15 +32,18 @@ public:
 
 private:
     void Recolour();
+    DialogWindow& MakeSetupDialog();
     void KeepLook();
 
     QtEvents& events_;
+    forms::SetupForm& setup_;
     Preferences preferences_;
     Scheme shown_ = Scheme::Classic;
     Mirror mirror_;
     MainWindowView main_;
     ResultWindowView results_;
     ViewMenu view_;
+    std::optional<SetupDialogView> setupDialog_;
 };
 
 }  // namespace kelvra::desktop

@@ -2,9 +2,9 @@
 // Adapters of the controls in a form: text boxes, check boxes, groups of options.
 #pragma once
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QRadioButton>
 
 #include "controls/kinds.h"
 #include "controls/option_group.h"
@@ -13,15 +13,19 @@
 namespace kelvra::desktop {
 
 // Each letter is typed into the record; Enter, and leaving the control, commit. A text that is
-// being typed stays unless the record gets a different one.
+// being typed stays unless the record gets a different one. A text that can't be used gets a sign,
+// and the tooltip says why.
 class TextBoxAdapter final : public Adapter {
 public:
     TextBoxAdapter(controls::TextBox& box, QLineEdit& widget);
     void Update() override;
 
 private:
+    void ShowFault();
+
     controls::TextBox& box_;
     QLineEdit& widget_;
+    QAction* sign_ = nullptr;  // in the box; made for the first fault
 };
 
 class CheckBoxAdapter final : public Adapter {
@@ -34,29 +38,29 @@ private:
     QCheckBox& widget_;
 };
 
-// One option of a group; the options share a parent.
+// One option of a group; the options share a parent and exclude each other.
 class OptionAdapter final : public Adapter {
 public:
-    OptionAdapter(controls::Option& option, QRadioButton& widget);
+    OptionAdapter(controls::Option& option, QAbstractButton& widget);
     void Update() override;
 
 private:
     controls::Option& option_;
-    QRadioButton& widget_;
+    QAbstractButton& widget_;
 };
 
 // The widget that contains the options; the keyboard reaches the selected one.
 class OptionGroupAdapter final : public Adapter {
 public:
     OptionGroupAdapter(const controls::OptionGroup& group, QWidget& widget,
-                       QList<QRadioButton*> options)
+                       QList<QAbstractButton*> options)
         : group_(group), widget_(widget), options_(std::move(options)) {}
     void Update() override;
 
 private:
     const controls::OptionGroup& group_;
     QWidget& widget_;
-    QList<QRadioButton*> options_;
+    QList<QAbstractButton*> options_;
 };
 
 // Reports the widget's keys to the record, under their usual names, before the widget acts on them.

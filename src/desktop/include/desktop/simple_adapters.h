@@ -51,8 +51,8 @@ private:
 };
 
 // A list as wide as its entries, but no wider than 24 characters: it shows the two ends of a longer
-// entry. The wheel turns it only when it has the focus, since the pointer may pass over it while
-// the page scrolls.
+// entry. The wheel never changes the choice, since the pointer may be over it while the page
+// scrolls.
 class ListWidget final : public QComboBox {
 public:
     ListWidget();

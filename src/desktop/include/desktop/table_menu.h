@@ -9,9 +9,8 @@
 
 namespace kelvra::desktop {
 
-// Copies, switches the row's sensor, and shows its settings by pressing `settings`; `settingsShown`
-// says whether that window exists.
-void GiveResultMenu(GridWidget& table, controls::Button& settings, bool settingsShown);
+// Copies, switches the row's sensor, and shows its settings by pressing `settings`.
+void GiveResultMenu(GridWidget& table, controls::Button& settings);
 
 // Copies, edits, empties a cell, takes an edit back.
 void GiveFormulaMenu(GridWidget& table);

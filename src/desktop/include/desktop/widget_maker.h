@@ -4,21 +4,25 @@
 // what is special about them there.
 #pragma once
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include "controls/field.h"
 #include "desktop/grid_widget.h"
 #include "desktop/mirror.h"
 
 namespace kelvra::desktop {
+
+// How the options of a group are shown: as radio buttons, or as buttons that choose a page.
+enum class OptionLook { Column, Row, Pages };
 
 class WidgetMaker {
 public:
@@ -30,19 +34,24 @@ public:
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);
     QCheckBox* Make(controls::CheckBox& box);
-    QWidget* Make(controls::OptionGroup& group);  // options in a column
+    QWidget* Make(controls::OptionGroup& group, OptionLook look = OptionLook::Column);
+    // The options alone, for a page that puts other controls between them. They must get the same
+    // parent.
+    QList<QAbstractButton*> MakeOptions(controls::OptionGroup& group);
     QComboBox* Make(controls::List& list);
     GridWidget* Make(controls::Grid& grid);
     QLabel* Make(const controls::Picture& picture, int side = ToolIcon);
     QFrame* Make(const controls::Frame& frame);
+    QGroupBox* MakeGroup(const controls::Frame& frame);  // with its caption
 
     // By the control's kind. Null for windows, menu entries and options, which are no widgets of
     // their own, and for kinds that no window uses yet.
     QWidget* MakeAny(controls::Control& control);
 
     // Adds a row at the end: caption, editor and unit of the field, in columns of their own. The
-    // caption's mnemonic leads to the editor. The control must be a field.
-    void AddRow(QGridLayout& rows, controls::Control& control);
+    // caption's mnemonic leads to the editor. Where the field has no caption, `lead` takes
+    // its place, or else the control's name. The control must be a field. Returns the editor.
+    QWidget* AddRow(QGridLayout& rows, controls::Control& control, QWidget* lead = nullptr);
 
     // Also for a separator.
     QAction* AddEntry(QMenu& menu, controls::MenuItem& item);
@@ -50,6 +59,8 @@ public:
     static constexpr int ToolIcon = 28;
 
 private:
+    template <class Button>
+    QList<QAbstractButton*> MakeOptions(controls::OptionGroup& group);
     template <class AdapterKind, class Own, class Widget, class... More>
     Widget* Mirrored(Own& control, Widget* widget, More&&... more);
 

@@ -47,7 +47,7 @@ public:
     QByteArray before;  // the geometry of an earlier run; used once
 
 private:
-    QRect OnScreen(const controls::Geometry& place) const;
+    QRect PlaceOf(const controls::Geometry& place) const;
 
     const controls::Window& window_;
     FrameWindow& widget_;

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+#include "desktop/running_desktop.h"
+
+namespace kelvra::desktop {
+
+class SetupDialogTest : public QObject {
+    Q_OBJECT
+
+    // The program with its setup dialog open.
+    struct Opened : RunningDesktop {
+        explicit Opened(const QTemporaryDir& data) : RunningDesktop(data) {
+            Click("Show_Settings");
+            Painted();
+        }
+        template <class Widget>
+        Widget& In(const char* name) {
+            return *SetupDialog().findChild<Widget*>(name);
+        }
+        forms::SetupForm& Form() { return kelvra.forms.setupForm; }
+        sensors::SensorSettings& Settings() { return kelvra.table[0].settings; }
+        void Painted() {
+            desktop.Painter().Flush();
+            QCoreApplication::processEvents();
+        }
+        // Names of the controls that the Tab key goes through, from the sensor list on.
+        QStringList Visited() {
+            QApplication::setActiveWindow(&SetupDialog());
+            QWidget* first = &In<QComboBox>("SensSelect");
+            first->setFocus();
+            QStringList names;
+            do {
+                names << QApplication::focusWidget()->objectName();
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            } while (names.size() < 100 && QApplication::focusWidget() != first);
+            return names;
+        }
+    };
+
+    static void CollectUsable(controls::Control& control, QStringList& names) {
+        const bool focusable = dynamic_cast<controls::Focusable*>(&control) != nullptr ||
+                               control.GetKind() == controls::Kind::List;
+        const auto* option = dynamic_cast<const controls::Option*>(&control);
+        const bool chosen = option == nullptr || option->Checked();
+        if (focusable && chosen && control.EffectivelyEnabled() && control.EffectivelyVisible())
+            names << QString::fromStdString(control.Name());
+        for (controls::Control* child : control.Children()) CollectUsable(*child, names);
+    }
+
+private slots:
+    void TheTabKeyReachesWhateverCanBeUsedOnEachPage() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        for (const std::int32_t mode : {0, 1, 2, 3, 4}) {
+            opened.Form().SensMode.Choose(opened.Form().SensMode.IndexOfData(mode));
+            for (int page = 0; page < 5; ++page) {
+                opened.Form().PageSelect.Select(page);
+                opened.Painted();
+                QStringList usable;
+                CollectUsable(opened.Form(), usable);
+                QStringList visited = opened.Visited();
+                usable.sort();
+                visited.sort();
+                // Commands without a view yet.
+                for (const char* command : {"SensorZero", "cmdZeroAll", "SensSelfTest", "SensInfo"})
+                    usable.removeAll(command);
+                QCOMPARE(visited, usable);
+            }
+        }
+    }
+
+    void WhatIsTypedIsStoredAndATextThatIsNoNumberGetsASign() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        opened.Form().PageSelect.Select(1);
+        opened.Painted();
+        auto& box = opened.In<QLineEdit>("SensContAVTime");
+        const struct {
+            const char* typed;
+            double stored;
+            bool faulty;
+        } cases[] = {{"12", 0.012, false}, {"12x", 0.012, true}, {"3", 0.003, false}};
+        for (const auto& c : cases) {
+            box.selectAll();
+            QTest::keyClicks(&box, c.typed);
+            opened.Painted();
+            QCOMPARE(opened.Settings().ContAVAper, c.stored);
+            const QList<QAction*> signs = box.actions();
+            const bool marked = !signs.isEmpty() && signs.first()->isVisible();
+            QCOMPARE(marked, c.faulty);
+            const std::string& fault = opened.Form().SensContAVTime.fault;
+            QCOMPARE(c.faulty && box.toolTip().contains(fault.c_str()), c.faulty);
+        }
+    }
+
+    void TheWheelChangesNothing() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        const sensors::SensorSettings before = opened.Settings();
+        for (QWidget* widget : opened.SetupDialog().findChildren<QWidget*>()) {
+            widget->setFocus();
+            QWheelEvent turn({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                             Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &turn);
+        }
+        QVERIFY(opened.Settings() == before);
+        QCOMPARE(opened.Form().PageSelect.Selected(), 0);
+    }
+
+    void TheDialogIsHiddenAndComesBackWhereItWas() {
+        const QTemporaryDir data;
+        QPoint place;
+        for (const bool first : {true, false}) {
+            Opened opened(data);
+            QWidget& dialog = opened.SetupDialog();
+            const QRect screen = dialog.screen()->availableGeometry();
+            QVERIFY(screen.contains(dialog.geometry()));
+            if (!first) QCOMPARE(dialog.pos(), place);
+            place = dialog.pos() - QPoint(first ? 40 : 0, 0);
+            dialog.move(place);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            opened.Painted();
+            QVERIFY(!dialog.isVisible() && !opened.Form().visible);
+            opened.Click("Show_Settings");
+            opened.Painted();
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(dialog.pos(), place);
+        }
+    }
+
+    void TheMenuLetsTheDialogStayOnTopOrNot() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        const QPoint place = opened.SetupDialog().pos();
+        for (const bool onTop : {true, false, true}) {
+            const QWindow* above = opened.SetupDialog().windowHandle()->transientParent();
+            QCOMPARE(above == opened.Main().windowHandle(), onTop);
+            QVERIFY(opened.SetupDialog().isVisible());
+            QCOMPARE(opened.SetupDialog().pos(), place);
+            opened.kelvra.forms.mdiMain.SettingAlwaysOnTop.Press();
+            opened.Painted();
+        }
+    }
+};
+
+std::unique_ptr<QObject> SetupDialogTests() {
+    return std::make_unique<SetupDialogTest>();
+}
+
+}  // namespace kelvra::desktop
+
+#include "setup_dialog_test.moc"
