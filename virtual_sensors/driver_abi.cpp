@@ -39,6 +39,7 @@ int32_t SetTwo(Operation operation, uint32_t h, int32_t ch, Setting first, doubl
 Outcome FindResult(VirtualBench& bench, Channel& channel, bool asArray) {
     Measurement& measurement = channel.measurement;
     if (!measurement.Complete(*channel.sensor, bench.Now())) return {Status::NoResult};
+    if (measurement.Conflict() != Status::Ok) return {measurement.Conflict()};
     if (GivesArray(measurement.ResultMode()) == asArray) return {};
     return {asArray ? Status::NoArrayResult : Status::NoScalarResult};
 }

@@ -6,10 +6,13 @@
 #include <cmath>
 #include <numbers>
 
+#include "conflicts.h"
+
 namespace kelvra::virtual_sensors {
 namespace {
 
 constexpr double MaxCount = 65536;
+constexpr double RefusalTime = 0.01;       // s
 constexpr double BurstLength = 1e-3;       // s
 constexpr double FrequencySlope = 0.02;    // dB per decade above 50 MHz
 constexpr double OwnReflection = 0.05;     // of the sensor's input, at 0 degrees
@@ -38,8 +41,6 @@ constexpr AveragingSettings OfTraces{Setting::psdrv_scope_setAverageEnabled,
                                      Setting::psdrv_scope_setAutoMaxMeasuringTime,
                                      Setting::psdrv_scope_setAverageCount};
 
-enum class TriggerSource : uint8_t { Single, External, Hold, Immediate, Internal };
-
 int32_t PointCount(const SettingValues& settings) {
     switch (ModeOf(settings)) {
         case Mode::Buffered:
@@ -56,7 +57,7 @@ int32_t PointCount(const SettingValues& settings) {
 // When the trigger comes; nothing if it never does, or is given by software.
 std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSensor& sensor,
                                   const Scenario& scenario, double now) {
-    switch (static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource])) {
+    switch (SourceOf(settings)) {
         case TriggerSource::Immediate:
             return now;
         case TriggerSource::External: {
@@ -72,7 +73,7 @@ std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSe
 }
 
 bool AwaitsSoftware(const SettingValues& settings) {
-    const auto source = static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource]);
+    const TriggerSource source = SourceOf(settings);
     return source == TriggerSource::Single || source == TriggerSource::Hold;
 }
 
@@ -93,6 +94,10 @@ bool SettingValues::Set(Setting setting, double value) {
 
 Mode ModeOf(const SettingValues& settings) {
     return static_cast<Mode>(settings[Setting::psdrv_chan_mode]);
+}
+
+TriggerSource SourceOf(const SettingValues& settings) {
+    return static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource]);
 }
 
 bool GivesArray(Mode mode) {
@@ -166,6 +171,11 @@ void Measurement::Start(const SettingValues& settings, const VirtualSensor& sens
     readyAt_ = TriggerTime(settings, sensor, scenario, now);
     if (readyAt_) *readyAt_ += afterTrigger_;
     resultW_.clear();
+    conflict_ = FindConflict(settings, sensor.Kind());
+    if (conflict_ != Status::Ok) {
+        awaitsSoftware_ = false;
+        readyAt_ = now + scenario.fixedDuration.value_or(RefusalTime);
+    }
 }
 
 void Measurement::Trigger(double now) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "scenario.h"
+#include "status.h"
 #include "virtual_sensor.h"
 
 namespace kelvra::virtual_sensors {
@@ -32,6 +33,9 @@ enum class Mode : uint8_t { Average, Buffered, Slots, Burst, Trace };
 Mode ModeOf(const SettingValues& settings);
 bool GivesArray(Mode mode);
 
+enum class TriggerSource : uint8_t { Single, External, Hold, Immediate, Internal };
+TriggerSource SourceOf(const SettingValues& settings);
+
 // How often each value is averaged, 1 to 65536: the set number, or as often as the wanted noise
 // needs and the settling-time limit allows.
 int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor);
@@ -54,11 +58,16 @@ public:
     // Whether the measurement has ended. The first call that finds it ended draws the result.
     bool Complete(VirtualSensor& sensor, double now);
 
+    // Why the settings give no result: they exclude each other. Such a measurement ends soon after
+    // its start, without a trigger.
+    Status Conflict() const { return conflict_; }
+
     // Empty until Complete has returned true.
     const std::vector<double>& ResultW() const { return resultW_; }
     Mode ResultMode() const { return mode_; }
 
 private:
+    Status conflict_ = Status::Ok;
     bool awaitsSoftware_ = false;
     std::optional<double> readyAt_;  // nothing: not started, or not yet triggered
     double afterTrigger_ = 0;        // s from the trigger to the result

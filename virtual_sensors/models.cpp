@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models.h"
 
+#include <cmath>
+
 namespace kelvra::virtual_sensors {
 namespace {
 
@@ -20,6 +22,15 @@ constexpr Model Models[] = {
 constexpr Model Other{"", 0x004, false, -67, 23};
 
 }  // namespace
+
+bool Model::Measures(double levelDbm) const {
+    constexpr double roundingDb = 1e-9;
+    return levelDbm > smallestDbm - roundingDb && levelDbm < largestDbm + roundingDb;
+}
+
+double DbmOf(double powerW) {
+    return 10 * std::log10(powerW) + 30;
+}
 
 const Model& ModelOf(std::string_view type) {
     for (const Model& model : Models) {

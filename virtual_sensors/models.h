@@ -13,7 +13,12 @@ struct Model {
     bool timeResolving;  // offers all modes, the others only the continuous average
     double smallestDbm;
     double largestDbm;
+
+    // The two limits are in the range, also with a rounding error.
+    bool Measures(double levelDbm) const;
 };
+
+double DbmOf(double powerW);
 
 // A type that is not in the table is imitated as an average-only sensor with product id 0x004.
 const Model& ModelOf(std::string_view type);

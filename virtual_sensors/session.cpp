@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace kelvra::virtual_sensors {
 namespace {
@@ -12,6 +13,12 @@ std::string ShortText(double value) {
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     return {digits.data(), end};
+}
+
+std::string LevelText(double powerW, const Model& model) {
+    const double shownDbm = std::round(DbmOf(powerW) * 100) / 100;
+    return ShortText(shownDbm) + " dBm is not within " + ShortText(model.smallestDbm) + " to " +
+           ShortText(model.largestDbm) + " dBm";
 }
 
 // Takes the text before the next "::" off the front, or all of it if there is no "::".
@@ -35,8 +42,12 @@ std::optional<uint32_t> HexNumber(std::string_view text) {
 }  // namespace
 
 Outcome Channel::Set(Setting setting, double value) {
-    const bool offered = sensor->Kind().timeResolving || setting != Setting::psdrv_chan_mode;
+    const Model& model = sensor->Kind();
+    const bool offered = model.timeResolving || setting != Setting::psdrv_chan_mode;
     if (!offered && value != 0) return {Status::ModeNotOffered, sensor->Plan().type};
+    const bool isLevel = setting == Setting::psdrv_trigger_setLevel && value >= 0;
+    if (isLevel && model.timeResolving && !model.Measures(DbmOf(value)))
+        return {Status::LevelOutOfRange, LevelText(value, model)};
     if (settings.Set(setting, value)) return {};
     const SettingLimits& limits = LimitsOf(setting);
     return {Status::ValueOutOfRange, ShortText(value) + " is not within " +

@@ -25,6 +25,12 @@ constexpr struct {
     {Status::MissingPointer, "A pointer for text or result is missing"},
     {Status::TooManySessions, "Too many open sessions"},
     {Status::InternalFailure, "Internal failure of the virtual sensors"},
+    {Status::LevelOutOfRange, "Trigger level outside the sensor's range"},
+    {Status::NothingLeftOfSlot, "Excluded times leave nothing of the time slot"},
+    {Status::FrameTooLong, "Time slots are together longer than 10 s"},
+    {Status::PointsTooClose, "Trace points are closer than 10 ns"},
+    {Status::TraceTooEarly, "Trace begins more than 5 s before the trigger"},
+    {Status::HysteresisTooLarge, "Trigger hysteresis reaches beyond the sensor's range"},
 };
 
 }  // namespace

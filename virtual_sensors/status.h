@@ -23,6 +23,12 @@ enum class Status : int32_t {
     MissingPointer = -2012,
     TooManySessions = -2013,
     InternalFailure = -2014,
+    LevelOutOfRange = -2015,
+    NothingLeftOfSlot = -2016,
+    FrameTooLong = -2017,
+    PointsTooClose = -2018,
+    TraceTooEarly = -2019,
+    HysteresisTooLarge = -2020,
 };
 
 // A code that is not in the table gives "Unknown status" and its number.

@@ -5,24 +5,13 @@
 
 namespace kelvra::controls {
 
-namespace {
-
-std::vector<OptionMember> Numbered(const std::string& name,
-                                   const std::vector<std::string>& captions) {
-    std::vector<OptionMember> members;
-    members.reserve(captions.size());
-    for (const std::string& caption : captions)
-        members.push_back({name + "(" + std::to_string(members.size()) + ")", caption});
-    return members;
-}
-
-}  // namespace
-
 Option::Option(OptionGroup& group, int number, OptionMember member)
-    : Focusable(Kind::Option, group, std::move(member.name), {.helpTopic = member.helpTopic}),
+    : Focusable(Kind::Option, group, std::move(member.name), std::move(member.access)),
       caption(*this, std::move(member.caption)),
       group_(group),
-      number_(number) {}
+      number_(number) {
+    tooltip = std::move(member.tooltip);
+}
 
 bool Option::Checked() const {
     return group_.Selected() == number_;
@@ -31,10 +20,6 @@ bool Option::Checked() const {
 void Option::Press() {
     group_.Select(number_);
 }
-
-OptionGroup::OptionGroup(Control& parent, const std::string& name,
-                         const std::vector<std::string>& captions)
-    : OptionGroup(parent, name, Numbered(name, captions)) {}
 
 OptionGroup::OptionGroup(Control& parent, std::string name, std::vector<OptionMember> members)
     : Control(Kind::OptionGroup, parent, std::move(name)) {

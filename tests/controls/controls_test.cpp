@@ -5,6 +5,7 @@
 #include "controls/kinds.h"
 #include "controls/list.h"
 #include "controls/option_group.h"
+#include "controls/range.h"
 
 namespace kelvra::controls {
 namespace {
@@ -14,7 +15,7 @@ struct Sample : Window {
 
     TextBox text{*this, "text"};
     CheckBox check{*this, "check", "Check"};
-    OptionGroup options{*this, "options", std::vector<std::string>{"a", "b", "c"}};
+    OptionGroup options{*this, "options", {{"a", "A"}, {"b", "B"}, {"c", "C"}}};
     List list{*this, "list", {{"x", 7}, {"y", 8}, {"z", 9}}, 0};
     Grid grid{*this, "grid", 2, 2};
 };
@@ -113,6 +114,21 @@ TEST_F(Controls, OptionIsReachedAndMarkedAloneAndThroughItsGroup) {
     EXPECT_TRUE(option.Checked() && !group.At(0).Checked());
     group.PressKey("F2");
     EXPECT_EQ(keys, "F2");
+}
+
+TEST(Range, IsASentenceInTheUnitOrInWhatIsCounted) {
+    const struct {
+        Range range;
+        const char* unit;
+        const char* sentence;
+    } cases[] = {
+        {{}, "dB", ""},
+        {{0, 100}, "%", "Range: 0 to 100 %."},
+        {{1, 1024, "points"}, "", "Range: 1 to 1024 points."},
+        {{-0.5}, "s", "Range: at least -0.5 s."},
+        {{0, Range::Unlimited, "", true}, "ms", "Range: more than 0 ms."},
+    };
+    for (const auto& c : cases) EXPECT_EQ(RangeSentence(c.range, c.unit), c.sentence);
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 
 #include <set>
 
+#include "controls/visit.h"
+
 namespace kelvra::forms {
 namespace {
 
@@ -38,6 +40,34 @@ TEST(Forms, EverythingInTheMainWindowAndTheTableExplainsItself) {
     Forms forms;
     ExpectExplained(forms.mdiMain);
     ExpectExplained(forms.statusForm);
+}
+
+// What a screen reader says for it.
+std::string NameOf(const controls::Control& control) {
+    const controls::Field* field = control.AsField();
+    if (field != nullptr && field->captionLabel) return field->captionLabel->caption;
+    const std::string caption = controls::Visit(control, [](const auto& own) -> std::string {
+        if constexpr (requires { own.caption; })
+            return own.caption;
+        else
+            return {};
+    });
+    return caption.empty() ? control.access.name : caption;
+}
+
+void ExpectNamedAndExplained(const controls::Control& control) {
+    if (dynamic_cast<const controls::Focusable*>(&control) != nullptr) {
+        const std::string& explanation = control.access.explanation;
+        const bool saysMore = !explanation.empty() && !explanation.starts_with("Range:");
+        EXPECT_NE(!control.tooltip->empty(), saysMore) << control.Name();
+        EXPECT_NE(NameOf(control), "") << control.Name();
+    }
+    for (const controls::Control* child : control.Children()) ExpectNamedAndExplained(*child);
+}
+
+TEST(Forms, WhatTakesTheFocusInTheSetupDialogHasANameAndSaysWhatItDoes) {
+    Forms forms;
+    ExpectNamedAndExplained(forms.setupForm);
 }
 
 TEST(Forms, FindTellsFoundFromUnknown) {

@@ -190,7 +190,7 @@ private slots:
 
     void ArrowKeysChooseAmongTheOptionsThatCanBeUsed() {
         Room room;
-        controls::OptionGroup group(room.window, "G", {"one", "two", "three"});
+        controls::OptionGroup group(room.window, "G", {{"a", "one"}, {"b", "two"}, {"c", "three"}});
         Page page(room);
         group.At(1).enabled = false;
         group.At(1).tooltip = "not now";

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <cmath>
 
 #include "support/whole_kelvra.h"
 
@@ -92,6 +92,28 @@ TEST_F(SetupDialogTest, WhatIsTypedIsStoredInTheUnitOfTheSetting) {
     Form().SensAvgCount.Type("3000000000");
     EXPECT_FALSE(Form().SensAvgCount.fault->empty());
     EXPECT_EQ(Settings().AvgManCount, sensors::DefaultSettings().AvgManCount);
+}
+
+TEST_F(SetupDialogTest, BothEndsOfARangeCanBeStored) {
+    const auto type = [this](controls::TextField& field, double number, const SetupRow& row) {
+        const std::string text = util::TrimmedNumberText(number);
+        field.Type(text);
+        EXPECT_EQ(field.fault.Get(), "") << field.Name() << ' ' << text;
+        const double stored = std::visit(
+            [this](auto member) { return static_cast<double>(Settings().*member); }, row.member);
+        EXPECT_EQ(ShownText(stored, row), ShownText(number / row.unit.shown * row.unit.stored, row))
+            << field.Name();
+    };
+    int known = 0;
+    for (const SetupRow& row : SetupRows()) {
+        const auto* member = std::get_if<controls::TextField forms::SetupForm::*>(&row.field);
+        if (member == nullptr || !(Form().**member).range.Known()) continue;
+        controls::TextField& field = Form().**member;
+        ++known;
+        type(field, field.range.least, row);
+        if (std::isfinite(field.range.most)) type(field, field.range.most, row);
+    }
+    EXPECT_GT(known, 20);
 }
 
 TEST_F(SetupDialogTest, ASlotCountBelowOneBecomesOneAndTheSlotsAreListed) {

@@ -115,6 +115,10 @@ TEST_F(LibrariesTest, RefuseSettingsAndSayWhyOnce) {
               "psdrv_avg_setCount, channel 1: 0 is not within 1 to 65536");
     EXPECT_EQ(Query(Status::Ok), "No error");
     EXPECT_EQ(Call("psdrv_chan_mode", h, 2, 2), Code(Status::ModeNotOffered));
+    EXPECT_EQ(Query(Status::ModeNotOffered), "psdrv_chan_mode, channel 2: PS-102");
+    EXPECT_EQ(Call("psdrv_trigger_setLevel", h, 1, 1e-11), Code(Status::LevelOutOfRange));
+    EXPECT_EQ(Query(Status::LevelOutOfRange),
+              "psdrv_trigger_setLevel, channel 1: -80 dBm is not within -67 to 23 dBm");
 }
 
 TEST_F(LibrariesTest, AgreeOnWhatIsConnected) {

@@ -72,6 +72,46 @@ TEST(Measurement, CompletesAfterItsTriggerOnly) {
     }
 }
 
+TEST(Measurement, OfSettingsThatExcludeEachOtherEndsSoonAndSaysWhy) {
+    using S = Setting;
+    const struct {
+        Changes changes;
+        Status conflict;
+    } cases[] = {
+        {{{S::psdrv_chan_mode, 2}, {S::ExcludeStart, 6e-4}, {S::ExcludeStop, 4e-4}},
+         Status::NothingLeftOfSlot},
+        {{{S::psdrv_chan_mode, 2}, {S::ExcludeStart, 6e-4}, {S::ExcludeStop, 3e-4}}, Status::Ok},
+        {{{S::ExcludeStart, 6e-4}, {S::ExcludeStop, 4e-4}}, Status::Ok},  // in another mode
+        {{{S::psdrv_chan_mode, 2}, {S::SlotCount, 11}, {S::SlotWidth, 1}}, Status::FrameTooLong},
+        {{{S::psdrv_chan_mode, 4}, {S::psdrv_scope_setTime, 1e-6}}, Status::PointsTooClose},
+        {{{S::psdrv_chan_mode, 4},
+          {S::psdrv_scope_setOffsetTime, -4},
+          {S::psdrv_trigger_setDelay, -2}},
+         Status::TraceTooEarly},
+        {{{S::psdrv_trigger_setSource, 4}, {S::psdrv_trigger_setHysteresis, 20}}, Status::Ok},
+        {{{S::psdrv_trigger_setSource, 4},
+          {S::psdrv_trigger_setHysteresis, 10},
+          {S::psdrv_trigger_setLevel, 1e-9}},
+         Status::HysteresisTooLarge},
+        {{{S::psdrv_trigger_setSource, 4},
+          {S::psdrv_trigger_setHysteresis, 20},
+          {S::psdrv_trigger_setSlope, 1},
+          {S::psdrv_trigger_setLevel, 0.01}},
+         Status::HysteresisTooLarge},
+    };
+    const Scenario scenario = OneSensor("0 dB");
+    for (const auto& [changes, conflict] : cases) {
+        VirtualSensor sensor(scenario, 0);
+        Measurement measurement;
+        SettingValues settings = With(changes);
+        measurement.Start(settings, sensor, scenario, 1);
+        EXPECT_EQ(measurement.Conflict(), conflict) << MessageOf(static_cast<int32_t>(conflict));
+        settings.Set(S::psdrv_trigger_setSource, 1);  // which never comes
+        measurement.Start(settings, sensor, scenario, 1);
+        EXPECT_EQ(measurement.Complete(sensor, 1.02), measurement.Conflict() != Status::Ok);
+    }
+}
+
 TEST(Noise, FallsWithTheSquareRootOfTheAveraging) {
     VirtualSensor sensor(OneSensor("1 uW"), 0);
     for (const double count : {1.0, 100.0}) {

@@ -13,7 +13,7 @@ struct Access {
     char mnemonic = 0;          // the underlined letter of its caption or name; 0: none
     std::string shortcut{};     // "Ctrl+O", "F5"
     int helpTopic = 0;          // of the help file; 0: none
-    std::string explanation{};  // what it is and does, where it has no tooltip of the rules'
+    std::string explanation{};  // what it is and does, where no tooltip says so; a field's range
 };
 
 // Where the mnemonic is in the text: at the start of a word if one begins with it, else at its

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A field: an editing control together with its caption and unit. Help topic and tooltip are those
-// of every control. The rules use a field as the text box, list ... that it is; front ends lay its
-// parts out in a row.
+// A field: an editing control together with its caption, its unit and the range of its numbers.
+// Help topic and tooltip are those of every control. The rules use a field as the text box, list
+// ... that it is; front ends lay its parts out in a row.
 #pragma once
 
 #include <optional>
@@ -11,6 +11,7 @@
 #include "controls/kinds.h"
 #include "controls/list.h"
 #include "controls/option_group.h"
+#include "controls/range.h"
 
 namespace kelvra::controls {
 
@@ -19,17 +20,23 @@ struct FieldParts {
     std::string caption{};  // empty: no label; the control's text or the row's label serves
     std::string unit{};     // empty: none
     int helpTopic = 0;
+    std::string tooltip{};
+    Range range{};              // in the unit
+    std::string name{};         // what it is, if it has no caption
+    std::string explanation{};  // if it has no tooltip
 };
 
 class Field {
 public:
-    Field(Control& parent, const FieldParts& parts) {
-        if (!parts.caption.empty()) captionLabel.emplace(parent, parts.label, parts.caption);
-        if (!parts.unit.empty()) unitLabel.emplace(parent, parts.label + "Unit", parts.unit);
-    }
+    Field(Control& parent, const FieldParts& parts);
 
     std::optional<Label> captionLabel;
     std::optional<Label> unitLabel;
+    const Range range;
+
+protected:
+    // The explanation ends with the range.
+    static void Describe(Control& editor, const FieldParts& parts);
 };
 
 template <class Editor>
@@ -39,7 +46,7 @@ public:
     template <class... Own>
     FieldOf(Control& parent, const std::string& name, const FieldParts& parts, Own&&... own)
         : Editor(parent, name, std::forward<Own>(own)...), Field(parent, parts) {
-        this->access.helpTopic = parts.helpTopic;
+        Describe(*this, parts);
     }
 
     const Field* AsField() const override { return this; }

@@ -17,7 +17,8 @@ class OptionGroup;
 struct OptionMember {
     std::string name;
     std::string caption;
-    int helpTopic = 0;
+    Access access{};
+    std::string tooltip{};
 };
 
 class Option : public Focusable {
@@ -36,9 +37,6 @@ private:
 
 class OptionGroup : public Control {
 public:
-    // Members named NAME(0), NAME(1), ...
-    OptionGroup(Control& parent, const std::string& name, const std::vector<std::string>& captions);
-    // Members with names of their own.
     OptionGroup(Control& parent, std::string name, std::vector<OptionMember> members);
 
     int Count() const { return static_cast<int>(options_.size()); }
