@@ -12,6 +12,7 @@ namespace kelvra::desktop {
 
 namespace {
 constexpr int TwipsPerPixel = 15;
+constexpr int OneLine = 80;  // characters
 constexpr const char* OwnTooltip = "ownTooltip";
 constexpr const char* IsWithheld = "withheld";
 constexpr const char* Later = "This window comes with a later version";
@@ -29,11 +30,22 @@ void UpdateCommon(QWidget& widget, const controls::Control& control) {
     // A widget outside a window would be shown as a window; it becomes visible once it is in one.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.visible) widget.setVisible(control.visible);
-    QString tooltip = control.tooltip->empty() ? widget.property(OwnTooltip).toString()
-                                               : Shown(control.tooltip.Get());
-    if (Qt::mightBeRichText(tooltip)) tooltip = TooltipText(tooltip);
-    if (widget.toolTip() != tooltip) widget.setToolTip(tooltip);
+    ShowTooltip(widget, TooltipOf(widget, control));
     UpdateColours(widget, control);
+}
+
+QString TooltipOf(const QWidget& widget, const controls::Control& control) {
+    const QString own = widget.property(OwnTooltip).toString();
+    if (control.tooltip->empty()) return own;
+    const QString text = Shown(control.tooltip.Get()).replace("\r\n", "\n");
+    return own.isEmpty() ? text : text + '\n' + own;
+}
+
+void ShowTooltip(QWidget& widget, const QString& text) {
+    if (widget.accessibleDescription() == text) return;
+    widget.setAccessibleDescription(text);
+    const bool oneLine = text.size() < OneLine && !text.contains('\n');
+    widget.setToolTip(oneLine && !Qt::mightBeRichText(text) ? text : TooltipText(text));
 }
 
 QString TooltipText(const QString& text) {

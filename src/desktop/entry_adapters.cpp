@@ -30,10 +30,10 @@ void TextBoxAdapter::ShowFault() {
     if (sign_ == nullptr)
         sign_ = widget_.addAction(Icon("inputFault"), QLineEdit::TrailingPosition);
     sign_->setVisible(faulty);
+    if (!faulty) return;
     const QString fault = Shown(box_.fault.Get());
     sign_->setToolTip(fault);
-    widget_.setAccessibleDescription(faulty ? fault : widget_.toolTip());
-    if (faulty) widget_.setToolTip(TooltipText(fault + "\n\n" + Shown(box_.tooltip.Get())));
+    ShowTooltip(widget_, fault + "\n\n" + TooltipOf(widget_, box_));
 }
 
 CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)

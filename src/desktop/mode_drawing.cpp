@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <span>
 
-#include "desktop/schemes.h"
+#include "desktop/common.h"
 
 namespace kelvra::desktop {
 
@@ -221,8 +221,7 @@ constexpr int Lines = 6;
 ModeDrawing::ModeDrawing(std::int32_t mode)
     : mode_(std::clamp<std::int32_t>(mode, 0, static_cast<int>(std::size(Drawings)) - 1)) {
     setAccessibleName("Drawing of the mode's times");
-    setAccessibleDescription(Drawings[mode_].about);
-    setToolTip(Drawings[mode_].about);
+    ShowTooltip(*this, Drawings[mode_].about);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

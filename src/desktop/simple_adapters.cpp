@@ -89,7 +89,8 @@ void ListWidget::paintEvent(QPaintEvent*) {
 bool ListWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || currentText().isEmpty()) return QComboBox::event(event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
-    const QString text = currentText() + (toolTip().isEmpty() ? "" : "\n\n" + toolTip());
+    const QString about = accessibleDescription();
+    const QString text = currentText() + (about.isEmpty() ? "" : "\n\n" + about);
     QToolTip::showText(help.globalPos(), TooltipText(text), this);
     return true;
 }

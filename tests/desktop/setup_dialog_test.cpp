@@ -73,6 +73,17 @@ private slots:
         }
     }
 
+    void AScreenReaderHasANameForEachControl() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        for (QWidget* widget : opened.SetupDialog().findChildren<QWidget*>()) {
+            const bool entry = qobject_cast<QLineEdit*>(widget) != nullptr ||
+                               qobject_cast<QComboBox*>(widget) != nullptr;
+            if (entry)
+                QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
+        }
+    }
+
     void WhatIsTypedIsStoredAndATextThatIsNoNumberGetsASign() {
         const QTemporaryDir data;
         Opened opened(data);

@@ -24,7 +24,12 @@ void UpdateCommon(QWidget& widget, const controls::Control& control);
 // A text for a tooltip: nothing in it is taken for markup, and long lines are wrapped.
 QString TooltipText(const QString& text);
 
-// The tooltip to show while the control has none.
+// What the control's tooltip says, and below it what the widget's own does.
+QString TooltipOf(const QWidget& widget, const controls::Control& control);
+// For the mouse and for screen readers.
+void ShowTooltip(QWidget& widget, const QString& text);
+
+// The tooltip to show after the control's.
 void SetOwnTooltip(QWidget& widget, const QString& text);
 
 // The control's caption, or its name if it has none, with the mnemonic marked as the toolkit

@@ -111,12 +111,7 @@ struct MDIMain : Window {
                          {.name = "Settings",
                           .mnemonic = 'e',
                           .explanation = "Shows the settings of the current sensor."}};
-    List SensSyncMode{
-        MainTools,
-        "SensSyncMode",
-        {},
-        -1,
-        {.name = "Synchronisation", .explanation = "How the sensors' measurements are timed."}};
+    List SensSyncMode{MainTools, "SensSyncMode", {}, -1, {.name = "Synchronisation"}};
     Picture BusySign{
         MainTools,
         "BusySign",
