@@ -45,10 +45,10 @@ TEST(Forms, EverythingInTheMainWindowAndTheTableExplainsItself) {
 // What a screen reader says for it.
 std::string NameOf(const controls::Control& control) {
     const controls::Field* field = control.AsField();
-    if (field != nullptr && field->captionLabel) return field->captionLabel->caption;
+    if (field != nullptr && field->captionLabel) return field->captionLabel->caption.Get();
     const std::string caption = controls::Visit(control, [](const auto& own) -> std::string {
         if constexpr (requires { own.caption; })
-            return own.caption;
+            return own.caption.Get();
         else
             return {};
     });
