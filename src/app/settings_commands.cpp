@@ -17,9 +17,9 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   measure::Modes& modes, ui::SetupDialog& dialog,
+                                   ui::SettingsEdits& edits, ui::SetupDialog& dialog,
                                    ui::Notice& notice, platform::Host& host)
-    : table_(table), modes_(modes), dialog_(dialog), notice_(notice), host_(host) {
+    : table_(table), edits_(edits), dialog_(dialog), notice_(notice), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -34,16 +34,9 @@ void SettingsCommands::LoadSensorSettings() {
 void SettingsCommands::Load(const std::string& path) {
     platform::ProfileFile file(host_.files, path);
     if (file.LoadError()) return Complain("read", path, file.LoadError());
-    sensors::SensorEntry& entry = table_[table_.currentSensor];
-    const std::int32_t mode = entry.settings.Mode;
-    sensors::TransferSettings(entry.settings, file.Text(), Stem, sensors::Transfer::Read);
-    entry.settingsChanged = true;
-    if (entry.settings.Mode != mode) {
-        sensors::ChangeMode(table_, table_.currentSensor);
-        modes_.Find();
-    }
-    dialog_.ShowCurrent();
-    dialog_.onEdit();
+    sensors::SensorSettings settings = table_[table_.currentSensor].settings;
+    sensors::TransferSettings(settings, file.Text(), Stem, sensors::Transfer::Read);
+    edits_.Replace(table_.currentSensor, settings);
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,

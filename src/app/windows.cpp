@@ -22,7 +22,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
       sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
-      setupDialog({forms.setupForm, table, modes, selection, enabling, errorStrip, host}) {
+      edits(table, modes),
+      setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
 }

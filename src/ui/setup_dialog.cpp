@@ -66,6 +66,7 @@ std::string TypeInfo(const std::string& sensorId) {
 
 SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.SensMode.Items()) {
     p_.selection.listeners.Add(*this);
+    p_.edits.onReplace = [this] { ShowCurrent(); };
     ConnectFields();
     ConnectScales();
     ConnectHelp(p_.form);
@@ -158,9 +159,8 @@ void SetupDialog::Edited(const SetupRow& row) {
     SensorEntry& entry = *Current();
     const sensors::SensorSettings before = entry.settings;
     StoreField(p_.form, row, entry.settings, p_.host.computer.Numbers());
-    entry.settingsChanged = true;
+    p_.edits.Edited(p_.table.currentSensor, before);
     p_.enabling.Refresh();
-    if (onEdit) onEdit();
     AfterStore(row, before);
 }
 
@@ -185,23 +185,11 @@ bool SetupDialog::CountIsRight() {
 
 void SetupDialog::AfterStore(const SetupRow& row, const sensors::SensorSettings& before) {
     const sensors::SensorSettings& now = Current()->settings;
-    if (Is(row, &SetupForm::SensMode) && now.Mode != before.Mode) ModeChanged();
-    if (now.TSlotCount != before.TSlotCount) SlotCountChanged();
     const Filling filling(filling_);
+    if (now.Mode != before.Mode) ShowModeFrames(p_.form, now.Mode);
+    if (now.TSlotCount != before.TSlotCount) ShowSlotNumbers(p_.form, now);
     if (Is(row, &SetupForm::SensTrigger)) ShowTriggerButton(p_.form, now);
     p_.form.CorrFreqEnable.SetChecked(true);
-}
-
-void SetupDialog::ModeChanged() {
-    sensors::ChangeMode(p_.table, p_.table.currentSensor);
-    ShowModeFrames(p_.form, Current()->settings.Mode);
-    p_.modes.Find();
-}
-
-void SetupDialog::SlotCountChanged() {
-    sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
-    const Filling filling(filling_);
-    ShowSlotNumbers(p_.form, Current()->settings);
 }
 
 // A typed number counts even if it can't be stored. A simulated sensor gets the most there is.

@@ -8,17 +8,17 @@
 #include <system_error>
 
 #include "forms/forms.h"
-#include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/notice.h"
+#include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
-    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
+    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, ui::SettingsEdits& edits,
                      ui::SetupDialog& dialog, ui::Notice& notice, platform::Host& host);
 
     // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
@@ -43,7 +43,7 @@ private:
     void Complain(const char* what, const std::string& path, const std::error_code& error);
 
     sensors::SensorTable& table_;
-    measure::Modes& modes_;
+    ui::SettingsEdits& edits_;
     ui::SetupDialog& dialog_;
     ui::Notice& notice_;
     platform::Host& host_;

@@ -23,6 +23,7 @@
 #include "ui/selection_lists.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
+#include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 #include "ui/speed_label.h"
 #include "ui/start_messages.h"
@@ -49,6 +50,7 @@ struct Windows {
     ui::MainWindow mainWindow;
     ui::StartMessages startMessages;
     ui::SensorName sensorName;
+    ui::SettingsEdits edits;
     ui::SetupDialog setupDialog;
 
     // Listeners are called in this order.
