@@ -8,7 +8,6 @@
 #include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
-#include "util/number_text.h"
 
 namespace kelvra::app {
 
@@ -36,7 +35,7 @@ void SettingsCommands::Load(const std::string& path) {
     if (file.LoadError()) return Complain("read", path, file.LoadError());
     sensors::SensorSettings settings = table_[table_.currentSensor].settings;
     sensors::TransferSettings(settings, file.Text(), Stem, sensors::Transfer::Read);
-    edits_.Replace(table_.currentSensor, settings);
+    edits_.Replace(table_.currentSensor, "loaded settings", settings);
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,
@@ -79,12 +78,6 @@ void SettingsCommands::AskFile(platform::FileQuestion question,
         host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
                               platform::MessageIcon::Exclamation);
     });
-}
-
-std::string SettingsCommands::SensorText() const {
-    const std::string& name = table_[table_.currentSensor].logicalName;
-    const std::string number = util::TrimmedNumberText(std::int64_t{table_.currentSensor} + 1);
-    return "sensor " + number + (name.empty() || name == number ? "" : " (" + name + ")");
 }
 
 void SettingsCommands::Confirm(const char* what, const std::string& path) {

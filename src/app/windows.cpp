@@ -14,7 +14,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       readingAge(forms.statusForm, table, host.clock),
       results(forms.statusForm, table, selection, readingAge, host.computer.Numbers()),
       marks(forms.statusForm, table, host.events),
-      calcGrid(forms.mdiMain, table, host),
+      calcGrid(forms.mdiMain, table, history, host),
       speed(forms.mdiMain, host),
       enabling(forms, table, selection),
       recordMenu(forms.mdiMain),
@@ -22,7 +22,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
       sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
-      edits(table, modes),
+      edits(table, modes, history),
+      editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
       setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });

@@ -128,6 +128,7 @@ void SetupDialog::CurrentSensorChanged() {
 void SetupDialog::ShowCurrent(Typing typing) {
     SensorEntry* entry = Current();
     if (entry == nullptr) return;
+    if (typing == Typing::IsReplaced) p_.edits.EndStep();
     {
         const Filling filling(filling_);
         shownFor_ = entry->resourceName;
@@ -159,13 +160,23 @@ void SetupDialog::Edited(const SetupRow& row) {
     SensorEntry& entry = *Current();
     const sensors::SensorSettings before = entry.settings;
     StoreField(p_.form, row, entry.settings, p_.host.computer.Numbers());
-    p_.edits.Edited(p_.table.currentSensor, before);
+    Remember(row, before);
     p_.enabling.Refresh();
     AfterStore(row, before);
 }
 
+// What is typed into one box is one step, until the user or the program completes the text.
+void SetupDialog::Remember(const SetupRow& row, const sensors::SensorSettings& before) {
+    const controls::TextBox* box = nullptr;
+    if (const auto* field = std::get_if<controls::TextField SetupForm::*>(&row.field))
+        box = &(p_.form.**field);
+    p_.edits.Edited(p_.table.currentSensor, NameOf(p_.form, row), before, box);
+    if (box != nullptr && !box->Edited()) p_.edits.EndStep();
+}
+
 // A text that the user has finished says what is stored, unless it can't be used.
 void SetupDialog::Tidy(const SetupRow& row, controls::TextBox& box) {
+    p_.edits.EndStep();
     const SensorEntry* entry = Current();
     if (entry == nullptr || !box.fault->empty()) return;
     const Filling filling(filling_);

@@ -26,6 +26,7 @@ constexpr SetupUnit Ms{1e3, 1, Quantity::Time};
 constexpr SetupUnit Seconds{1, 1, Quantity::Time};
 constexpr SetupUnit Us{1e6, 1, Quantity::Time};
 constexpr SetupUnit Mhz{1, 1e6, Quantity::Frequency};
+constexpr SetupRule Plain = SetupRule::Plain;
 
 // clang-format off
 constexpr SetupRow Rows[] = {
@@ -44,17 +45,17 @@ constexpr SetupRow Rows[] = {
     {&SetupForm::ScopeTimeOffset,      &SensorSettings::ScopeOffset,         Ms},
     {&SetupForm::ScopeRealtime,        &SensorSettings::ScopeRealtime},
     {&SetupForm::ScopeAVGState,        &SensorSettings::ScopeAVGEnable},
-    {&SetupForm::ScopeAvgMode,         &SensorSettings::ScopeAvgMode},
-    {&SetupForm::ScopeAvgResValue,     &SensorSettings::ScopeAVGNormVal},
-    {&SetupForm::ScopeAvgSNRValue,     &SensorSettings::ScopeAVGSNVal},
-    {&SetupForm::ScopeAvgCount,        &SensorSettings::ScopeAVGManCount},
+    {&SetupForm::ScopeAvgMode,         &SensorSettings::ScopeAvgMode,        One, Plain, "Averaging mode"},
+    {&SetupForm::ScopeAvgResValue,     &SensorSettings::ScopeAVGNormVal,     One, Plain, "Resolution"},
+    {&SetupForm::ScopeAvgSNRValue,     &SensorSettings::ScopeAVGSNVal,       One, Plain, "Noise content"},
+    {&SetupForm::ScopeAvgCount,        &SensorSettings::ScopeAVGManCount,    One, Plain, "Averaging length"},
     {&SetupForm::ScopeAvgMaxTime,      &SensorSettings::ScopeAVGMaxSetTime,  Seconds},
     {&SetupForm::ScopeMovingAveraging, &SensorSettings::ScopeAVGMoving},
     {&SetupForm::SensAVGState,         &SensorSettings::AvgEnable},
-    {&SetupForm::SensAvgMode,          &SensorSettings::AvgMode},
-    {&SetupForm::SensAvgResValue,      &SensorSettings::AvgNormVal},
-    {&SetupForm::SensAvgSNRValue,      &SensorSettings::AvgSNVal},
-    {&SetupForm::SensAvgCount,         &SensorSettings::AvgManCount},
+    {&SetupForm::SensAvgMode,          &SensorSettings::AvgMode,             One, Plain, "Averaging mode"},
+    {&SetupForm::SensAvgResValue,      &SensorSettings::AvgNormVal,          One, Plain, "Resolution"},
+    {&SetupForm::SensAvgSNRValue,      &SensorSettings::AvgSNVal,            One, Plain, "Noise content"},
+    {&SetupForm::SensAvgCount,         &SensorSettings::AvgManCount,         One, Plain, "Averaging length"},
     {&SetupForm::SensAvgMaxTime,       &SensorSettings::AvgMaxSetTime,       Seconds},
     {&SetupForm::SensAvgSlot,          &SensorSettings::AvgSlotNum},
     {&SetupForm::MovingAveraging,      &SensorSettings::AvgMoving},
@@ -66,18 +67,18 @@ constexpr SetupRow Rows[] = {
     {&SetupForm::SensTriggerHyst,      &SensorSettings::TrigHyster},
     {&SetupForm::SensTriggerHoldOff,   &SensorSettings::TrigHoldOff,         Ms},
     {&SetupForm::CorrFreqEnable,       &SensorSettings::CorrFreq,            One, SetupRule::AlwaysChecked},
-    {&SetupForm::CorrFreqValue,        &SensorSettings::CorrFreqVal,         Mhz},
+    {&SetupForm::CorrFreqValue,        &SensorSettings::CorrFreqVal,         Mhz, Plain, "Frequency value"},
     {&SetupForm::CorrOffsetEnable,     &SensorSettings::CorrOffset},
-    {&SetupForm::CorrOffsetValue,      &SensorSettings::CorrOffsetVal},
+    {&SetupForm::CorrOffsetValue,      &SensorSettings::CorrOffsetVal,       One, Plain, "Offset value"},
     {&SetupForm::CorrGammaEnabled,     &SensorSettings::CorrGamma},
-    {&SetupForm::CorrGammaAmp,         &SensorSettings::CorrGammaAmp},
-    {&SetupForm::CorrGammaPhase,       &SensorSettings::CorrGammaPha},
+    {&SetupForm::CorrGammaAmp,         &SensorSettings::CorrGammaAmp,        One, Plain, "Gamma amplitude"},
+    {&SetupForm::CorrGammaPhase,       &SensorSettings::CorrGammaPha,        One, Plain, "Gamma phase"},
     {&SetupForm::CorrDutyEnable,       &SensorSettings::CorrDuty},
-    {&SetupForm::CorrDutyValue,        &SensorSettings::CorrDutyVal},
+    {&SetupForm::CorrDutyValue,        &SensorSettings::CorrDutyVal,         One, Plain, "Duty cycle value"},
     {&SetupForm::CorrSParaEnabled,     &SensorSettings::CorrSParaCor},
-    {&SetupForm::SensRange,            &SensorSettings::RangeAuto,           One, SetupRule::TrueIsFirst},
-    {&SetupForm::SensRangeXOver,       &SensorSettings::RangeCross},
-    {&SetupForm::SensRangeValue,       &SensorSettings::RangePath},
+    {&SetupForm::SensRange,            &SensorSettings::RangeAuto,           One, SetupRule::TrueIsFirst, "Range"},
+    {&SetupForm::SensRangeXOver,       &SensorSettings::RangeCross,          One, Plain, "Range cross-over"},
+    {&SetupForm::SensRangeValue,       &SensorSettings::RangePath,           One, Plain, "Range path"},
     {&SetupForm::SensSampFreq,         &SensorSettings::FreqHigh,            One, SetupRule::TrueIsFirst},
     {&SetupForm::SensInitCont,         &SensorSettings::ContMeas},
 };
@@ -124,6 +125,19 @@ void Show(OptionGroup& group, double stored, const SetupRow& row, Typing) {
 
 std::span<const SetupRow> SetupRows() {
     return Rows;
+}
+
+std::string NameOf(const SetupForm& form, const SetupRow& row) {
+    if (row.name != nullptr) return row.name;
+    return std::visit(
+        [&](auto field) -> std::string {
+            const auto& control = form.*field;
+            if constexpr (requires { control.caption; })
+                return control.caption;
+            else
+                return control.captionLabel ? control.captionLabel->caption.Get() : "";
+        },
+        row.field);
 }
 
 std::string ShownText(double stored, const SetupRow& row) {

@@ -11,6 +11,7 @@
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/notice.h"
+#include "ui/sensor_text.h"
 #include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 
@@ -30,8 +31,8 @@ public:
     void SaveSensorSettings();
 
 private:
-    // "sensor 2 (Antenna)": the current one.
-    std::string SensorText() const;
+    // Of the current sensor.
+    std::string SensorText() const { return ui::SensorText(table_, table_.currentSensor); }
     void Confirm(const char* what, const std::string& path);
     // Asks for a file and passes it to goOn; not if the user cancels, nor if the current sensor is
     // a different one by then.

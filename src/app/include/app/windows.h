@@ -13,6 +13,8 @@
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
 #include "ui/display_lists.h"
+#include "ui/edit_history.h"
+#include "ui/edit_menu.h"
 #include "ui/enabling.h"
 #include "ui/error_strip.h"
 #include "ui/main_window.h"
@@ -42,6 +44,7 @@ struct Windows {
     ui::ReadingAge readingAge;
     ui::ResultTable results;
     ui::StatusMarks marks;
+    ui::EditHistory history;
     ui::CalcGrid calcGrid;
     ui::SpeedLabel speed;
     ui::Enabling enabling;
@@ -51,6 +54,7 @@ struct Windows {
     ui::StartMessages startMessages;
     ui::SensorName sensorName;
     ui::SettingsEdits edits;
+    ui::EditMenu editMenu;
     ui::SetupDialog setupDialog;
 
     // Listeners are called in this order.

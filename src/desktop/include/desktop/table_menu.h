@@ -13,7 +13,7 @@ namespace kelvra::desktop {
 // says whether that window exists.
 void GiveResultMenu(GridWidget& table, controls::Button& settings, bool settingsShown);
 
-// Copies, edits, empties a cell, takes an edit back.
-void GiveFormulaMenu(GridWidget& table);
+// Copies, edits, empties a cell, takes an edit back by pressing `undo`.
+void GiveFormulaMenu(GridWidget& table, controls::MenuItem& undo);
 
 }  // namespace kelvra::desktop

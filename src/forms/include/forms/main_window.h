@@ -12,6 +12,8 @@ struct MDIMain : Window {
         : Window(changes, "MDIMain", "", {0, 0, 15000, 9900}) {
         closesByRule = true;
         SettingAlwaysOnTop.checkable = true;
+        EditUndo.enabled = false;
+        EditRedo.enabled = false;
         for (MenuItem* item : {&Load_Sensor_Settings, &Save_Sensor_Settings, &MHelpAbout})
             item->opensDialog = true;
         StopIt.enabled = false;
@@ -65,6 +67,25 @@ struct MDIMain : Window {
                         .shortcut = "Ctrl+Q",
                         .explanation = "Ends a measurement, saves all settings and exits."}};
 
+    MenuItem MEdit{
+        *this,
+        "MEdit",
+        "Edit",
+        {.mnemonic = 'E', .explanation = "Edits of settings and formulas, and copying settings."}};
+    MenuItem EditUndo{MEdit,
+                      "EditUndo",
+                      "Undo",
+                      {.mnemonic = 'U',
+                       .shortcut = "Ctrl+Z",
+                       .explanation = "Takes back the latest edit of the current sensor's settings "
+                                      "or of a formula."}};
+    MenuItem EditRedo{MEdit,
+                      "EditRedo",
+                      "Redo",
+                      {.mnemonic = 'R',
+                       .shortcut = "Ctrl+Shift+Z",
+                       .explanation = "Makes the edit again that was taken back last."}};
+
     MenuItem MenueWindow{
         *this, "MenueWindow", "Window", {.mnemonic = 'W', .explanation = "How windows are shown."}};
     MenuItem SettingAlwaysOnTop{
@@ -109,7 +130,7 @@ struct MDIMain : Window {
                          "",
                          "settingsPic",
                          {.name = "Settings",
-                          .mnemonic = 'e',
+                          .mnemonic = 'n',
                           .explanation = "Shows the settings of the current sensor."}};
     List SensSyncMode{
         MainTools,

@@ -42,10 +42,14 @@ struct SetupRow {
     sensors::SettingsMember member;
     SetupUnit unit{};
     SetupRule rule = SetupRule::Plain;
+    const char* name = nullptr;  // for a field that has no caption
 };
 
 // In the order of the pages.
 std::span<const SetupRow> SetupRows();
+
+// The name of what is set: the field's caption, if it has one.
+std::string NameOf(const forms::SetupForm& form, const SetupRow& row);
 
 // The text of a text field for a setting.
 std::string ShownText(double stored, const SetupRow& row);
