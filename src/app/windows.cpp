@@ -24,7 +24,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
       edits(table, modes, history),
       editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
-      setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}) {
+      setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}),
+      settingsCopy({forms, table, edits, selection, notice}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
 }
@@ -33,7 +34,7 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
              &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
-             &mainWindow, &speed, &notice, &recordMenu, &startMessages})
+             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy})
         news.measurement.Add(*listener);
     for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
              &speed, &calcGrid, &notice, &recordMenu, &readingAge})

@@ -25,6 +25,7 @@
 #include "ui/selection_lists.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
+#include "ui/settings_copy.h"
 #include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 #include "ui/speed_label.h"
@@ -56,6 +57,7 @@ struct Windows {
     ui::SettingsEdits edits;
     ui::EditMenu editMenu;
     ui::SetupDialog setupDialog;
+    ui::SettingsCopy settingsCopy;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

@@ -14,7 +14,8 @@ struct MDIMain : Window {
         SettingAlwaysOnTop.checkable = true;
         EditUndo.enabled = false;
         EditRedo.enabled = false;
-        for (MenuItem* item : {&Load_Sensor_Settings, &Save_Sensor_Settings, &MHelpAbout})
+        for (MenuItem* item :
+             {&Load_Sensor_Settings, &Save_Sensor_Settings, &CopySettings, &MHelpAbout})
             item->opensDialog = true;
         StopIt.enabled = false;
         BusySign.tag = "1";
@@ -85,6 +86,14 @@ struct MDIMain : Window {
                       {.mnemonic = 'R',
                        .shortcut = "Ctrl+Shift+Z",
                        .explanation = "Makes the edit again that was taken back last."}};
+
+    MenuItem line3{MEdit, "line3", "-"};
+    MenuItem CopySettings{
+        MEdit,
+        "CopySettings",
+        "Copy settings to",
+        {.mnemonic = 'C',
+         .explanation = "Gives all settings of the current sensor to others of your choice."}};
 
     MenuItem MenueWindow{
         *this, "MenueWindow", "Window", {.mnemonic = 'W', .explanation = "How windows are shown."}};

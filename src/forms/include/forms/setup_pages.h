@@ -35,6 +35,12 @@ struct SetupHeader {
         {"lblMode", "Mode", "", 7110},
         Items{
             {"ContAv", 0}, {"Buffered Cont Avg", 1}, {"Timeslot", 2}, {"Burst", 3}, {"Scope", 4}}};
+    Button cmdCopySettings{Frame1,
+                           "cmdCopySettings",
+                           "Copy to...",
+                           "",
+                           {.name = "Copy settings to",
+                            .explanation = "Gives all settings of this sensor to others."}};
     OptionGroup PageSelect{Frame1, "PageSelect",
                            Options{{"Option1", "General Settings", 7111},
                                    {"Option2", "Mode Settings", 7150},
