@@ -17,7 +17,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       windows(forms, table, state, cycle, modes, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
-      settingsCommands_(forms, table, modes, windows.setupDialog, windows.notice, host) {
+      settingsCommands_(forms, table, windows.edits, windows.setupDialog, windows.notice, host) {
     Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { ExitAsAsked(); });
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
@@ -26,7 +26,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
 // The recovery comes last, after the windows have shown the error that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
-    windows.setupDialog.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
+    windows.edits.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
     windows.Subscribe(news, sessionNews);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);

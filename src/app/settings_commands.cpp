@@ -8,7 +8,6 @@
 #include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
-#include "util/number_text.h"
 
 namespace kelvra::app {
 
@@ -17,9 +16,9 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   measure::Modes& modes, ui::SetupDialog& dialog,
+                                   ui::SettingsEdits& edits, ui::SetupDialog& dialog,
                                    ui::Notice& notice, platform::Host& host)
-    : table_(table), modes_(modes), dialog_(dialog), notice_(notice), host_(host) {
+    : table_(table), edits_(edits), dialog_(dialog), notice_(notice), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -34,16 +33,9 @@ void SettingsCommands::LoadSensorSettings() {
 void SettingsCommands::Load(const std::string& path) {
     platform::ProfileFile file(host_.files, path);
     if (file.LoadError()) return Complain("read", path, file.LoadError());
-    sensors::SensorEntry& entry = table_[table_.currentSensor];
-    const std::int32_t mode = entry.settings.Mode;
-    sensors::TransferSettings(entry.settings, file.Text(), Stem, sensors::Transfer::Read);
-    entry.settingsChanged = true;
-    if (entry.settings.Mode != mode) {
-        sensors::ChangeMode(table_, table_.currentSensor);
-        modes_.Find();
-    }
-    dialog_.ShowCurrent();
-    dialog_.onEdit();
+    sensors::SensorSettings settings = table_[table_.currentSensor].settings;
+    sensors::TransferSettings(settings, file.Text(), Stem, sensors::Transfer::Read);
+    edits_.Replace(table_.currentSensor, "loaded settings", settings);
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,
@@ -86,12 +78,6 @@ void SettingsCommands::AskFile(platform::FileQuestion question,
         host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
                               platform::MessageIcon::Exclamation);
     });
-}
-
-std::string SettingsCommands::SensorText() const {
-    const std::string& name = table_[table_.currentSensor].logicalName;
-    const std::string number = util::TrimmedNumberText(std::int64_t{table_.currentSensor} + 1);
-    return "sensor " + number + (name.empty() || name == number ? "" : " (" + name + ")");
 }
 
 void SettingsCommands::Confirm(const char* what, const std::string& path) {

@@ -14,7 +14,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       readingAge(forms.statusForm, table, host.clock),
       results(forms.statusForm, table, selection, readingAge, host.computer.Numbers()),
       marks(forms.statusForm, table, host.events),
-      calcGrid(forms.mdiMain, table, host),
+      calcGrid(forms.mdiMain, table, history, host),
       speed(forms.mdiMain, host),
       enabling(forms, table, selection),
       recordMenu(forms.mdiMain),
@@ -22,7 +22,10 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       mainWindow(forms, state, host),
       startMessages(host.dialogs),
       sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
-      setupDialog({forms.setupForm, table, modes, selection, enabling, errorStrip, host}) {
+      edits(table, modes, history),
+      editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
+      setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}),
+      settingsCopy({forms, table, edits, selection, notice}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
 }
@@ -31,7 +34,7 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
              &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
-             &mainWindow, &speed, &notice, &recordMenu, &startMessages})
+             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy})
         news.measurement.Add(*listener);
     for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
              &speed, &calcGrid, &notice, &recordMenu, &readingAge})

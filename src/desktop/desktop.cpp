@@ -21,7 +21,7 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
       view_(preferences_, {main_.Widget(), main_.WindowMenu(), results_, main_.Formulas(),
                            [this] { Recolour(); }}) {
     GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings);
-    GiveFormulaMenu(main_.Formulas());
+    GiveFormulaMenu(main_.Formulas(), kelvra.forms.mdiMain.EditUndo);
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
         results_.Window().PlaceAsBefore(place);
     main_.MirrorFrame(preferences_.Frame());

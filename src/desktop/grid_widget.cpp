@@ -183,8 +183,6 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
                           grid_.At(currentRow() + 1, currentColumn()).editable;
     if (event->matches(QKeySequence::Copy)) {
         Copy(false);
-    } else if (event->matches(QKeySequence::Undo)) {
-        grid_.Undo();
     } else if (event->key() == Qt::Key_Delete && editable && state() != EditingState) {
         grid_.TypeCell(currentRow() + 1, currentColumn(), "");
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||

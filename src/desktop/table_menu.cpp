@@ -3,6 +3,7 @@
 
 #include <QMenu>
 
+#include "desktop/common.h"
 #include "ui/result_columns.h"
 
 namespace kelvra::desktop {
@@ -48,8 +49,8 @@ void GiveResultMenu(GridWidget& table, controls::Button& settings) {
     };
 }
 
-void GiveFormulaMenu(GridWidget& table) {
-    table.onMenu = [&table](int row, int column, const QPoint& place) {
+void GiveFormulaMenu(GridWidget& table, controls::MenuItem& undo) {
+    table.onMenu = [&table, &undo](int row, int column, const QPoint& place) {
         QMenu* menu = MenuWithCopies(table);
         menu->addSeparator();
         const controls::Grid::Cell* cell = CellAt(table, row, column);
@@ -61,8 +62,10 @@ void GiveFormulaMenu(GridWidget& table) {
             "E&mpty", [&table, row, column] { table.Record().TypeCell(row + 1, column, ""); });
         empty->setShortcut(QKeySequence::Delete);
         for (QAction* entry : {edit, empty}) entry->setEnabled(editable);
-        QAction* undo = menu->addAction("&Undo", [&table] { table.Record().Undo(); });
-        undo->setShortcut(QKeySequence::Undo);
+        QAction* takeBack =
+            menu->addAction(MarkedText(undo, undo.caption), [&undo] { undo.Press(); });
+        takeBack->setShortcut(QKeySequence::Undo);
+        takeBack->setEnabled(undo.enabled);
         menu->popup(place);
     };
 }

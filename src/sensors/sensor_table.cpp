@@ -44,23 +44,15 @@ std::vector<SensorEntry*> SensorTable::Present() {
     return present;
 }
 
-namespace {
-
-const std::string& SwitchKey(const SensorEntry& entry) {
-    return entry.sensorId.empty() ? entry.resourceName : entry.sensorId;
-}
-
-}  // namespace
-
 bool SensorTable::SwitchedOff(const SensorEntry& entry) const {
-    return switchedOff_.count(SwitchKey(entry)) != 0;
+    return switchedOff_.count(KeyOf(entry)) != 0;
 }
 
 void SensorTable::RememberSwitch(const SensorEntry& entry) {
     if (entry.enabled)
-        switchedOff_.erase(SwitchKey(entry));
+        switchedOff_.erase(KeyOf(entry));
     else
-        switchedOff_.insert(SwitchKey(entry));
+        switchedOff_.insert(KeyOf(entry));
 }
 
 void PrepareWorkArrays(SensorTable& table, int slot) {
@@ -93,8 +85,12 @@ std::string ErrorOf(const SensorPresence& sensor) {
     return std::string(util::TrimLineBreaks(all));
 }
 
+const std::string& KeyOf(const SensorPresence& sensor) {
+    return sensor.sensorId.empty() ? sensor.resourceName : sensor.sensorId;
+}
+
 std::string_view TypeOf(const SensorPresence& sensor) {
-    const std::string_view id = sensor.sensorId.empty() ? sensor.resourceName : sensor.sensorId;
+    const std::string_view id = KeyOf(sensor);
     return id.substr(0, id.find(';'));
 }
 

@@ -26,14 +26,15 @@ struct ColumnText {
     const char* heading;
     const char* ofHeading;  // tooltips
     const char* ofCells;
+    const char* edit;  // what a step of undo says
 };
 constexpr ColumnText ColumnTexts[] = {
     {"Name", "What the row computes; a row without a name is not computed",
-     "Click, F2, Enter or typing edits the name"},
+     "Click, F2, Enter or typing edits the name", "name of a formula"},
     {"Formular", "Formula over the latest readings: X1W is sensor 1 in watts, X1dB in dBm",
-     FormulaTooltip},
+     FormulaTooltip, "formula"},
     {"RESULT", "Value of the formula for the latest readings; --- while a sensor has none",
-     ResultTooltip},
+     ResultTooltip, "result of a formula"},
 };
 
 // The reading that the name refers to, if its sensor delivers scalar readings.
@@ -66,8 +67,9 @@ ReadingName ParseReadingName(std::string_view name) {
     return {name[1] - '0' - 1, unit == "dB"};
 }
 
-CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host)
-    : grid_(window.CalcGrid), table_(table), host_(host) {
+CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, EditHistory& history,
+                   platform::Host& host)
+    : grid_(window.CalcGrid), table_(table), history_(history), host_(host) {
     grid_.click.Connect([this](int row, int column) { AskText(row, column); });
     grid_.typed.Connect(
         [this](int row, int column, const std::string& text) { EditText(row, column, text); });
@@ -77,7 +79,6 @@ CalcGrid::CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform
         typing_ = false;
         ShowRemark();
     });
-    grid_.undo.Connect([this] { TakeBackEdit(); });
 }
 
 void CalcGrid::LayOut() {
@@ -164,20 +165,15 @@ void CalcGrid::AskText(int row, int column) {
 }
 
 void CalcGrid::EditText(int row, int column, std::string_view text) {
-    const std::string& before = grid_.At(row, column).Text();
-    if (before == text) return;
-    if (edits_.size() == MostEdits) edits_.pop_front();
-    edits_.push_back({row, column, before});
-    SetText(row, column, text);
-    CheckRow(row);
+    const FormulaChange change{row, column, grid_.At(row, column).Text(), std::string(text)};
+    if (change.from == change.to) return;
+    Make(change);
+    history_.Add({"", ColumnTexts[column].edit, change});
 }
 
-void CalcGrid::TakeBackEdit() {
-    if (edits_.empty()) return;
-    const Edit edit = std::move(edits_.back());
-    edits_.pop_back();
-    SetText(edit.row, edit.column, edit.before);
-    CheckRow(edit.row);
+void CalcGrid::Make(const FormulaChange& change) {
+    SetText(change.row, change.column, change.to);
+    CheckRow(change.row);
 }
 
 void CalcGrid::SetText(int row, int column, std::string_view text) {

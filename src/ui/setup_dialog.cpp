@@ -66,6 +66,7 @@ std::string TypeInfo(const std::string& sensorId) {
 
 SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.SensMode.Items()) {
     p_.selection.listeners.Add(*this);
+    p_.edits.onReplace = [this] { ShowCurrent(); };
     ConnectFields();
     ConnectScales();
     ConnectHelp(p_.form);
@@ -127,6 +128,7 @@ void SetupDialog::CurrentSensorChanged() {
 void SetupDialog::ShowCurrent(Typing typing) {
     SensorEntry* entry = Current();
     if (entry == nullptr) return;
+    if (typing == Typing::IsReplaced) p_.edits.EndStep();
     {
         const Filling filling(filling_);
         shownFor_ = entry->resourceName;
@@ -158,14 +160,23 @@ void SetupDialog::Edited(const SetupRow& row) {
     SensorEntry& entry = *Current();
     const sensors::SensorSettings before = entry.settings;
     StoreField(p_.form, row, entry.settings, p_.host.computer.Numbers());
-    entry.settingsChanged = true;
+    Remember(row, before);
     p_.enabling.Refresh();
-    if (onEdit) onEdit();
     AfterStore(row, before);
+}
+
+// What is typed into one box is one step, until the user or the program completes the text.
+void SetupDialog::Remember(const SetupRow& row, const sensors::SensorSettings& before) {
+    const controls::TextBox* box = nullptr;
+    if (const auto* field = std::get_if<controls::TextField SetupForm::*>(&row.field))
+        box = &(p_.form.**field);
+    p_.edits.Edited(p_.table.currentSensor, NameOf(p_.form, row), before, box);
+    if (box != nullptr && !box->Edited()) p_.edits.EndStep();
 }
 
 // A text that the user has finished says what is stored, unless it can't be used.
 void SetupDialog::Tidy(const SetupRow& row, controls::TextBox& box) {
+    p_.edits.EndStep();
     const SensorEntry* entry = Current();
     if (entry == nullptr || !box.fault->empty()) return;
     const Filling filling(filling_);
@@ -185,23 +196,11 @@ bool SetupDialog::CountIsRight() {
 
 void SetupDialog::AfterStore(const SetupRow& row, const sensors::SensorSettings& before) {
     const sensors::SensorSettings& now = Current()->settings;
-    if (Is(row, &SetupForm::SensMode) && now.Mode != before.Mode) ModeChanged();
-    if (now.TSlotCount != before.TSlotCount) SlotCountChanged();
     const Filling filling(filling_);
+    if (now.Mode != before.Mode) ShowModeFrames(p_.form, now.Mode);
+    if (now.TSlotCount != before.TSlotCount) ShowSlotNumbers(p_.form, now);
     if (Is(row, &SetupForm::SensTrigger)) ShowTriggerButton(p_.form, now);
     p_.form.CorrFreqEnable.SetChecked(true);
-}
-
-void SetupDialog::ModeChanged() {
-    sensors::ChangeMode(p_.table, p_.table.currentSensor);
-    ShowModeFrames(p_.form, Current()->settings.Mode);
-    p_.modes.Find();
-}
-
-void SetupDialog::SlotCountChanged() {
-    sensors::PrepareWorkArrays(p_.table, p_.table.currentSensor);
-    const Filling filling(filling_);
-    ShowSlotNumbers(p_.form, Current()->settings);
 }
 
 // A typed number counts even if it can't be stored. A simulated sensor gets the most there is.

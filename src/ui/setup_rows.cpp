@@ -126,6 +126,19 @@ std::span<const SetupRow> SetupRows() {
     return Rows;
 }
 
+std::string NameOf(const SetupForm& form, const SetupRow& row) {
+    return std::visit(
+        [&](auto field) -> std::string {
+            const auto& control = form.*field;
+            if constexpr (requires { control.caption; })
+                return control.caption;
+            else
+                return control.captionLabel ? control.captionLabel->caption.Get()
+                                            : control.access.name;
+        },
+        row.field);
+}
+
 std::string ShownText(double stored, const SetupRow& row) {
     double shown = stored * row.unit.shown / row.unit.stored;
     if (row.rule == SetupRule::Thousandths) shown = std::nearbyint(shown * 1e3) / 1e3;

@@ -66,7 +66,7 @@ private slots:
         QCOMPARE(running.kelvra.state.starts, 2);
     }
 
-    void AnEditedFormulaIsComputed() {
+    void AnEditedFormulaIsComputedAndUndone() {
         const QTemporaryDir data;
         RunningDesktop running(data);
         auto& grid = running.Find<GridWidget>("CalcGrid");
@@ -76,6 +76,9 @@ private slots:
         running.desktop.Painter().Flush();
         QCOMPARE(Cell(grid, 0, 1), "X1dB");
         QCOMPARE(WholeLevel(grid, 0), -9);
+        QTest::keyClick(&grid, Qt::Key_Z, Qt::ControlModifier);
+        running.desktop.Painter().Flush();
+        QCOMPARE(Cell(grid, 0, 1), "ABS(X1dB-X2dB)");
     }
 
     void AFormulaIsCheckedWhileItIsTypedAndTakenBack() {
@@ -233,7 +236,8 @@ private slots:
         const QTemporaryDir data;
         RunningDesktop running(data);
         auto& form = running.kelvra.forms.mdiMain;
-        form.FileSaveData.enabled = true;
+        for (controls::MenuItem* item : {&form.FileSaveData, &form.EditUndo, &form.EditRedo})
+            item->enabled = true;
         running.desktop.Painter().Flush();
         QStringList disabled;
         for (QAction* menu : running.Main().menuBar()->actions())

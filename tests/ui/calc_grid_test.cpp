@@ -11,6 +11,7 @@ class CalcGridTest : public testing::Test, public test::WholeKelvra {
 protected:
     CalcGridTest() { StartWith(1); }
     controls::Grid& Cells() { return program->forms.mdiMain.CalcGrid; }
+    void Undo() { program->forms.mdiMain.EditUndo.Press(); }
     std::string Remark() { return Cells().remark.Get().text; }
 };
 
@@ -70,22 +71,20 @@ TEST_F(CalcGridTest, ARowThatFailsSaysWhyWhereItIsSeen) {
     EXPECT_EQ(Remark(), "R: Not enough closing brackets");
     Cells().TypeCell(2, Name, "");  // is not computed
     EXPECT_EQ(Remark(), "");
-    Cells().Undo();
+    Undo();
     EXPECT_EQ(Remark(), "R: Not enough closing brackets");
 }
 
-TEST_F(CalcGridTest, UndoTakesBackTheLastHundredEdits) {
-    Cells().Undo();
-    EXPECT_EQ(Cells().At(1, Name).Text(), "DIFF");
+TEST_F(CalcGridTest, AnEditOfACellIsUndoneAndRedone) {
+    const controls::MenuItem& redo = program->forms.mdiMain.EditRedo;
     Cells().ClickCell(1, Name);  // the prompt is cancelled
-    EXPECT_EQ(Cells().At(1, Name).Text(), "");
-    Cells().Undo();
+    Cells().TypeCell(1, Formula, "1");
+    Cells().TypeCell(1, Formula, "1");  // changes nothing
+    EXPECT_EQ(program->forms.mdiMain.EditUndo.caption.Get(), "Undo: formula");
+    for (int i = 0; i < 3; ++i) Undo();
     EXPECT_EQ(Cells().At(1, Name).Text(), "DIFF");
-    for (int i = 0; i <= CalcGrid::MostEdits; ++i)
-        Cells().TypeCell(1 + i % 2, Formula, std::to_string(i));
-    for (int i = 0; i <= CalcGrid::MostEdits; ++i) Cells().Undo();
-    EXPECT_EQ(Cells().At(1, Formula).Text(), "0");
-    EXPECT_EQ(Cells().At(2, Formula).Text(), "(1+sqr(X1W/X2W))/(1-sqr(X1W/X2W))");
+    EXPECT_EQ(Cells().At(1, Formula).Text(), "ABS(X1dB-X2dB)");
+    EXPECT_EQ(redo.caption.Get(), "Redo: name of a formula");
 }
 
 }  // namespace kelvra::ui

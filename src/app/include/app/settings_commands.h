@@ -8,17 +8,18 @@
 #include <system_error>
 
 #include "forms/forms.h"
-#include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/notice.h"
+#include "ui/sensor_text.h"
+#include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
-    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, measure::Modes& modes,
+    SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, ui::SettingsEdits& edits,
                      ui::SetupDialog& dialog, ui::Notice& notice, platform::Host& host);
 
     // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
@@ -30,8 +31,8 @@ public:
     void SaveSensorSettings();
 
 private:
-    // "sensor 2 (Antenna)": the current one.
-    std::string SensorText() const;
+    // Of the current sensor.
+    std::string SensorText() const { return ui::SensorText(table_, table_.currentSensor); }
     void Confirm(const char* what, const std::string& path);
     // Asks for a file and passes it to goOn; not if the user cancels, nor if the current sensor is
     // a different one by then.
@@ -43,7 +44,7 @@ private:
     void Complain(const char* what, const std::string& path, const std::error_code& error);
 
     sensors::SensorTable& table_;
-    measure::Modes& modes_;
+    ui::SettingsEdits& edits_;
     ui::SetupDialog& dialog_;
     ui::Notice& notice_;
     platform::Host& host_;

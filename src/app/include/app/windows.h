@@ -13,6 +13,8 @@
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
 #include "ui/display_lists.h"
+#include "ui/edit_history.h"
+#include "ui/edit_menu.h"
 #include "ui/enabling.h"
 #include "ui/error_strip.h"
 #include "ui/main_window.h"
@@ -23,6 +25,8 @@
 #include "ui/selection_lists.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
+#include "ui/settings_copy.h"
+#include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
 #include "ui/speed_label.h"
 #include "ui/start_messages.h"
@@ -41,6 +45,7 @@ struct Windows {
     ui::ReadingAge readingAge;
     ui::ResultTable results;
     ui::StatusMarks marks;
+    ui::EditHistory history;
     ui::CalcGrid calcGrid;
     ui::SpeedLabel speed;
     ui::Enabling enabling;
@@ -49,7 +54,10 @@ struct Windows {
     ui::MainWindow mainWindow;
     ui::StartMessages startMessages;
     ui::SensorName sensorName;
+    ui::SettingsEdits edits;
+    ui::EditMenu editMenu;
     ui::SetupDialog setupDialog;
+    ui::SettingsCopy settingsCopy;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

@@ -97,9 +97,6 @@ public:
     Event<int, int, const std::string&> editing;
     void LeaveCell() { left.Raise(); }
     Event<> left;
-    // The user takes the last edit back.
-    void Undo() { undo.Raise(); }
-    Event<> undo;
 
     Property<Remark> remark{*this, {}};
 

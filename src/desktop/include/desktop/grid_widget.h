@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The table that shows a grid, and what the user does to it: presses and clicks cells with the
 // mouse, or with Enter and Space on the keyboard; where the grid lets cells be edited, these begin
-// to edit, as F2 and typing do, Delete empties the cell, and Ctrl+Z takes an edit back. Ctrl+C
-// copies the selected cells, Ctrl and the wheel enlarge the font. Its rows are those below the
-// grid's heading, row 0.
+// to edit, as F2 and typing do, and Delete empties the cell. Ctrl+C copies the selected cells, Ctrl
+// and the wheel enlarge the font. Its rows are those below the grid's heading, row 0.
 #pragma once
 
 #include <QTableWidget>

@@ -12,7 +12,7 @@ namespace kelvra::desktop {
 // Copies, switches the row's sensor, and shows its settings by pressing `settings`.
 void GiveResultMenu(GridWidget& table, controls::Button& settings);
 
-// Copies, edits, empties a cell, takes an edit back.
-void GiveFormulaMenu(GridWidget& table);
+// Copies, edits, empties a cell, takes an edit back by pressing `undo`.
+void GiveFormulaMenu(GridWidget& table, controls::MenuItem& undo);
 
 }  // namespace kelvra::desktop

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/changes.h"
+#include "forms/copy_form.h"
 #include "forms/dialogs.h"
 #include "forms/displays.h"
 #include "forms/main_window.h"
@@ -35,6 +36,7 @@ struct Forms {
     TimeForm timeForm{changes};
     AboutForm aboutForm{changes};
     SensInfoForm sensInfoForm{changes};
+    CopyForm copyForm{changes};
 
     // In the order of the members above.
     std::vector<controls::Window*> Windows();

@@ -12,7 +12,10 @@ struct MDIMain : Window {
         : Window(changes, "MDIMain", "", {0, 0, 15000, 9900}) {
         closesByRule = true;
         SettingAlwaysOnTop.checkable = true;
-        for (MenuItem* item : {&Load_Sensor_Settings, &Save_Sensor_Settings, &MHelpAbout})
+        EditUndo.enabled = false;
+        EditRedo.enabled = false;
+        for (MenuItem* item :
+             {&Load_Sensor_Settings, &Save_Sensor_Settings, &CopySettings, &MHelpAbout})
             item->opensDialog = true;
         StopIt.enabled = false;
         BusySign.tag = "1";
@@ -65,6 +68,33 @@ struct MDIMain : Window {
                         .shortcut = "Ctrl+Q",
                         .explanation = "Ends a measurement, saves all settings and exits."}};
 
+    MenuItem MEdit{
+        *this,
+        "MEdit",
+        "Edit",
+        {.mnemonic = 'E', .explanation = "Edits of settings and formulas, and copying settings."}};
+    MenuItem EditUndo{MEdit,
+                      "EditUndo",
+                      "Undo",
+                      {.mnemonic = 'U',
+                       .shortcut = "Ctrl+Z",
+                       .explanation = "Takes back the latest edit of the current sensor's settings "
+                                      "or of a formula."}};
+    MenuItem EditRedo{MEdit,
+                      "EditRedo",
+                      "Redo",
+                      {.mnemonic = 'R',
+                       .shortcut = "Ctrl+Shift+Z",
+                       .explanation = "Makes the edit again that was taken back last."}};
+
+    MenuItem line3{MEdit, "line3", "-"};
+    MenuItem CopySettings{
+        MEdit,
+        "CopySettings",
+        "Copy settings to",
+        {.mnemonic = 'C',
+         .explanation = "Gives all settings of the current sensor to others of your choice."}};
+
     MenuItem MenueWindow{
         *this, "MenueWindow", "Window", {.mnemonic = 'W', .explanation = "How windows are shown."}};
     MenuItem SettingAlwaysOnTop{
@@ -109,7 +139,7 @@ struct MDIMain : Window {
                          "",
                          "settingsPic",
                          {.name = "Settings",
-                          .mnemonic = 'e',
+                          .mnemonic = 'n',
                           .explanation = "Shows the settings of the current sensor."}};
     List SensSyncMode{MainTools, "SensSyncMode", {}, -1, {.name = "Synchronisation"}};
     Picture BusySign{

@@ -39,6 +39,12 @@ struct SetupHeader {
         {"lblMode", "Mode", "", 7110, texts::Mode},
         Items{
             {"ContAv", 0}, {"Buffered Cont Avg", 1}, {"Timeslot", 2}, {"Burst", 3}, {"Scope", 4}}};
+    Button cmdCopySettings{Frame1,
+                           "cmdCopySettings",
+                           "Copy to...",
+                           "",
+                           {.name = "Copy settings to",
+                            .explanation = "Gives all settings of this sensor to others."}};
     OptionGroup PageSelect{
         Frame1, "PageSelect",
         Options{{"Option1",
@@ -107,7 +113,7 @@ struct GeneralPage {
     Label lblAvgManual{AverageFrame, "lblAvgManual", "Manual:"};
     OptionField SensAvgMode{AverageFrame,
                             "SensAvgMode",
-                            {},
+                            {.name = "Averaging mode"},
                             Options{{"SensAvgMode(0)", "Resolution", {}, texts::ByResolution},
                                     {"SensAvgMode(1)", "Fixed Noise: Content", {}, texts::ByNoise},
                                     {"SensAvgMode(2)", "Normal: Length", {}, texts::ByCount}}};
@@ -230,7 +236,7 @@ struct ModePage {
     OptionField ScopeAvgMode{
         ScopeFrame,
         "ScopeAvgMode",
-        {},
+        {.name = "Averaging mode"},
         Options{{"ScopeAvgMode(0)", "Resolution", {}, texts::ByResolution},
                 {"ScopeAvgMode(1)", "Fixed Noise: Content", {}, texts::ByNoise},
                 {"ScopeAvgMode(2)", "Normal: Length", {}, texts::ByCount}}};
@@ -365,7 +371,7 @@ struct AdvancedPage {
     OptionField SensRange{
         RangeFrame,
         "SensRange",
-        {},
+        {.name = "Diode range"},
         Options{{"SensRangeAuto", "auto, cross-over:", {.helpTopic = 7141}, texts::RangeAuto},
                 {"SensRangeManual", "manual", {.helpTopic = 7141}, texts::RangeManual}}};
     TextField SensRangeXOver{

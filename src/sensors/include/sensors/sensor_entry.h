@@ -44,7 +44,11 @@ struct SensorPresence {
     bool triggerNowRequest = false;
 };
 
-// The model, "PS-101". A simulated sensor has no id; its resource names the model.
+// What the sensor is known by for this run, wherever it is plugged in: its id. A simulated sensor
+// has none; it is known by its resource.
+const std::string& KeyOf(const SensorPresence& sensor);
+
+// The model, "PS-101".
 std::string_view TypeOf(const SensorPresence& sensor);
 
 // All errors of the sensor, empty if there are none; no line break at the end.

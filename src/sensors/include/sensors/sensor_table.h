@@ -56,15 +56,14 @@ struct SensorTable {
     // Exchanges everything that belongs to the two slots; CurrentSensor follows its sensor.
     void SwapSlots(int a, int b);
 
-    // Whether the user has switched this sensor off in this run. A simulated sensor is known by its
-    // resource.
+    // Whether the user has switched this sensor off in this run.
     bool SwitchedOff(const SensorEntry& entry) const;
     void RememberSwitch(const SensorEntry& entry);
 
 private:
     friend class TableLock;
 
-    std::set<std::string> switchedOff_;
+    std::set<std::string> switchedOff_;  // keys
     int locks_ = 0;
 };
 

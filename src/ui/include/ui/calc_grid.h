@@ -5,7 +5,6 @@
 // formula. The formula language itself is in parser/.
 #pragma once
 
-#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,15 +14,15 @@
 #include "parser/math_parser.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/edit_history.h"
 #include "ui/reading_age.h"
 
 namespace kelvra::ui {
 
 class CalcGrid final : public measure::PassListener {
 public:
-    static constexpr int MostEdits = 100;  // that can be taken back
-
-    CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, platform::Host& host);
+    CalcGrid(forms::MDIMain& window, sensors::SensorTable& table, EditHistory& history,
+             platform::Host& host);
 
     // Heading and the two default rows.
     void LayOut();
@@ -34,6 +33,8 @@ public:
     void PassMeasured() override { Compute(); }
     // Marks the results that need a reading which is no longer live. Call about twice a second.
     void ShowAge(const ReadingAge& age);
+    // Undo and redo of an edit.
+    void Make(const FormulaChange& change);
 
 private:
     static constexpr int FormulaRows = 2;
@@ -47,11 +48,6 @@ private:
         std::string fault;    // why the row fails, as shown
         std::string absent;   // the reading that is not there, as shown
     };
-    struct Edit {
-        int row = 0;
-        int column = 0;
-        std::string before;
-    };
 
     void ComputeRow(int row);
     Evaluator& EvaluatorOf(int row);
@@ -61,7 +57,6 @@ private:
     // The user's acts.
     void AskText(int row, int column);
     void EditText(int row, int column, std::string_view text);
-    void TakeBackEdit();
     void SetText(int row, int column, std::string_view text);
 
     void RemarkOnTyping(int column, std::string_view text);
@@ -73,9 +68,9 @@ private:
 
     controls::Grid& grid_;
     sensors::SensorTable& table_;
+    EditHistory& history_;
     platform::Host& host_;
     Evaluator evaluators_[FormulaRows];
-    std::deque<Edit> edits_;  // the last one at the end
     bool typing_ = false;
 };
 

@@ -5,17 +5,16 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "forms/setup_form.h"
-#include "measure/modes.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/enabling.h"
 #include "ui/error_strip.h"
 #include "ui/sensor_selection.h"
+#include "ui/settings_edits.h"
 #include "ui/setup_rows.h"
 
 namespace kelvra::ui {
@@ -25,7 +24,7 @@ public:
     struct Parts {
         forms::SetupForm& form;
         sensors::SensorTable& table;
-        measure::Modes& modes;
+        SettingsEdits& edits;
         SensorSelection& selection;
         Enabling& enabling;
         ErrorStrip& errorStrip;
@@ -40,9 +39,6 @@ public:
     // A box in which the user is typing stays as it is, unless it was another sensor's.
     void CurrentSensorChanged() override;
 
-    // The settings have been edited.
-    std::function<void()> onEdit;
-
     // The dialog shows the scales of that display for the current sensor.
     bool TraceScaleShown() const;
     bool TimeSlotScaleShown() const;
@@ -55,11 +51,10 @@ private:
     sensors::SensorEntry* Current();
     void FillModes(const sensors::SensorEntry& entry);
     void Edited(const SetupRow& row);
+    void Remember(const SetupRow& row, const sensors::SensorSettings& before);
     void Tidy(const SetupRow& row, controls::TextBox& box);
     bool CountIsRight();
     void AfterStore(const SetupRow& row, const sensors::SensorSettings& before);
-    void ModeChanged();
-    void SlotCountChanged();
     void CheckPoints();
     void NotePoints(sensors::SensorEntry& entry, double points);
     sensors::DisplayScaling& Scaling();

@@ -47,6 +47,9 @@ struct SetupRow {
 // In the order of the pages.
 std::span<const SetupRow> SetupRows();
 
+// The name of what is set: the field's caption, or else what a screen reader says.
+std::string NameOf(const forms::SetupForm& form, const SetupRow& row);
+
 // The text of a text field for a setting.
 std::string ShownText(double stored, const SetupRow& row);
 
