@@ -25,8 +25,10 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
         results_.Window().PlaceAsBefore(place);
     main_.MirrorFrame(preferences_.Frame());
-    mirror_.Add(setup_, std::make_unique<DialogWindowAdapter>(
-                            setup_, [this]() -> DialogWindow& { return MakeSetupDialog(); }));
+    AddDialog(setup_, [this]() -> DialogWindow& { return MakeSetupDialog(); });
+    AddDialog(kelvra.forms.copyForm, [this, &form = kelvra.forms.copyForm]() -> DialogWindow& {
+        return copyWindow_.emplace(form, mirror_, main_.Area()).Window();
+    });
     kelvra.forms.mdiMain.Show_Settings.click.Connect([this] {
         if (setupDialog_) setupDialog_->Window().Raise();
     });
@@ -46,9 +48,13 @@ void Desktop::Recolour() {
     shown_ = CurrentScheme();
 }
 
-// Made when it is first shown: many windows never show it.
+// Dialogs are made when they are first shown: many runs never show them.
+void Desktop::AddDialog(controls::Window& record, std::function<DialogWindow&()> make) {
+    mirror_.Add(record, std::make_unique<DialogWindowAdapter>(record, std::move(make)));
+}
+
 DialogWindow& Desktop::MakeSetupDialog() {
-    setupDialog_.emplace(setup_, mirror_, main_.Area());
+    setupDialog_.emplace(setup_, mirror_, main_.Area(), main_.EditEntries());
     setupDialog_->Window().ShowAsBefore(preferences_.Place(SetupWindow));
     return setupDialog_->Window();
 }

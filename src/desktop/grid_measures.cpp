@@ -14,6 +14,7 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int RowMargin = 8;        // above and below a text together
+constexpr int GridLine = 1;         // at the right of a cell
 constexpr qreal MinorShare = 0.45;  // of the readings' size
 constexpr qreal MostScale = 40;
 constexpr int Third = 3;
@@ -193,7 +194,7 @@ int TextWidth(const QString& text, const QFont& font) {
     int width = 0;
     for (const QString& line : text.split('\n'))
         width = std::max(width, metrics.horizontalAdvance(line));
-    return width + 2 * CellMargin;
+    return width + 2 * CellMargin + GridLine;
 }
 
 int CellWidth(const controls::Grid::Cell& cell, const QFont& columnFont) {

@@ -55,6 +55,7 @@ void MainWindowView::BuildMenus() {
         if (item == nullptr) continue;
         QMenu* menu = widget_.menuBar()->addMenu(MarkedText(*item, item->caption));
         if (item == &form_.MenueWindow) windowMenu_ = menu;
+        if (item == &form_.MEdit) editMenu_ = menu;
         menu->setToolTipsVisible(true);
         for (controls::Control* entry : item->Children()) {
             QAction* action = maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));

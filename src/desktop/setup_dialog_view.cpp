@@ -1,23 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/setup_dialog_view.h"
 
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "desktop/common.h"
 #include "desktop/icons.h"
 #include "desktop/setup_page_views.h"
+#include "ui/setup_rows.h"
 
 namespace kelvra::desktop {
 
 namespace {
+
+// Keeps a box from taking the keys of undo and redo for its own text: an edit of a setting is taken
+// back as a whole.
+class UndoKeys final : public QObject {
+public:
+    explicit UndoKeys(QLineEdit& box) : QObject(&box) { box.installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* box, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride) return QObject::eventFilter(box, event);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    }
+};
+
+void LeaveUndoKeys(QLineEdit& box) {
+    new UndoKeys(box);
+}
+
 constexpr int ErrorLines = 3;
 constexpr int SignSize = 20;  // logical pixels
+
 }  // namespace
 
-SetupDialogView::SetupDialogView(forms::SetupForm& form, Mirror& mirror, QWidget& area)
+SetupDialogView::SetupDialogView(forms::SetupForm& form, Mirror& mirror, QWidget& area,
+                                 const QList<QAction*>& shared)
     : form_(form), maker_(mirror), window_(form, area, Build()) {
     AddPageKeys();
+    window_.addActions(shared);
+    for (const ui::SetupRow& row : ui::SetupRows())
+        if (const auto* field = std::get_if<controls::TextField forms::SetupForm::*>(&row.field))
+            LeaveUndoKeys(*window_.findChild<QLineEdit*>((form_.**field).Name().c_str()));
 }
 
 QWidget* SetupDialogView::Build() {
@@ -47,6 +74,7 @@ QWidget* SetupDialogView::BuildHeader() {
         choices->addSpacing(Margin);
     }
     choices->addStretch();
+    choices->addWidget(maker_.Make(form_.cmdCopySettings));
     rows->addLayout(choices);
     rows->addWidget(maker_.Make(form_.PageSelect, OptionLook::Pages));
     return header;

@@ -17,7 +17,16 @@ namespace {
 
 enum Column { NumberColumn, NameColumn, TypeColumn, ObstacleColumn };
 
-constexpr const char* Headings[] = {"Sensor", "Name", "Type", "Remark"};
+struct ColumnText {
+    const char* heading;
+    const char* longest;  // empty: not known
+};
+constexpr ColumnText ColumnTexts[] = {
+    {"Sensor", "256"},
+    {"Name", ""},
+    {"Type", "PS-000"},
+    {"Remark", "has no continuous average mode"},
+};
 
 // By the mode's number.
 constexpr const char* ModeNames[] = {"continuous average", "buffered average", "time slot", "burst",
@@ -44,8 +53,11 @@ SettingsCopy::SettingsCopy(const Parts& parts) : p_(parts), form_(parts.forms.co
     form_.cmdCopyAll.click.Connect([this] { MarkAll(); });
     form_.cmdCopy.click.Connect([this] { Copy(); });
     form_.cmdCopyCancel.click.Connect([this] { form_.visible = false; });
-    for (const Column column : {NumberColumn, NameColumn, TypeColumn, ObstacleColumn})
-        SetGridCell(form_.CopyTargets, 0, column, Headings[column], Align::Left, true, false);
+    for (const Column column : {NumberColumn, NameColumn, TypeColumn, ObstacleColumn}) {
+        SetGridCell(form_.CopyTargets, 0, column, ColumnTexts[column].heading, Align::Left, true,
+                    false);
+        form_.CopyTargets.SetSample(column, ColumnTexts[column].longest);
+    }
 }
 
 void SettingsCopy::Open() {
@@ -90,13 +102,12 @@ void SettingsCopy::Refresh() {
     form_.cmdCopy.enabled = anyMarked;
 }
 
-// A marked sensor's row is bold.
 void SettingsCopy::ShowRow(int row, int slot) {
     const sensors::SensorEntry& entry = p_.table[slot];
     const std::string obstacle = Obstacle(slot);
     const bool marked = IsMarked(slot);
     const auto show = [&](Column column, std::string_view text) {
-        SetGridCell(form_.CopyTargets, row, column, text, Align::Left, marked, false);
+        SetGridCell(form_.CopyTargets, row, column, text, Align::Left, false, false);
     };
     show(NumberColumn, Whole(driver::ChannelOf(slot)));
     show(NameColumn, entry.logicalName);

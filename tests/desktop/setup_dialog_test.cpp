@@ -108,6 +108,42 @@ private slots:
         }
     }
 
+    void TheUndoKeysTakeBackAnEditAsAWhole() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        opened.Form().PageSelect.Select(1);
+        opened.Painted();
+        QApplication::setActiveWindow(&opened.SetupDialog());
+        auto& box = opened.In<QLineEdit>("SensContAVTime");
+        const double before = opened.Settings().ContAVAper;
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, "123");
+        QCOMPARE(opened.Settings().ContAVAper, 0.123);
+        QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(opened.Settings().ContAVAper, before);
+        QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(opened.Settings().ContAVAper, 0.123);
+        opened.Painted();
+        QCOMPARE(box.text(), "123");
+    }
+
+    void AMarkedSensorGetsTheSettings() {
+        const QTemporaryDir data;
+        Opened opened(data);
+        opened.Settings().ContAVAper = 0.5;
+        QTest::mouseClick(&opened.In<QPushButton>("cmdCopySettings"), Qt::LeftButton);
+        opened.Painted();
+        GridWidget* sensors = nullptr;
+        for (QWidget* widget : QApplication::allWidgets())
+            if (widget->objectName() == "CopyTargets") sensors = dynamic_cast<GridWidget*>(widget);
+        QVERIFY(sensors != nullptr && sensors->rowCount() == 1);
+        ClickCell(*sensors, 0, 1);
+        opened.Painted();
+        QTest::mouseClick(sensors->window()->findChild<QPushButton*>("cmdCopy"), Qt::LeftButton);
+        QCOMPARE(opened.kelvra.table[1].settings.ContAVAper, 0.5);
+    }
+
     void TheWheelChangesNothing() {
         const QTemporaryDir data;
         Opened opened(data);

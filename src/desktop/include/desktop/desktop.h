@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/kelvra.h"
+#include "desktop/copy_window_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/mirror.h"
 #include "desktop/preferences.h"
@@ -32,6 +33,7 @@ public:
 
 private:
     void Recolour();
+    void AddDialog(controls::Window& record, std::function<DialogWindow&()> make);
     DialogWindow& MakeSetupDialog();
     void KeepLook();
 
@@ -44,6 +46,7 @@ private:
     ResultWindowView results_;
     ViewMenu view_;
     std::optional<SetupDialogView> setupDialog_;
+    std::optional<CopyWindowView> copyWindow_;
 };
 
 }  // namespace kelvra::desktop

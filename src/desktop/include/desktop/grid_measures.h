@@ -47,7 +47,7 @@ GridMeasures MeasureGrid(const controls::Grid& grid, const GridFonts& fonts);
 // the width goes to the first column.
 qreal LargestScale(const controls::Grid& grid, GridFonts fonts, const QSize& room);
 
-// Width of a text of several lines, with the margins of a cell.
+// Width of a text of several lines, with the margins and the line of a cell.
 int TextWidth(const QString& text, const QFont& font);
 // The same for a cell with its own weight and mark.
 int CellWidth(const controls::Grid::Cell& cell, const QFont& columnFont);

@@ -28,6 +28,7 @@ public:
     GridWidget& Formulas() { return *formulas_; }
     // For the front end's own entries.
     QMenu& WindowMenu() { return *windowMenu_; }
+    QList<QAction*> EditEntries() const { return editMenu_->actions(); }
 
 private:
     void BuildMenus();
@@ -46,6 +47,7 @@ private:
     QMdiArea* area_;
     GridWidget* formulas_;
     QMenu* windowMenu_ = nullptr;
+    QMenu* editMenu_ = nullptr;
 };
 
 }  // namespace kelvra::desktop

@@ -13,8 +13,10 @@ namespace kelvra::desktop {
 
 class SetupDialogView {
 public:
-    // `area` is what the dialog's place counts from.
-    SetupDialogView(forms::SetupForm& form, Mirror& mirror, QWidget& area);
+    // `area` is what the dialog's place counts from. The keys of the frame's `shared` menu entries
+    // work in the dialog, too.
+    SetupDialogView(forms::SetupForm& form, Mirror& mirror, QWidget& area,
+                    const QList<QAction*>& shared);
 
     DialogWindow& Window() { return window_; }
 
