@@ -190,11 +190,11 @@ qreal LargestScale(const controls::Grid& grid, GridFonts fonts, const QSize& roo
 }
 
 int TextWidth(const QString& text, const QFont& font) {
-    const QFontMetrics metrics(font);
-    int width = 0;
+    const QFontMetricsF metrics(font);
+    qreal width = 0;
     for (const QString& line : text.split('\n'))
         width = std::max(width, metrics.horizontalAdvance(line));
-    return width + 2 * CellMargin + GridLine;
+    return static_cast<int>(std::ceil(width)) + 2 * CellMargin + GridLine;
 }
 
 int CellWidth(const controls::Grid::Cell& cell, const QFont& columnFont) {
