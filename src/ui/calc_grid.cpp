@@ -166,7 +166,6 @@ void CalcGrid::AskText(int row, int column) {
 
 void CalcGrid::EditText(int row, int column, std::string_view text) {
     const FormulaChange change{row, column, grid_.At(row, column).Text(), std::string(text)};
-    if (change.from == change.to) return;
     Make(change);
     history_.Add({"", ColumnTexts[column].edit, change});
 }

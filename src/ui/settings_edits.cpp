@@ -19,7 +19,7 @@ void SettingsEdits::Replace(int slot, std::string what, const SensorSettings& se
     const SensorSettings before = table_[slot].settings;
     table_[slot].settings = settings;
     Edited(slot, std::move(what), before);
-    TellReplaced(slot);
+    if (onReplace) onReplace(slot);
 }
 
 void SettingsEdits::Make(int slot, const SettingsChange& change) {
@@ -32,7 +32,7 @@ void SettingsEdits::Make(int slot, const SettingsChange& change) {
             },
             field.member);
     Follow(slot, before);
-    TellReplaced(slot);
+    if (onReplace) onReplace(slot);
 }
 
 void SettingsEdits::Follow(int slot, const SensorSettings& before) {
@@ -45,10 +45,6 @@ void SettingsEdits::Follow(int slot, const SensorSettings& before) {
         sensors::PrepareWorkArrays(table_, slot);
     }
     if (onEdit) onEdit();
-}
-
-void SettingsEdits::TellReplaced(int slot) {
-    if (slot == table_.currentSensor && onReplace) onReplace();
 }
 
 }  // namespace kelvra::ui

@@ -66,7 +66,7 @@ std::string TypeInfo(const std::string& sensorId) {
 
 SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.SensMode.Items()) {
     p_.selection.listeners.Add(*this);
-    p_.edits.onReplace = [this] { ShowCurrent(); };
+    p_.edits.onReplace = [this](int slot) { Replaced(slot); };
     ConnectFields();
     ConnectScales();
     ConnectHelp(p_.form);
@@ -141,6 +141,12 @@ void SetupDialog::ShowCurrent(Typing typing) {
     filling_ = false;  // also after the first sensor
     NotePoints(*entry, entry->settings.ScopePoints);
     p_.enabling.Refresh();
+}
+
+void SetupDialog::Replaced(int slot) {
+    if (slot == p_.table.currentSensor) return ShowCurrent();
+    SensorEntry& entry = p_.table[slot];
+    NotePoints(entry, entry.settings.ScopePoints);
 }
 
 // A model that is not known has all modes.

@@ -60,12 +60,14 @@ TEST_F(SettingsCopyTest, OnlySensorsWithTheModeCanBeMarkedAndGetAllSettings) {
     EXPECT_EQ(Form().CopyTargets.At(1, 2).Text(), "PS-102");
     EXPECT_EQ(Form().CopyTargets.At(1, 3).Text(), "has no time slot mode");
     const sensors::SensorSettings before = Settings(3);
+    program->table[3].pointsError = "too many";         // not with the settings that it gets
     program->forms.setupForm.SensContAVTime.Type("7");  // is copied as well
     Form().cmdCopy.Press();
     for (const int slot : {2, 3}) {
         EXPECT_EQ(Settings(slot), Settings(0));
         EXPECT_EQ(program->table[slot].slotStats.size(), 3U);
         EXPECT_TRUE(program->table[slot].settingsChanged);
+        EXPECT_EQ(program->table[slot].pointsError, "");
     }
     EXPECT_EQ(Settings(1), sensors::DefaultSettings());
     EXPECT_TRUE(program->forms.timeSlotDisp.visible);
@@ -80,7 +82,8 @@ TEST_F(SettingsCopyTest, OnlySensorsWithTheModeCanBeMarkedAndGetAllSettings) {
 }
 
 TEST_F(SettingsCopyTest, TheWindowFollowsTheSensorsAndMarksBelongToThem) {
-    Form().CopyTargets.ClickCell(3, 0);
+    Form().cmdCopyAll.Press();
+    for (const int row : {1, 2}) Form().CopyTargets.ClickCell(row, 0);
     EXPECT_EQ(Rows(), "B -C +D");
     Select(1);  // its mode is the one that all have
     EXPECT_EQ(Rows(), "-A -C +D");

@@ -36,6 +36,7 @@ TEST_F(UndoTest, WhatIsTypedIntoOneBoxIsOneStepUntilItIsCommitted) {
     const Act enter = [this] { Form().SensContAVTime.PressKey("Enter"); };
     const Act undo = [this] { UndoItem().Press(); };
     const Act count = [this] { Form().SensSlotCount.Type("0"); };  // becomes 1
+    const Act five = [this] { Form().SensSlotCount.Type("5"); };
     const Act check = [this] { Form().SensContAVSmooth.Toggle(); };
     const Act same = [this] { Form().SensTrigger.Choose(3); };
     const Act away = [this] {
@@ -55,7 +56,7 @@ TEST_F(UndoTest, WhatIsTypedIntoOneBoxIsOneStepUntilItIsCommitted) {
         {"back where it began", {type("1"), type(""), type("100")}, 0},
         {"nothing", {type("100"), same}, 0},
         {"a check box twice", {check, check}, 2},
-        {"a text that the program completes", {count, count, type("1"), type("2")}, 2},
+        {"a text that the program completes", {count, five}, 2},
         {"another sensor meanwhile", {type("1"), away, type("12")}, 2},
         {"undone while it is typed", {type("1"), undo, type("12"), type("13")}, 1},
     };
@@ -193,6 +194,27 @@ TEST_F(UndoTest, AnUndoIsSavedAndSentAndTheStepsAreCounted) {
     EXPECT_NE(folder.Get("Kelvra.INI").find("ContAVAper=.001"), std::string::npos);
     Measure(1);
     EXPECT_FALSE(Current().settingsChanged);
+}
+
+TEST_F(UndoTest, OnlyAnOpenStepOfTheSameSensorGathers) {
+    EditHistory history;
+    const auto add = [&](const char* sensor, std::int16_t count) {
+        SensorSettings to = sensors::DefaultSettings();
+        to.TSlotCount = count;
+        history.Add({sensor, "", SettingsChange{sensors::DefaultSettings(), to}},
+                    &Form().SensSlotCount);
+    };
+    add("A", 1);
+    add("B", 2);
+    history.EndStep();
+    add("B", 3);
+    history.Take(Direction::Undo, "B");
+    add("B", 4);
+    for (const auto& [sensor, steps] : {std::pair("A", 1), std::pair("B", 2)}) {
+        int taken = 0;
+        while (history.Take(Direction::Undo, sensor)) ++taken;
+        EXPECT_EQ(taken, steps) << sensor;
+    }
 }
 
 TEST_F(UndoTest, EveryFieldHasAName) {

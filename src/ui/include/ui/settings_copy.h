@@ -29,8 +29,7 @@ public:
     explicit SettingsCopy(const Parts& parts);
 
     void CurrentSensorChanged() override { Refresh(); }
-    void Started() override { Refresh(); }
-    // Also when sensors have come or gone, or have other names.
+    // Also after Start's reordering, and when sensors have come or gone or have other names.
     void ModesChanged() override { Refresh(); }
 
 private:

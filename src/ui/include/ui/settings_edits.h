@@ -31,12 +31,11 @@ public:
 
     // Settings have been edited.
     std::function<void()> onEdit;
-    // The current sensor has got other settings, which are to be shown.
-    std::function<void()> onReplace;
+    // The slot's sensor has got other settings.
+    std::function<void(int slot)> onReplace;
 
 private:
     void Follow(int slot, const sensors::SensorSettings& before);
-    void TellReplaced(int slot);
 
     sensors::SensorTable& table_;
     measure::Modes& modes_;

@@ -51,6 +51,7 @@ private:
     sensors::SensorEntry* Current();
     void FillModes(const sensors::SensorEntry& entry);
     void Edited(const SetupRow& row);
+    void Replaced(int slot);
     void Remember(const SetupRow& row, const sensors::SensorSettings& before);
     void Tidy(const SetupRow& row, controls::TextBox& box);
     bool CountIsRight();
