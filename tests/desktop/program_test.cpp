@@ -66,7 +66,7 @@ private slots:
         QCOMPARE(running.kelvra.state.starts, 2);
     }
 
-    void AnEditedFormulaIsComputedAndUndone() {
+    void AnEditedFormulaIsComputed() {
         const QTemporaryDir data;
         RunningDesktop running(data);
         auto& grid = running.Find<GridWidget>("CalcGrid");
@@ -76,9 +76,6 @@ private slots:
         running.desktop.Painter().Flush();
         QCOMPARE(Cell(grid, 0, 1), "X1dB");
         QCOMPARE(WholeLevel(grid, 0), -9);
-        QTest::keyClick(&grid, Qt::Key_Z, Qt::ControlModifier);
-        running.desktop.Painter().Flush();
-        QCOMPARE(Cell(grid, 0, 1), "ABS(X1dB-X2dB)");
     }
 
     void AFormulaIsCheckedWhileItIsTypedAndTakenBack() {
