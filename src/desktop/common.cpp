@@ -5,7 +5,6 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "desktop/colour_roles.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -13,7 +12,7 @@ namespace kelvra::desktop {
 namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int OneLine = 80;  // characters
-constexpr const char* OwnTooltip = "ownTooltip";
+constexpr const char* TooltipProperty = "ownTooltip";
 constexpr const char* IsWithheld = "withheld";
 constexpr const char* Later = "This window comes with a later version";
 }  // namespace
@@ -23,22 +22,6 @@ int Pixels(int twips) {
 }
 int Twips(int pixels) {
     return pixels * TwipsPerPixel;
-}
-
-void UpdateCommon(QWidget& widget, const controls::Control& control) {
-    widget.setEnabled(control.enabled && !Withheld(widget));
-    // A widget outside a window would be shown as a window; it becomes visible once it is in one.
-    const bool alone = widget.parentWidget() == nullptr;
-    if (!alone || !control.visible) widget.setVisible(control.visible);
-    ShowTooltip(widget, TooltipOf(widget, control));
-    UpdateColours(widget, control);
-}
-
-QString TooltipOf(const QWidget& widget, const controls::Control& control) {
-    const QString own = widget.property(OwnTooltip).toString();
-    if (control.tooltip->empty()) return own;
-    const QString text = Shown(control.tooltip.Get()).replace("\r\n", "\n");
-    return own.isEmpty() ? text : text + '\n' + own;
 }
 
 void ShowTooltip(QWidget& widget, const QString& text) {
@@ -53,7 +36,11 @@ QString TooltipText(const QString& text) {
 }
 
 void SetOwnTooltip(QWidget& widget, const QString& text) {
-    widget.setProperty(OwnTooltip, text);
+    widget.setProperty(TooltipProperty, text);
+}
+
+QString OwnTooltip(const QWidget& widget) {
+    return widget.property(TooltipProperty).toString();
 }
 
 QString MarkedText(const controls::Control& control, const std::string& caption) {

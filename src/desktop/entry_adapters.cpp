@@ -20,7 +20,7 @@ TextBoxAdapter::TextBoxAdapter(controls::TextBox& box, QLineEdit& widget)
 
 void TextBoxAdapter::Update() {
     if (const QString text = Shown(box_.Text()); widget_.text() != text) widget_.setText(text);
-    UpdateCommon(widget_, box_);
+    UpdateCommon(widget_, box_, box_.fault);
     ShowFault();
 }
 
@@ -30,10 +30,7 @@ void TextBoxAdapter::ShowFault() {
     if (sign_ == nullptr)
         sign_ = widget_.addAction(Icon("inputFault"), QLineEdit::TrailingPosition);
     sign_->setVisible(faulty);
-    if (!faulty) return;
-    const QString fault = Shown(box_.fault.Get());
-    sign_->setToolTip(fault);
-    ShowTooltip(widget_, fault + "\n\n" + TooltipOf(widget_, box_));
+    sign_->setToolTip(Shown(box_.fault.Get()));
 }
 
 CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)

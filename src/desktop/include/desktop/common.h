@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What all adapters do: enabled, visible, tooltip, names, sizes.
+// What adapters and views share: tooltips, mnemonics, sizes and places.
 #pragma once
 
 #include <QAction>
@@ -18,19 +18,15 @@ constexpr int Margin = 8;  // logical pixels, around what is in a frame
 int Pixels(int twips);
 int Twips(int pixels);
 
-// Enabled, visible, tooltip, colours.
-void UpdateCommon(QWidget& widget, const controls::Control& control);
-
 // A text for a tooltip: nothing in it is taken for markup, and long lines are wrapped.
 QString TooltipText(const QString& text);
 
-// What the control's tooltip says, and below it what the widget's own does.
-QString TooltipOf(const QWidget& widget, const controls::Control& control);
 // For the mouse and for screen readers.
 void ShowTooltip(QWidget& widget, const QString& text);
 
 // The tooltip to show after the control's.
 void SetOwnTooltip(QWidget& widget, const QString& text);
+QString OwnTooltip(const QWidget& widget);
 
 // The control's caption, or its name if it has none, with the mnemonic marked as the toolkit
 // expects it.

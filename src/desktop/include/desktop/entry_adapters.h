@@ -8,14 +8,14 @@
 
 #include "controls/kinds.h"
 #include "controls/option_group.h"
-#include "desktop/adapter.h"
+#include "desktop/widget_adapter.h"
 
 namespace kelvra::desktop {
 
 // Each letter is typed into the record; Enter, and leaving the control, commit. A text that is
 // being typed stays unless the record gets a different one. A text that can't be used gets a sign,
 // and the tooltip says why.
-class TextBoxAdapter final : public Adapter {
+class TextBoxAdapter final : public WidgetAdapter {
 public:
     TextBoxAdapter(controls::TextBox& box, QLineEdit& widget);
     void Update() override;
@@ -28,7 +28,7 @@ private:
     QAction* sign_ = nullptr;  // in the box; made for the first fault
 };
 
-class CheckBoxAdapter final : public Adapter {
+class CheckBoxAdapter final : public WidgetAdapter {
 public:
     CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget);
     void Update() override;
@@ -39,7 +39,7 @@ private:
 };
 
 // One option of a group; the options share a parent and exclude each other.
-class OptionAdapter final : public Adapter {
+class OptionAdapter final : public WidgetAdapter {
 public:
     OptionAdapter(controls::Option& option, QAbstractButton& widget);
     void Update() override;
@@ -50,7 +50,7 @@ private:
 };
 
 // The widget that contains the options; the keyboard reaches the selected one.
-class OptionGroupAdapter final : public Adapter {
+class OptionGroupAdapter final : public WidgetAdapter {
 public:
     OptionGroupAdapter(const controls::OptionGroup& group, QWidget& widget,
                        QList<QAbstractButton*> options)

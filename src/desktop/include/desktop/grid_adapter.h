@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "controls/grid.h"
-#include "desktop/adapter.h"
 #include "desktop/grid_widget.h"
 #include "desktop/schemes.h"
+#include "desktop/widget_adapter.h"
 
 namespace kelvra::desktop {
 
-class GridAdapter final : public Adapter {
+class GridAdapter final : public WidgetAdapter {
 public:
     GridAdapter(controls::Grid& grid, GridWidget& widget);
     void Update() override;

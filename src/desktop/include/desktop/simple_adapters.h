@@ -10,13 +10,13 @@
 
 #include "controls/kinds.h"
 #include "controls/list.h"
-#include "desktop/adapter.h"
 #include "desktop/grid_measures.h"
 #include "desktop/schemes.h"
+#include "desktop/widget_adapter.h"
 
 namespace kelvra::desktop {
 
-class LabelAdapter final : public Adapter {
+class LabelAdapter final : public WidgetAdapter {
 public:
     // `named` is the control that the label describes; the label shows its mnemonic.
     LabelAdapter(const controls::Label& label, QLabel& widget,
@@ -30,7 +30,7 @@ private:
     QString shown_;
 };
 
-class ButtonAdapter final : public Adapter {
+class ButtonAdapter final : public WidgetAdapter {
 public:
     ButtonAdapter(controls::Button& button, QPushButton& widget);
     void Update() override;
@@ -72,7 +72,7 @@ private:
     QSize Bounded(const QSize& size, int characters) const;
 };
 
-class ListAdapter final : public Adapter {
+class ListAdapter final : public WidgetAdapter {
 public:
     ListAdapter(controls::List& list, QComboBox& widget);
     void Update() override;
@@ -85,7 +85,7 @@ private:
     std::vector<controls::List::Item> shown_;
 };
 
-class PictureAdapter final : public Adapter {
+class PictureAdapter final : public WidgetAdapter {
 public:
     // `size` is the side of the picture in logical pixels.
     PictureAdapter(const controls::Picture& picture, QLabel& widget, int size)
@@ -100,7 +100,7 @@ private:
     Scheme scheme_ = Scheme::Classic;
 };
 
-class FrameAdapter final : public Adapter {
+class FrameAdapter final : public WidgetAdapter {
 public:
     FrameAdapter(const controls::Frame& frame, QWidget& widget) : frame_(frame), widget_(widget) {}
     void Update() override;
