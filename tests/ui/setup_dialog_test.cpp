@@ -245,6 +245,60 @@ TEST_F(SetupDialogTest, EditsAreSavedSomeSecondsAfterTheLastOneAlsoWhileMeasurin
     PressStart();
 }
 
+TEST_F(SetupDialogTest, TheDialogStaysWithItsSensorUntilThatIsGone) {
+    const auto shown = [this] { return Form().SensTypeInfo.caption.Get(); };
+    Form().SensSelect.Choose(1);
+    Entry(0).enabled = false;
+    Measure(1);  // Start puts the second sensor first
+    EXPECT_EQ(shown(), "PS-101, S/N 2");
+    Form().SensContAVTime.Type("7");
+    EXPECT_EQ(Entry(0).sensorId, "PS-101;2");
+    EXPECT_EQ(Entry(0).settings.ContAVAper, 0.007);
+    EXPECT_EQ(Entry(1).settings.ContAVAper, 0.1);
+    Form().SensContAVTime.Type("8x");
+    Entry(0).enabled = false;  // is in no list, and stays the current one
+    Tick();
+    EXPECT_EQ(Form().SensContAVTime.Text(), "8x");
+    driver.devices.pop_back();
+    Tick();
+    EXPECT_EQ(shown(), "PS-101, S/N 1");
+    EXPECT_EQ(Form().SensContAVTime.Text(), "100");
+    driver.devices.clear();
+    Tick();
+    ASSERT_TRUE(program->table.simulationMode);
+    Form().SensContAVTime.Type("9");
+    EXPECT_EQ(Settings().ContAVAper, 0.009);
+    driver.devices = {{"A", "PS-101", "1"}};
+    Tick();
+    EXPECT_EQ(Settings().ContAVAper, 0.1);
+}
+
+TEST_F(SetupDialogTest, WithoutASensorNothingIsStored) {
+    program->table.entries.assign(program->table.entries.size(), {});
+    const SensorSettings before = Settings();
+    Form().SensContAVTime.Type("7");
+    Form().SensMode.Choose(1);
+    Form().txtMinTime.Type("-1");
+    Form().SensTriggerNow.Press();
+    EXPECT_EQ(Differing(before, Settings()), "");
+    EXPECT_FALSE(Entry().settingsChanged);
+}
+
+TEST_F(SetupDialogTest, AnEditInTheMiddleOfATransferIsSentInTheNextPass) {
+    int sent = 0;
+    driver.onCall = [&](std::string_view name) {
+        if (name == "psdrv_trigger_setSource" && ++sent == 1) Form().SensContAVTime.Type("7");
+    };
+    Measure(2);
+    EXPECT_EQ(driver.calls.back(), "psdrv_close(12)");
+    int apertures = 0;
+    for (const std::string& call : driver.calls)
+        apertures += call == "psdrv_chan_setContAvAperture(12, 1, 0.007)" ? 1 : 0;
+    EXPECT_GE(apertures, 1);
+    EXPECT_EQ(driver.Count("psdrv_chan_reset"), 3);  // the second sensor's once
+    EXPECT_FALSE(Entry().settingsChanged);
+}
+
 TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
     program->table.scaling[0].minTime = 1.0 / 3;
     program->windows.setupDialog.ShowCurrent();
