@@ -24,7 +24,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
       edits(table, modes, history),
       editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
-      setupDialog({forms.setupForm, table, edits, selection, enabling, errorStrip, host}),
+      setupDialog(
+          {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
       settingsCopy({forms, table, edits, selection, notice}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });

@@ -15,18 +15,26 @@ DisplayLists::DisplayLists(forms::Forms& forms, const sensors::SensorTable& tabl
 
 // Start selects the first of each list.
 void DisplayLists::Started() {
-    forms_.timeSlotDisp.Timeslot_Sensorselect.Clear();
-    forms_.scopeDisp.Scope_Sensorselect.Clear();
+    for (const sensors::Mode mode : {sensors::TimeSlot, sensors::Trace}) ListOf(mode).Clear();
 }
 
 void DisplayLists::ModesChanged() {
-    controls::List& slots = forms_.timeSlotDisp.Timeslot_Sensorselect;
-    controls::List& traces = forms_.scopeDisp.Scope_Sensorselect;
-    Fill(slots, sensors::TimeSlot, slots.Data());
-    Fill(traces, sensors::Trace, traces.Data());
+    for (const sensors::Mode mode : {sensors::TimeSlot, sensors::Trace}) Fill(mode);
 }
 
-void DisplayLists::Fill(controls::List& list, sensors::Mode mode, int selected) {
+controls::List& DisplayLists::ListOf(sensors::Mode mode) {
+    return mode == sensors::TimeSlot ? forms_.timeSlotDisp.Timeslot_Sensorselect
+                                     : forms_.scopeDisp.Scope_Sensorselect;
+}
+
+void DisplayLists::Select(sensors::Mode mode, int slot) {
+    controls::List& list = ListOf(mode);
+    if (const int index = list.IndexOfData(slot); index >= 0) list.SetIndex(index);
+}
+
+void DisplayLists::Fill(sensors::Mode mode) {
+    controls::List& list = ListOf(mode);
+    const int selected = list.Data();
     std::vector<controls::List::Item> items;
     for (int slot = 0; slot < table_.Slots(); ++slot)
         if (sensors::MeasuresIn(table_[slot], mode))

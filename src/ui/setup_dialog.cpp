@@ -122,6 +122,9 @@ SensorEntry* SetupDialog::Current() {
 void SetupDialog::CurrentSensorChanged() {
     const SensorEntry* entry = Current();
     const bool same = entry != nullptr && shownFor_ == entry->resourceName;
+    // By the scales of the sensor before: the display that they belong to shows this sensor now.
+    if (TraceScaleShown()) p_.displays.Select(sensors::Trace, p_.table.currentSensor);
+    if (TimeSlotScaleShown()) p_.displays.Select(sensors::TimeSlot, p_.table.currentSensor);
     ShowCurrent(same ? Typing::Stays : Typing::IsReplaced);
 }
 

@@ -273,6 +273,22 @@ TEST_F(SetupDialogTest, TheDialogStaysWithItsSensorUntilThatIsGone) {
     EXPECT_EQ(Settings().ContAVAper, 0.1);
 }
 
+TEST_F(SetupDialogTest, TheDisplayWhoseScalesAreShownFollowsTheDialog) {
+    controls::List& traces = program->forms.scopeDisp.Scope_Sensorselect;
+    for (const int slot : {1, 0}) {
+        Form().SensSelect.Choose(slot);
+        Form().SensMode.Choose(Form().SensMode.IndexOfData(sensors::Trace));
+    }
+    for (const int slot : {1, 0}) {
+        Form().SensSelect.Choose(slot);
+        EXPECT_EQ(traces.Data(), slot);
+    }
+    Form().SensMode.Choose(Form().SensMode.IndexOfData(sensors::ContinuousAverage));
+    Form().SensSelect.Choose(1);
+    EXPECT_EQ(traces.Data(), 1);
+    EXPECT_EQ(traces.Count(), 1);
+}
+
 TEST_F(SetupDialogTest, WithoutASensorNothingIsStored) {
     program->table.entries.assign(program->table.entries.size(), {});
     const SensorSettings before = Settings();

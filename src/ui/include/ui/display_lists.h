@@ -19,9 +19,12 @@ public:
     // A selected sensor that is still listed stays selected.
     void ModesChanged() override;
     void ListedChanged() override { ModesChanged(); }
+    // Selects the slot in the list of that mode's display, if it is listed there.
+    void Select(sensors::Mode mode, int slot);
 
 private:
-    void Fill(controls::List& list, sensors::Mode mode, int selected);
+    controls::List& ListOf(sensors::Mode mode);
+    void Fill(sensors::Mode mode);
 
     forms::Forms& forms_;
     const sensors::SensorTable& table_;

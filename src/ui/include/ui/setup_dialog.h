@@ -11,6 +11,7 @@
 #include "forms/setup_form.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/display_lists.h"
 #include "ui/enabling.h"
 #include "ui/error_strip.h"
 #include "ui/sensor_selection.h"
@@ -28,6 +29,7 @@ public:
         SensorSelection& selection;
         Enabling& enabling;
         ErrorStrip& errorStrip;
+        DisplayLists& displays;
         platform::Host& host;
     };
 
