@@ -159,11 +159,8 @@ void TimeKeystrokes(DesktopRun& run) {
     std::printf("storing a keystroke: %.2f us\n", Median(times));
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    WatchedApplication application(argc, argv);
+// The dialog is open, and the second sensor has other settings than the first.
+void Measure() {
     DesktopRun run;
     ChangeAll(run.kelvra.table[1].settings);
     run.kelvra.forms.mdiMain.Show_Settings.Press();
@@ -171,5 +168,14 @@ int main(int argc, char** argv) {
     QCoreApplication::processEvents();
     TimeChoices(run);
     TimeKeystrokes(run);
+}
 
+}  // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): an exception ends the program, as it should
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    WatchedApplication application(argc, argv);
+    Measure();
+    return 0;
 }
