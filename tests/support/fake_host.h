@@ -70,6 +70,14 @@ public:
         messages.push_back({title, text});
         if (onMessage) onMessage();
     }
+    std::function<void(std::function<void()>)> onConfirm;  // keeps the continuation for later
+    void Confirm(Text title, Text text, platform::MessageIcon icon,
+                 std::function<void()> confirmed) override {
+        Message(title, text, icon);
+        onConfirm ? onConfirm(std::move(confirmed)) : confirmed();
+    }
+    std::vector<std::string> copied;
+    void CopyText(Text text) override { copied.push_back(text); }
     void LastMessage(Text text) override { Message({}, text, platform::MessageIcon::None); }
     void Prompt(Text, Text, Answer answer) override { answer(std::nullopt); }
     void AskFile(const platform::FileQuestion& question, Answer answer) override {
