@@ -121,7 +121,9 @@ public:
     std::optional<platform::LocalTime> ProgramFileDate() override { return programDate; }
     const util::NumberForm& Numbers() override { return numbers; }
     std::string DateText(const platform::LocalTime&) override { return "date"; }
-    std::string TimeText(const platform::LocalTime&) override { return "time"; }
+    std::string TimeText(const platform::LocalTime& time) override {
+        return std::to_string(time.hour) + ":" + std::to_string(time.minute);
+    }
     platform::LoadedLibrary LoadDriverLibrary(Text name) override {
         const std::string file = "lib" + name + ".so";
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
