@@ -14,7 +14,8 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       cycle({table, state, host, driverSession, transfer, readings, modes, news}),
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
-      windows(forms, table, state, cycle, modes, host),
+      sensorCommands({table, state, host, driverSession, news}),
+      windows(forms, table, state, cycle, sensorCommands, modes, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
       settingsCommands_(forms, table, windows.edits, windows.setupDialog, windows.notice, host) {

@@ -6,13 +6,14 @@
 namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-                 measure::Cycle& cycle, measure::Modes& modes, platform::Host& host)
+                 measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
+                 platform::Host& host)
     : notice(forms.mdiMain, table, host.clock),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
       lists(forms, table, selection),
       readingAge(forms.statusForm, table, host.clock),
-      results(forms.statusForm, table, selection, readingAge, host.computer.Numbers()),
+      results(forms.statusForm, table, selection, readingAge, host.computer),
       marks(forms.statusForm, table, host.events),
       calcGrid(forms.mdiMain, table, history, host),
       speed(forms.mdiMain, host),
@@ -26,9 +27,12 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
       setupDialog(
           {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
-      settingsCopy({forms, table, edits, selection, notice}) {
+      settingsCopy({forms, table, edits, selection, notice}),
+      sensorCommands({forms, table, commands, notice, host}) {
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
-    forms.mdiMain.StopIt.click.Connect([&cycle] { cycle.Stop(); });
+    forms.mdiMain.StopIt.click.Connect([&cycle, &commands] {
+        if (!commands.Stop()) cycle.Stop();
+    });
 }
 
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
@@ -42,6 +46,9 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
         news.pass.Add(*listener);
     news.slot.Add(marks);
     news.slot.Add(results);
+    for (measure::CommandListener* listener : std::initializer_list<measure::CommandListener*>{
+             &enabling, &marks, &results, &sensorCommands})
+        news.command.Add(*listener);
     session.notices.Add(errorStrip);
     session.marks.Add(notice);
     session.marks.Add(marks);

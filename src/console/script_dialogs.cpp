@@ -23,6 +23,12 @@ void ScriptDialogs::Message(const std::string& title, const std::string& text,
     Write("message", title.empty() ? ProgramName : title, text);
 }
 
+void ScriptDialogs::Confirm(const std::string& title, const std::string& text,
+                            platform::MessageIcon icon, std::function<void()> confirmed) {
+    Message(title, text, icon);
+    confirmed();
+}
+
 void ScriptDialogs::LastMessage(const std::string& text) {
     Write("message", ProgramName, text);
 }
@@ -39,6 +45,10 @@ void ScriptDialogs::Prompt(const std::string& text, const std::string&, Answer a
 
 void ScriptDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     Ask("dialog", question.title, answer);
+}
+
+void ScriptDialogs::CopyText(const std::string& text) {
+    output_.Line("clipboard: " + OneLine(text));
 }
 
 platform::ScreenSize ScriptDialogs::Screen() {

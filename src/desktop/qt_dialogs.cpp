@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/qt_dialogs.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -70,9 +71,16 @@ void QtDialogs::Open(QDialog& dialog, std::function<void(bool accepted)> finishe
 void QtDialogs::Message(const std::string& title, const std::string& text,
                         platform::MessageIcon icon) {
     WaitingMessage message{title, text, icon};
-    if (shown_ == message || std::find(waiting_.begin(), waiting_.end(), message) != waiting_.end())
-        return;
+    const auto same = [&](const WaitingMessage& other) { return other.SaysTheSame(message); };
+    if (shown_ && same(*shown_)) return;
+    if (std::any_of(waiting_.begin(), waiting_.end(), same)) return;
     waiting_.push_back(std::move(message));
+    ShowNext();
+}
+
+void QtDialogs::Confirm(const std::string& title, const std::string& text,
+                        platform::MessageIcon icon, std::function<void()> confirmed) {
+    waiting_.push_back({title, text, icon, std::move(confirmed)});
     ShowNext();
 }
 
@@ -85,8 +93,10 @@ void QtDialogs::ShowNext() {
         Shown(shown_->text).replace("\r\n", "\n"), QMessageBox::Ok, parent_);
     box->setTextFormat(Qt::PlainText);
     Open(*box, [this](bool) {
+        const auto confirmed = std::move(shown_->confirmed);
         shown_.reset();
         ShowNext();
+        if (confirmed) confirmed();
     });
 }
 
@@ -140,6 +150,10 @@ void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
 platform::ScreenSize QtDialogs::Screen() {
     const QSize size = QGuiApplication::primaryScreen()->availableSize();
     return {Twips(size.width()), Twips(size.height())};
+}
+
+void QtDialogs::CopyText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(Shown(text));
 }
 
 void QtDialogs::OpenHelp(const std::string& file, int) {

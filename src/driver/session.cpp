@@ -84,8 +84,12 @@ void Session::GiveUpOpening(int slot, const CallResult& failed) {
 }
 
 void Session::Close() {
+    Close(log_form::General);
+}
+
+void Session::Close(const LogForm& form) {
     if (!state.sessionClosed && state.instrumentHandle != 0)
-        FramedCall(log, log_form::General, operations.psdrv_close, state.instrumentHandle);
+        FramedCall(log, form, operations.psdrv_close, state.instrumentHandle);
     state.sessionClosed = true;
     state.instrumentHandle = 0;
     for (sensors::SensorEntry& entry : table_.entries) entry.sessionOpen = false;

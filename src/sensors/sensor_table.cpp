@@ -55,6 +55,18 @@ void SensorTable::RememberSwitch(const SensorEntry& entry) {
         switchedOff_.insert(KeyOf(entry));
 }
 
+std::optional<platform::LocalTime> SensorTable::ZeroedAt(const SensorEntry& entry) const {
+    const auto found = zeroedAt_.find(KeyOf(entry));
+    return found == zeroedAt_.end() ? std::nullopt : std::optional(found->second);
+}
+
+void SensorTable::NoteZeroed(const SensorEntry& entry, std::optional<platform::LocalTime> at) {
+    if (at)
+        zeroedAt_.insert_or_assign(KeyOf(entry), *at);
+    else
+        zeroedAt_.erase(KeyOf(entry));
+}
+
 void PrepareWorkArrays(SensorTable& table, int slot) {
     SensorEntry& entry = table[slot];
     switch (entry.settings.Mode) {

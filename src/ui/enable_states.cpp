@@ -43,10 +43,11 @@ EnableStates FindEnableStates(const Situation& situation) {
     const bool averageOnly = situation.model == driver::Capabilities::AverageOnly;
     const bool started = activity == Activity::Opening || activity == Activity::Measuring ||
                          activity == Activity::Held;
-    const bool busy = activity == Activity::Measuring || activity == Activity::Command;
+    const bool command = activity == Activity::Command || activity == Activity::Zeroing;
+    const bool busy = activity == Activity::Measuring || command;
     return {
         .start = activity == Activity::Idle,
-        .stop = started,
+        .stop = started || activity == Activity::Zeroing,
         .commands = !busy && !situation.simulation,
         .averaging = settings.AvgEnable,
         .averagingSlot = settings.AvgEnable && settings.Mode == sensors::TimeSlot && !averageOnly,

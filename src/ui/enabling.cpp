@@ -13,9 +13,19 @@ Enabling::Enabling(forms::Forms& forms, const sensors::SensorTable& table,
 
 void Enabling::Refresh() {
     const sensors::SensorEntry& current = table_[table_.currentSensor];
-    ApplyEnableStates(forms_, FindEnableStates({activity_, table_.simulationMode,
+    ApplyEnableStates(forms_, FindEnableStates({command_.value_or(activity_), table_.simulationMode,
                                                 driver::CapabilitiesOf(sensors::TypeOf(current)),
                                                 current.settings}));
+}
+
+void Enabling::CommandBegins(measure::SensorCommand command) {
+    command_ = command == measure::SensorCommand::Zero ? Activity::Zeroing : Activity::Command;
+    Refresh();
+}
+
+void Enabling::CommandEnded(const measure::CommandEnd& /*end*/) {
+    command_.reset();
+    Refresh();
 }
 
 void Enabling::Enter(Activity activity) {

@@ -32,9 +32,13 @@ std::string IdentityOf(const sensors::SensorEntry& entry, int slot, const char* 
 }  // namespace
 
 ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
-                         SensorSelection& selection, ReadingAge& age,
-                         const util::NumberForm& numbers)
-    : grid_(form.ResultGrid), table_(table), selection_(selection), age_(age), numbers_(numbers) {
+                         SensorSelection& selection, ReadingAge& age, platform::Computer& computer)
+    : grid_(form.ResultGrid),
+      table_(table),
+      selection_(selection),
+      age_(age),
+      computer_(computer),
+      numbers_(computer.Numbers()) {
     grid_.mouseDown.Connect([this](int row, int column) { PressCell(row, column); });
     grid_.click.Connect([this](int row, int column) { ClickCell(row, column); });
 }
@@ -56,8 +60,9 @@ void ResultTable::LayOut() {
         {DbmColumn, "Reading\r\n[dBm]", false, 900, "-000" + point + "000",
          "Level of the latest reading, in dBm"},
         {StatusColumn, "Status", false, 700, "||||||||.",
-         "A bar for each measurement, up to eight; a point while the next is awaited; CONF while "
-         "the sensor gets its settings"},
+         "A bar for each measurement, up to eight; a point while the next is awaited; CONF, ZERO "
+         "or "
+         "TEST while the sensor gets its settings, is zeroed or tested"},
         {SigmaColumn, "Sigma\r\n[dB]", false, 700, "000" + point + "000",
          "Standard deviation of the last 30 readings, in dB"},
         {CountColumn, "AVG\r\nCount", false, 700, "65536",
@@ -94,8 +99,15 @@ void ResultTable::ExplainName(int slot, bool on) {
     grid_.SetMark(row, NameColumn, on, (on ? "on, " : "off, ") + IdentityOf(entry, slot, "sensor"));
     grid_.SetCellTooltip(row, NameColumn,
                          entry.logicalName + "\n" + IdentityOf(entry, slot, "Sensor") +
-                             "\nClick to switch it " + (on ? "off" : "on") +
+                             ZeroText(slot) + "\nClick to switch it " + (on ? "off" : "on") +
                              " (from the next Start).");
+}
+
+// A simulated sensor can't be zeroed.
+std::string ResultTable::ZeroText(int slot) const {
+    if (table_.simulationMode) return {};
+    const auto at = table_.ZeroedAt(table_[slot]);
+    return at ? "\nZeroed at " + computer_.TimeText(*at) : "\nNot zeroed in this run";
 }
 
 void ResultTable::PaintPresence(int slot) {

@@ -30,7 +30,14 @@ void StatusMarks::TransferBegins(int slot) {
     ShowState(slot, "CONF", controls::Yellow, "Gets its settings");
 }
 
-void StatusMarks::TransferEnds(int slot) {
+void StatusMarks::SensorBegins(measure::SensorCommand command, int slot, int /*number*/,
+                               int /*sensors*/) {
+    const bool zero = command == measure::SensorCommand::Zero;
+    ShowState(slot, zero ? "ZERO" : "TEST", controls::Orange,
+              zero ? "Is being zeroed" : "Runs its self test");
+}
+
+void StatusMarks::ShowNoState(int slot) {
     ShowState(slot, "", controls::White,
               "A bar for each measurement; with a point: waiting for the next");
 }

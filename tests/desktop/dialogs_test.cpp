@@ -63,6 +63,22 @@ private slots:
         QCOMPARE(Visible<QMessageBox>(window).size(), 0);
     }
 
+    void AContinuationRunsOnceItsBoxIsConfirmedAndEvenWhenTheTextIsShownAlready() {
+        QtDialogs dialogs;
+        QWidget window;
+        window.show();
+        dialogs.SetParent(window);
+        int confirmed = 0;
+        for (int box = 0; box < 2; ++box)
+            dialogs.Confirm("", "one", platform::MessageIcon::Information, [&] { ++confirmed; });
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            const int before = confirmed;
+            QTest::keyClick(Visible<QMessageBox>(window).first(), key);
+            QCOMPARE(confirmed, before + 1);
+        }
+        QCOMPARE(Visible<QMessageBox>(window).size(), 0);
+    }
+
     void APromptAnswersWithItsTextOrWithNothing() {
         QtDialogs dialogs;
         QWidget window;
@@ -118,7 +134,7 @@ private slots:
         dialogs.Prompt("INPUT:", "", [&](const auto&) { ++answers; });
         dialogs.AskFile({}, [&](const auto&) { ++answers; });
         for (const char* text : {"one", "two"})
-            dialogs.Message("", text, platform::MessageIcon::None);
+            dialogs.Confirm("", text, platform::MessageIcon::None, [&] { ++answers; });
         QCOMPARE(Visible<QDialog>(running.Main()).size(), 3);
         const QPointer<QDialog> prompt = running.Main().findChild<QInputDialog*>();
         running.kelvra.Exit();

@@ -58,6 +58,10 @@ struct Answers {
         std::copy_n(array.begin(), std::min(array.size(), static_cast<std::size_t>(size)), values);
         *count = current->arrayCount.value_or(static_cast<Int>(array.size()));
     }
+    static void Give(Handle, Channel, Int entry, Int, char* text) {
+        if (static_cast<std::size_t>(entry) < current->infos.size())
+            WriteText(text, DriverText, current->infos[static_cast<std::size_t>(entry)]);
+    }
     static void Give(Int* length) {
         *length = current->listLength.value_or(static_cast<Int>(current->devices.size()));
     }

@@ -40,9 +40,10 @@ public:
     std::string message = "bad value";
     std::string query = "queue empty";
     bool terminated = true;                     // texts end with a NUL
-    std::function<bool(int channel)> complete;  // nothing: at once
+    std::function<bool(int channel)> complete;  // a measurement, zeroing; nothing: at once
     double reading = 0.001;                     // W
     std::int32_t averagingCount = 4;
+    std::vector<std::string> infos;
     std::vector<double> array;               // W
     std::optional<std::int32_t> arrayCount;  // as reported, if it is not the true one
 

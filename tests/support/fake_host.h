@@ -70,6 +70,14 @@ public:
         messages.push_back({title, text});
         if (onMessage) onMessage();
     }
+    std::function<void(std::function<void()>)> onConfirm;  // keeps the continuation for later
+    void Confirm(Text title, Text text, platform::MessageIcon icon,
+                 std::function<void()> confirmed) override {
+        Message(title, text, icon);
+        onConfirm ? onConfirm(std::move(confirmed)) : confirmed();
+    }
+    std::vector<std::string> copied;
+    void CopyText(Text text) override { copied.push_back(text); }
     void LastMessage(Text text) override { Message({}, text, platform::MessageIcon::None); }
     void Prompt(Text, Text, Answer answer) override { answer(std::nullopt); }
     void AskFile(const platform::FileQuestion& question, Answer answer) override {
@@ -113,7 +121,9 @@ public:
     std::optional<platform::LocalTime> ProgramFileDate() override { return programDate; }
     const util::NumberForm& Numbers() override { return numbers; }
     std::string DateText(const platform::LocalTime&) override { return "date"; }
-    std::string TimeText(const platform::LocalTime&) override { return "time"; }
+    std::string TimeText(const platform::LocalTime& time) override {
+        return std::to_string(time.hour) + ":" + std::to_string(time.minute);
+    }
     platform::LoadedLibrary LoadDriverLibrary(Text name) override {
         const std::string file = "lib" + name + ".so";
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};

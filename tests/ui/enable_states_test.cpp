@@ -29,6 +29,7 @@ TEST(EnableStates, ButtonsGoByWhatIsRunning) {
         {Activity::Measuring, false,      false, true,  false},
         {Activity::Held,      false,      false, true,  true},
         {Activity::Command,   false,      false, false, false},
+        {Activity::Zeroing,   false,      false, true,  false},
         {Activity::Idle,      true,       true,  false, false},
         {Activity::Held,      true,       false, true,  false},
     };

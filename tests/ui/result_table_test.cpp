@@ -39,11 +39,14 @@ TEST_F(ResultTableTest, TheRowSaysWhichSensorItIs) {
         std::string spoken, tooltip;
     } cases[] = {
         {1, true, "PS-106;2", "on, sensor 2, PS-106, S/N 2",
-         "B\nSensor 2, PS-106, S/N 2\nClick to switch it off (from the next Start)."},
+         "B\nSensor 2, PS-106, S/N 2\nNot zeroed in this run\nClick to switch it off (from the "
+         "next Start)."},
         {1, false, ";2", "off, sensor 2, S/N 2",
-         "B\nSensor 2, S/N 2\nClick to switch it on (from the next Start)."},
+         "B\nSensor 2, S/N 2\nNot zeroed in this run\nClick to switch it on (from the next "
+         "Start)."},
         {0, true, "PS-106", "on, sensor 1, PS-106",
-         "A\nSensor 1, PS-106\nClick to switch it off (from the next Start)."},
+         "A\nSensor 1, PS-106\nNot zeroed in this run\nClick to switch it off (from the next "
+         "Start)."},
         {2, std::nullopt, "", "", ""},
     };
     for (const auto& c : cases) {

@@ -16,6 +16,7 @@
 #include "measure/cycle.h"
 #include "measure/listener.h"
 #include "measure/readings.h"
+#include "measure/sensor_commands.h"
 #include "measure/session_recovery.h"
 #include "measure/state.h"
 #include "platform/host.h"
@@ -58,6 +59,7 @@ public:
     measure::Modes modes;
     measure::Cycle cycle;
     measure::SessionRecovery recovery;
+    measure::SensorCommands sensorCommands;
     Windows windows;
     SettingsStore store;
     Discovery discovery;

@@ -9,6 +9,7 @@
 #include "measure/cycle.h"
 #include "measure/listener.h"
 #include "measure/modes.h"
+#include "measure/sensor_commands.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
@@ -23,6 +24,7 @@
 #include "ui/record_menu.h"
 #include "ui/result_table.h"
 #include "ui/selection_lists.h"
+#include "ui/sensor_commands.h"
 #include "ui/sensor_name.h"
 #include "ui/sensor_selection.h"
 #include "ui/settings_copy.h"
@@ -36,7 +38,8 @@ namespace kelvra::app {
 
 struct Windows {
     Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-            measure::Cycle& cycle, measure::Modes& modes, platform::Host& host);
+            measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
+            platform::Host& host);
 
     ui::Notice notice;
     ui::ErrorStrip errorStrip;
@@ -58,6 +61,7 @@ struct Windows {
     ui::EditMenu editMenu;
     ui::SetupDialog setupDialog;
     ui::SettingsCopy settingsCopy;
+    ui::SensorCommands sensorCommands;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -21,9 +22,12 @@ public:
 
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
+    void Confirm(const std::string& title, const std::string& text, platform::MessageIcon icon,
+                 std::function<void()> confirmed) override;
     void LastMessage(const std::string& text) override;
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
+    void CopyText(const std::string& text) override;
     void OpenHelp(const std::string& file, int topic) override;
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;

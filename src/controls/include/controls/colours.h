@@ -17,5 +17,6 @@ constexpr Colour DarkBlue = 0xC00000;
 constexpr Colour Cyan = 0xFFFF00;
 constexpr Colour DarkCyan = 0xC0C000;
 constexpr Colour Yellow = 0x00FFFF;
+constexpr Colour Orange = 0x0080FF;
 
 }  // namespace kelvra::controls

@@ -28,9 +28,13 @@ public:
     // shown or waits is not said twice.
     void Message(const std::string& title, const std::string& text,
                  platform::MessageIcon icon) override;
+    // A box with a continuation is always shown.
+    void Confirm(const std::string& title, const std::string& text, platform::MessageIcon icon,
+                 std::function<void()> confirmed) override;
     void LastMessage(const std::string& text) override;
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
+    void CopyText(const std::string& text) override;
     void OpenHelp(const std::string& file, int topic) override;
     platform::ScreenSize Screen() override;
 
@@ -38,7 +42,11 @@ private:
     struct WaitingMessage {
         std::string title, text;
         platform::MessageIcon icon{};
-        bool operator==(const WaitingMessage&) const = default;
+        std::function<void()> confirmed{};
+
+        bool SaysTheSame(const WaitingMessage& other) const {
+            return title == other.title && text == other.text && icon == other.icon;
+        }
     };
 
     void ShowNext();

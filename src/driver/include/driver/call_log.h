@@ -31,6 +31,10 @@ constexpr LogForm NameAlone      {"{name}",                           "{name} ->
 constexpr LogForm ArgumentsAgain {"{name}( {all} ) STARTING",         "{name}( {all} ) FINISHED"};
 constexpr LogForm TypeNormal     {"{name}( {0}, {1}, 0) STARTING",    "{name} -> FINISHED"};
 constexpr LogForm TypeNoise      {"{name}( {0}, {1}, 1 ) STARTING",   "{name} -> FINISHED"};
+constexpr LogForm Trimmed        {"{name}( {trimmed} ) STARTING",     "{name} -> FINISHED"};
+constexpr LogForm TrimmedAgain   {"{name}( {trimmed} ) STARTING",     "{name}( {trimmed} ) FINISHED"};
+constexpr LogForm ZeroPolling    {"{name} {all} ) STARTING",  "{name} {0}, {1}, {result} ) FINISHED"};
+constexpr LogForm SelfTesting    {"{name}( {all} ) STARTING", "{name}( {0}, {1}, {result} ) FINISHED"};
 constexpr LogForm Reset          {"{name}({trimmed}) STARTING",       "{name} -> FINISHED"};
 constexpr LogForm Opening        {"{name}({0}, 1, 1,{1}) STARTING",
                                   "{name} FINISHED -> instrumentHandle: {result}"};

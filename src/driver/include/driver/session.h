@@ -13,6 +13,8 @@
 
 namespace kelvra::driver {
 
+struct LogForm;
+
 struct SessionState {
     Handle instrumentHandle = 0;   // 0: no session
     bool configRunning = false;    // a transfer of settings runs
@@ -44,6 +46,7 @@ public:
     // Ends the session, if there is one, and clears the handle, the flag and every slot's
     // sessionOpen.
     void Close();
+    void Close(const LogForm& form);
 
     // If the call has failed: logs it, adds it to the sensor's error text, and reports the text.
     // The context is a short label of the call.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ public:
         bytes_.fill('\0');
         std::fill_n(bytes_.begin(), Size, Fill);
     }
+
+    static constexpr auto Length = static_cast<std::int32_t>(Size);
 
     char* Data() { return bytes_.data(); }
     std::string Text() const { return util::TextOfBuffer({bytes_.data(), Size}); }

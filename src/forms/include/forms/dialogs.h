@@ -63,8 +63,21 @@ struct SensInfoForm : controls::Window {
     explicit SensInfoForm(controls::Changes& changes)
         : Window(changes, "SensInfoForm", "Sensor Information", {3000, 1800, 6900, 5400}) {}
 
-    controls::List InfoHeader{*this, "InfoHeader"};
-    controls::List InfoValue{*this, "InfoValue"};
+    controls::Label lblInfoSensor{*this, "lblInfoSensor"};
+    controls::List InfoHeader{*this, "InfoHeader", {}, -1, {.name = "Names"}};
+    controls::List InfoValue{*this, "InfoValue", {}, -1, {.name = "Values"}};
+    controls::Button cmdInfoCopy{
+        *this,
+        "cmdInfoCopy",
+        "Copy",
+        "",
+        {.mnemonic = 'C', .explanation = "Copies all lines, name and value each."}};
+    controls::Button cmdInfoSave{
+        *this,
+        "cmdInfoSave",
+        "Save...",
+        "",
+        {.mnemonic = 'S', .explanation = "Asks for a file and writes all lines to it as text."}};
 };
 
 }  // namespace kelvra::forms

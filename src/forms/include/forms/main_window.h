@@ -126,14 +126,15 @@ struct MDIMain : Window {
          .mnemonic = 'S',
          .shortcut = "F5",
          .explanation = "Starts measuring with all sensors that are switched on, until Stop."}};
-    Button StopIt{MainTools,
-                  "StopIt",
-                  "",
-                  "stopPic",
-                  {.name = "Stop",
-                   .mnemonic = 't',
-                   .shortcut = "Shift+F5",
-                   .explanation = "Ends the measurement; the last readings stay in the table."}};
+    Button StopIt{
+        MainTools,
+        "StopIt",
+        "",
+        "stopPic",
+        {.name = "Stop",
+         .mnemonic = 't',
+         .shortcut = "Shift+F5",
+         .explanation = "Ends the measurement, or zeroing; the last readings stay in the table."}};
     Button Show_Settings{MainTools,
                          "Show_Settings",
                          "",

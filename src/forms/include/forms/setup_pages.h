@@ -159,6 +159,7 @@ struct GeneralPage {
         ActionFrame, "SensSelfTest", "", "selfTestPic", {.name = "Self test", .helpTopic = 7111}};
     Button SensInfo{
         ActionFrame, "SensInfo", "", "sensInfoPic", {.name = "Information", .helpTopic = 7111}};
+    Label lblZeroHint{ActionFrame, "lblZeroHint", texts::ZeroHint};
 };
 
 // Page 2: a frame for each mode, all at the same place

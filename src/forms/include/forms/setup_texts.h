@@ -23,6 +23,8 @@ inline constexpr const char* LogicalName = "Logical name of the controlled senso
 inline constexpr const char* TypeInfo = "Model and serial number of the selected sensor.";
 inline constexpr const char* ZeroSensor = "Starts the autozero function";
 inline constexpr const char* ZeroAll = "Starts the autozero function for all sensors";
+inline constexpr const char* ZeroHint =
+    "Disconnect RF power before zeroing: power at the sensor spoils every later reading.";
 inline constexpr const char* Information = "Display sensor information";
 inline constexpr const char* SelfTest = "Run the self test routine of the selected sensor";
 inline constexpr const char* AutoScaleTrace = "Use auto-scaling for the display";

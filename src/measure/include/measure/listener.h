@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "measure/command_listener.h"
 #include "platform/clock.h"
 #include "util/listeners.h"
 
@@ -81,6 +82,7 @@ struct News {
     util::Listeners<MeasurementListener> measurement;
     util::Listeners<PassListener> pass;
     util::Listeners<SlotListener> slot;
+    util::Listeners<CommandListener> command;
 };
 
 }  // namespace kelvra::measure

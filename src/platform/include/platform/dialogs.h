@@ -33,11 +33,18 @@ public:
 
     // Shows a message box and returns. An empty title is the program's name.
     virtual void Message(const std::string& title, const std::string& text, MessageIcon icon) = 0;
-    // The same for a program that is about to end: returns when the user has confirmed the box.
+    // The same; calls `confirmed` when the user has confirmed the box.
+    virtual void Confirm(const std::string& title, const std::string& text, MessageIcon icon,
+                         std::function<void()> confirmed) = 0;
+    // The same as Message for a program that is about to end: returns when the user has confirmed
+    // the box.
     virtual void LastMessage(const std::string& text) = 0;
 
     virtual void Prompt(const std::string& text, const std::string& proposed, Answer answer) = 0;
     virtual void AskFile(const FileQuestion& question, Answer answer) = 0;
+
+    // Puts the text on the clipboard.
+    virtual void CopyText(const std::string& text) = 0;
 
     // Topic 0 is the whole file.
     virtual void OpenHelp(const std::string& file, int topic) = 0;

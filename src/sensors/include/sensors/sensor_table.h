@@ -5,10 +5,13 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "platform/files.h"
 #include "sensors/sensor_entry.h"
 
 namespace kelvra::sensors {
@@ -60,10 +63,16 @@ struct SensorTable {
     bool SwitchedOff(const SensorEntry& entry) const;
     void RememberSwitch(const SensorEntry& entry);
 
+    // When the sensor was last zeroed in this run, in local time. Nothing if it was not, or not to
+    // the end.
+    std::optional<platform::LocalTime> ZeroedAt(const SensorEntry& entry) const;
+    void NoteZeroed(const SensorEntry& entry, std::optional<platform::LocalTime> at);
+
 private:
     friend class TableLock;
 
-    std::set<std::string> switchedOff_;  // keys
+    std::set<std::string> switchedOff_;                    // keys
+    std::map<std::string, platform::LocalTime> zeroedAt_;  // by key
     int locks_ = 0;
 };
 

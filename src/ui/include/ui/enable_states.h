@@ -15,7 +15,8 @@ enum class Activity {
     Opening,    // Start opens the sensors and sends their settings
     Measuring,  // passes run
     Held,       // Start has failed; Stop ends this
-    Command,    // zeroing, a self test, or a look at the information entries runs
+    Command,    // a self test, or a look at the information entries runs
+    Zeroing,    // which Stop can end
 };
 
 struct Situation {

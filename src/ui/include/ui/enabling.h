@@ -3,6 +3,8 @@
 // something they depend on has changed.
 #pragma once
 
+#include <optional>
+
 #include "forms/forms.h"
 #include "measure/listener.h"
 #include "sensors/sensor_table.h"
@@ -11,7 +13,9 @@
 
 namespace kelvra::ui {
 
-class Enabling final : public measure::MeasurementListener, public CurrentSensorListener {
+class Enabling final : public measure::MeasurementListener,
+                       public measure::CommandListener,
+                       public CurrentSensorListener {
 public:
     Enabling(forms::Forms& forms, const sensors::SensorTable& table, SensorSelection& selection);
 
@@ -23,6 +27,8 @@ public:
     void Prepared() override { Enter(Activity::Measuring); }
     void StartFailed(measure::StartFailure /*why*/) override { Enter(Activity::Held); }
     void Stopped() override { Enter(Activity::Idle); }
+    void CommandBegins(measure::SensorCommand command) override;
+    void CommandEnded(const measure::CommandEnd& end) override;
     void CurrentSensorChanged() override { Refresh(); }
 
 private:
@@ -31,6 +37,7 @@ private:
     forms::Forms& forms_;
     const sensors::SensorTable& table_;
     Activity activity_ = Activity::Idle;
+    std::optional<Activity> command_;  // while a sensor command runs, whatever the rest does
 };
 
 }  // namespace kelvra::ui

@@ -8,6 +8,7 @@
 #include <array>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "driver/notices.h"
@@ -32,6 +33,9 @@ public:
     // first by path is shown.
     void ShowFileTrouble(const std::string& path, std::string text);
     void EndFileTrouble(const std::string& path);
+
+    // What a sensor command is doing; an empty text removes it.
+    void ShowCommand(std::string text) { Hint(std::move(text)); }
 
     // What a command has done, until it is old, the next one is shown, or a measurement starts.
     void ShowDone(std::string text);

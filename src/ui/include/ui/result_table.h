@@ -4,8 +4,11 @@
 // status_marks.h writes the status column.
 #pragma once
 
+#include <string>
+
 #include "forms/status_form.h"
 #include "measure/listener.h"
+#include "platform/computer.h"
 #include "sensors/sensor_table.h"
 #include "ui/reading_age.h"
 #include "ui/sensor_selection.h"
@@ -13,16 +16,18 @@
 
 namespace kelvra::ui {
 
-class ResultTable final : public measure::MeasurementListener, public measure::SlotListener {
+class ResultTable final : public measure::MeasurementListener,
+                          public measure::SlotListener,
+                          public measure::CommandListener {
 public:
     ResultTable(forms::StatusForm& form, sensors::SensorTable& table, SensorSelection& selection,
-                ReadingAge& age, const util::NumberForm& numbers);
+                ReadingAge& age, platform::Computer& computer);
 
     // Heading, column widths, and a numbered row for each slot.
     void LayOut();
 
     // The name cell of a slot: green if the sensor is enabled, grey if not, empty if there is none.
-    // Its mark and its tooltip say which sensor it is.
+    // Its mark and its tooltip say which sensor it is; the tooltip, when it was zeroed.
     void PaintName(int slot);
     // The name cell, and empty value cells if the sensor is absent. Also for the spare element's
     // row.
@@ -38,11 +43,18 @@ public:
     // Cells for scalar results are white; they are grey where arrays arrive.
     void ReadingArrived(int slot) override;
     void ArrayArrived(int slot) override;
+    void SensorBegins(measure::SensorCommand /*command*/, int slot, int /*number*/,
+                      int /*sensors*/) override {
+        PaintName(slot);
+    }
+    void SensorEnds(int slot) override { PaintName(slot); }
 
 private:
     void PressCell(int row, int column);
     void ClickCell(int row, int column);
     void ExplainName(int slot, bool on);
+    // "Zeroed at 14:05"
+    std::string ZeroText(int slot) const;
     bool IsName(int row, int column) const;
     // Switches the slot's sensor on or off, if there is one.
     void ToggleEnabled(int slot);
@@ -51,6 +63,7 @@ private:
     sensors::SensorTable& table_;
     SensorSelection& selection_;
     ReadingAge& age_;
+    platform::Computer& computer_;
     const util::NumberForm& numbers_;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The result table's status column: the bar that grows with every pass, and "CONF" while a sensor
-// gets its settings.
+// The result table's status column: the bar that grows with every pass, "CONF" while a sensor gets
+// its settings, "ZERO" and "TEST" while it is zeroed or tested.
 #pragma once
 
 #include <string_view>
@@ -13,7 +13,9 @@
 
 namespace kelvra::ui {
 
-class StatusMarks final : public measure::SlotListener, public driver::TransferMarks {
+class StatusMarks final : public measure::SlotListener,
+                          public measure::CommandListener,
+                          public driver::TransferMarks {
 public:
     StatusMarks(forms::StatusForm& form, const sensors::SensorTable& table,
                 platform::Events& events)
@@ -26,11 +28,15 @@ public:
     void ArrayArrived(int /*slot*/) override {}
 
     void TransferBegins(int slot) override;
-    void TransferEnds(int slot) override;
+    void TransferEnds(int slot) override { ShowNoState(slot); }
+
+    void SensorBegins(measure::SensorCommand command, int slot, int number, int sensors) override;
+    void SensorEnds(int slot) override { ShowNoState(slot); }
 
 private:
     void ShowActivity(int slot, bool waiting);
     void ShowState(int slot, std::string_view text, controls::Colour back, const char* tooltip);
+    void ShowNoState(int slot);
 
     controls::Grid& grid_;
     const sensors::SensorTable& table_;
