@@ -68,13 +68,6 @@ QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window) {
     return wanted;
 }
 
-void Withhold(QWidget& widget) {
-    SetOwnTooltip(widget, Later);
-    widget.setToolTip(Later);
-    widget.setProperty(IsWithheld, true);
-    widget.setEnabled(false);
-}
-
 void Withhold(QAction& entry) {
     entry.setToolTip(Later);
     entry.setProperty(IsWithheld, true);

@@ -29,6 +29,10 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
     AddDialog(kelvra.forms.copyForm, [this, &form = kelvra.forms.copyForm]() -> DialogWindow& {
         return copyWindow_.emplace(form, mirror_, main_.Area()).Window();
     });
+    AddDialog(
+        kelvra.forms.sensInfoForm, [ this, &form = kelvra.forms.sensInfoForm ]() -> auto& {
+            return infoWindow_.emplace(form, mirror_, main_.Area()).Window();
+        });
     kelvra.forms.mdiMain.Show_Settings.click.Connect([this] {
         if (setupDialog_) setupDialog_->Window().Raise();
     });

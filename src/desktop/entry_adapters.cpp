@@ -42,8 +42,10 @@ CheckBoxAdapter::CheckBoxAdapter(controls::CheckBox& box, QCheckBox& widget)
 }
 
 void CheckBoxAdapter::Update() {
-    if (const QString text = MarkedText(box_, box_.caption); widget_.text() != text)
-        widget_.setText(text);
+    if (shown_ != box_.caption.Get()) {
+        shown_ = box_.caption.Get();
+        widget_.setText(MarkedText(box_, *shown_));
+    }
     widget_.setChecked(box_.Checked());
     UpdateCommon(widget_, box_);
 }
@@ -55,8 +57,10 @@ OptionAdapter::OptionAdapter(controls::Option& option, QAbstractButton& widget)
 
 // Checking one option makes the toolkit uncheck the others. The Tab key goes to the checked one.
 void OptionAdapter::Update() {
-    if (const QString text = MarkedText(option_, option_.caption); widget_.text() != text)
-        widget_.setText(text);
+    if (shown_ != option_.caption.Get()) {
+        shown_ = option_.caption.Get();
+        widget_.setText(MarkedText(option_, *shown_));
+    }
     if (option_.Checked()) widget_.setChecked(true);
     widget_.setFocusPolicy(option_.Checked() ? Qt::StrongFocus : Qt::ClickFocus);
     UpdateCommon(widget_, option_);

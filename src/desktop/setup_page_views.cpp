@@ -104,16 +104,22 @@ QWidget* MakeGraph(SetupForm& form, WidgetMaker& maker) {
 
 QWidget* MakeCommands(SetupForm& form, WidgetMaker& maker) {
     QGroupBox* group = maker.MakeGroup(form.ActionFrame);
-    auto* line = new QHBoxLayout(group);
-    line->setContentsMargins(Margin, Margin, Margin, Margin);
+    auto* rows = new QVBoxLayout(group);
+    rows->setContentsMargins(Margin, Margin, Margin, Margin);
+    rows->setSpacing(Margin);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Margin);
     for (controls::Button* command :
          {&form.SensorZero, &form.cmdZeroAll, &form.SensSelfTest, &form.SensInfo}) {
         QPushButton* button = maker.Make(*command);
         button->setIconSize({CommandIcon, CommandIcon});
-        Withhold(*button);
         line->addWidget(button);
     }
     line->addStretch();
+    rows->addLayout(line);
+    QLabel* hint = maker.Make(form.lblZeroHint);
+    hint->setWordWrap(true);
+    rows->addWidget(hint);
     return group;
 }
 

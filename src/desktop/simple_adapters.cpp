@@ -120,6 +120,23 @@ void ListAdapter::Fill() {
     widget_.updateGeometry();
 }
 
+ListBoxAdapter::ListBoxAdapter(controls::List& list, QListWidget& widget)
+    : list_(list), widget_(widget) {
+    QObject::connect(&widget_, &QListWidget::currentRowChanged,
+                     [this](int index) { list_.Choose(index); });
+}
+
+void ListBoxAdapter::Update() {
+    const QSignalBlocker quiet(widget_);
+    if (shown_ != list_.Items()) {
+        shown_ = list_.Items();
+        widget_.clear();
+        for (const controls::List::Item& item : shown_) widget_.addItem(Shown(item.text));
+    }
+    if (widget_.currentRow() != list_.Index()) widget_.setCurrentRow(list_.Index());
+    UpdateCommon(widget_, list_);
+}
+
 void PictureAdapter::Update() {
     if (shown_ != picture_.image.Get() || scheme_ != CurrentScheme()) {
         shown_ = picture_.image.Get();

@@ -9,7 +9,8 @@ namespace kelvra::desktop {
 
 void WidgetAdapter::UpdateCommon(QWidget& widget, const controls::Control& control,
                                  const std::string& fault) {
-    widget.setEnabled(control.enabled && !Withheld(widget));
+    if (widget.testAttribute(Qt::WA_ForceDisabled) == control.enabled.Get())
+        widget.setEnabled(control.enabled);
     // A widget outside a window would be shown as a window; it becomes visible once it is in one.
     const bool alone = widget.parentWidget() == nullptr;
     if (!alone || !control.visible) widget.setVisible(control.visible);

@@ -106,6 +106,10 @@ QComboBox* WidgetMaker::Make(controls::List& list) {
     return Mirrored<ListAdapter>(list, new ListWidget);
 }
 
+QListWidget* WidgetMaker::MakeListBox(controls::List& list) {
+    return Mirrored<ListBoxAdapter>(list, new QListWidget);
+}
+
 GridWidget* WidgetMaker::Make(controls::Grid& grid) {
     return Mirrored<GridAdapter>(grid, new GridWidget(grid));
 }

@@ -39,9 +39,8 @@ void KeepRoom(QWidget& widget);
 // for its title bar.
 QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window);
 
-// For a control that opens a window which this front end doesn't have yet: the widget or menu entry
-// stays disabled and says why. The record is not changed.
-void Withhold(QWidget& widget);
+// For an entry that opens a window which this front end doesn't have yet: it stays disabled and
+// says why. The record is not changed.
 void Withhold(QAction& entry);
 bool Withheld(const QObject& shown);
 

@@ -7,6 +7,7 @@
 
 #include "app/kelvra.h"
 #include "desktop/copy_window_view.h"
+#include "desktop/info_window_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/mirror.h"
 #include "desktop/preferences.h"
@@ -47,6 +48,7 @@ private:
     ViewMenu view_;
     std::optional<SetupDialogView> setupDialog_;
     std::optional<CopyWindowView> copyWindow_;
+    std::optional<InfoWindowView> infoWindow_;
 };
 
 }  // namespace kelvra::desktop

@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <optional>
+#include <string>
 
 #include "controls/kinds.h"
 #include "controls/option_group.h"
@@ -36,6 +38,7 @@ public:
 private:
     controls::CheckBox& box_;
     QCheckBox& widget_;
+    std::optional<std::string> shown_;  // caption
 };
 
 // One option of a group; the options share a parent and exclude each other.
@@ -47,6 +50,7 @@ public:
 private:
     controls::Option& option_;
     QAbstractButton& widget_;
+    std::optional<std::string> shown_;  // caption
 };
 
 // The widget that contains the options; the keyboard reaches the selected one.

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 
 #include "controls/kinds.h"
@@ -82,6 +83,18 @@ private:
 
     controls::List& list_;
     QComboBox& widget_;
+    std::vector<controls::List::Item> shown_;
+};
+
+// A list with all its entries in sight.
+class ListBoxAdapter final : public WidgetAdapter {
+public:
+    ListBoxAdapter(controls::List& list, QListWidget& widget);
+    void Update() override;
+
+private:
+    controls::List& list_;
+    QListWidget& widget_;
     std::vector<controls::List::Item> shown_;
 };
 

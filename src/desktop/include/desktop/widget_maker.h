@@ -12,6 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 
@@ -39,6 +40,7 @@ public:
     // parent.
     QList<QAbstractButton*> MakeOptions(controls::OptionGroup& group);
     QComboBox* Make(controls::List& list);
+    QListWidget* MakeListBox(controls::List& list);  // all entries in sight
     GridWidget* Make(controls::Grid& grid);
     QLabel* Make(const controls::Picture& picture, int side = ToolIcon);
     QFrame* Make(const controls::Frame& frame);
