@@ -133,7 +133,8 @@ void ListBoxAdapter::Update() {
         widget_.clear();
         for (const controls::List::Item& item : shown_) widget_.addItem(Shown(item.text));
     }
-    if (widget_.currentRow() != list_.Index()) widget_.setCurrentRow(list_.Index());
+    // The focus makes an entry the current one without selecting it.
+    widget_.setCurrentRow(list_.Index(), QItemSelectionModel::ClearAndSelect);
     UpdateCommon(widget_, list_);
 }
 

@@ -172,6 +172,28 @@ private slots:
         }
     }
 
+    void AListBoxShowsAllEntriesAndChoosesOne() {
+        Room room;
+        controls::List list(room.window, "L");
+        Page page(room);
+        auto* box = page.maker.MakeListBox(list);
+        page.rows->addWidget(box);
+        page.widget.show();
+        page.Hear(list.click, "click");
+        list.Fill({{"one"}, {"two"}, {"three"}});
+        room.mirror.Flush();
+        QCOMPARE(box->count(), 3);
+        QVERIFY(box->selectedItems().isEmpty());
+        list.SetIndex(2);
+        room.mirror.Flush();
+        QCOMPARE(box->selectedItems(), QList{box->item(2)});
+        page.Taken();
+        QTest::mouseClick(box->viewport(), Qt::LeftButton, {},
+                          box->visualItemRect(box->item(1)).center());
+        QCOMPARE(list.Text(), "two");
+        QCOMPARE(page.Taken().size(), 1);
+    }
+
     void ACheckBoxKeepsTheRulesMark() {
         Room room;
         controls::CheckBox box(room.window, "B", "On");
