@@ -24,7 +24,7 @@ public:
     void LastMessage(const std::string& text) override;
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
-    void OpenHelp(const std::string& file, int topic) override;
+    void OpenHelp(const platform::HelpPage& page) override;
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 
