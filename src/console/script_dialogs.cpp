@@ -56,8 +56,8 @@ platform::ScreenSize ScriptDialogs::Screen() {
     return {1280 * twipsPerPixel, 800 * twipsPerPixel};
 }
 
-void ScriptDialogs::OpenHelp(const std::string& file, int topic) {
-    Write("help", file, std::to_string(topic));
+void ScriptDialogs::OpenHelp(const platform::HelpPage& page) {
+    Write("help", page.compiledFile, std::to_string(page.topic));
 }
 
 }  // namespace kelvra::console

@@ -156,14 +156,13 @@ void QtDialogs::CopyText(const std::string& text) {
     QGuiApplication::clipboard()->setText(Shown(text));
 }
 
-void QtDialogs::OpenHelp(const std::string& file, int) {
+void QtDialogs::OpenHelp(const platform::HelpPage& page) {
+    const std::string& file = page.opensCompiled ? page.compiledFile : page.path;
     const QString path = Shown(file);
-    if (!QFileInfo::exists(path)) {
-        Message({}, "The help file is missing:\n" + file, platform::MessageIcon::Information);
-        return;
-    }
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        Message({}, "There is no program to open the help file:\n" + file,
+    if (!QFileInfo::exists(path))
+        Message({}, "The page of help is missing:\n" + file, platform::MessageIcon::Exclamation);
+    else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        Message({}, "No program could be started to show the page of help:\n" + file,
                 platform::MessageIcon::Exclamation);
 }
 

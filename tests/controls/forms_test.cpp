@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
+#include <string>
 
 #include "controls/visit.h"
 
@@ -69,6 +71,23 @@ void ExpectNamedAndExplained(const controls::Control& control) {
 TEST(Forms, WhatTakesTheFocusInTheSetupDialogHasANameAndSaysWhatItDoes) {
     Forms forms;
     ExpectNamedAndExplained(forms.setupForm);
+}
+
+void CollectTopics(const controls::Control& control, std::set<int>& topics) {
+    topics.insert(control.access.helpTopic);
+    for (const controls::Control* child : control.Children()) CollectTopics(*child, topics);
+}
+
+TEST(Forms, EachTopicOfHelpHasItsPage) {
+    Forms forms;
+    std::set<int> topics;
+    for (const controls::Window* window : forms.Windows()) CollectTopics(*window, topics);
+    EXPECT_EQ(topics.erase(0), 1U);
+    EXPECT_FALSE(topics.empty());
+    for (const int topic : topics) {
+        const std::string page = KELVRA_GUIDE + std::to_string(topic) + ".html";
+        EXPECT_TRUE(std::filesystem::exists(page)) << page;
+    }
 }
 
 TEST(Forms, FindTellsFoundFromUnknown) {

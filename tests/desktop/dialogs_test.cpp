@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -40,10 +42,15 @@ class DialogsTest : public QObject {
         return shown;
     }
 
+    QUrl opened_;
+
     struct Passes : measure::PassListener {
         void PassMeasured() override { ++count; }
         int count = 0;
     };
+
+public slots:
+    void NoteUrl(const QUrl& url) { opened_ = url; }
 
 private slots:
     void MessagesWaitForTheWindowAndForEachOther() {
@@ -93,6 +100,44 @@ private slots:
             dialogs.Prompt("INPUT:", "proposed", [&](auto text) { answer = std::move(text); });
             QTest::keyClick(Visible<QInputDialog>(window).first(), c.key);
             QVERIFY(answer == c.answer);
+        }
+    }
+
+    void HelpOpensTheGuideBesideTheProgram() {
+        const QTemporaryDir data;
+        RunningDesktop running(data);
+        const QString page = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                             "/../share/doc/kelvra/help/7151.html");
+        QVERIFY(QFile::exists(page));
+        QDesktopServices::setUrlHandler("file", this, "NoteUrl");
+        running.kelvra.forms.setupForm.SensContAVTime.PressKey("F1");
+        QDesktopServices::unsetUrlHandler("file");
+        QCOMPARE(opened_, QUrl::fromLocalFile(page));
+        QVERIFY(Visible<QMessageBox>(running.Main()).isEmpty());
+    }
+
+    void HelpThatCannotBeShownIsNamed() {
+        const QString here = QCoreApplication::applicationFilePath();
+        const struct {
+            QString compiled, path;
+            bool opensCompiled;
+            QString message;
+        } cases[] = {
+            {"/none.chm", here, false, "No program could be started"},
+            {here, "/none.html", true, "No program could be started"},
+            {here, "/none.html", false, "The page of help is missing"},
+        };
+        for (const auto& c : cases) {
+            QtDialogs dialogs;
+            QWidget window;
+            window.show();
+            dialogs.SetParent(window);
+            dialogs.OpenHelp({c.compiled.toStdString(), 0, c.opensCompiled, c.path.toStdString()});
+            const auto shown = Visible<QMessageBox>(window);
+            QCOMPARE(shown.size(), 1);
+            QVERIFY2(shown.first()->text().startsWith(c.message),
+                     qPrintable(shown.first()->text()));
+            QVERIFY(shown.first()->text().endsWith(c.opensCompiled ? c.compiled : c.path));
         }
     }
 

@@ -69,6 +69,9 @@ def main(cmake, build, sensors, version, *programs):
         for name in programs:
             says_what_it_is(prefix / "bin" / name, version)
         measures(prefix / "bin" / "kelvra-console", sensors, Path(folder) / "console")
+        for page in ("index.html", "7110.html", "help.css", "search.js"):  # where the programs look for it
+            if not (prefix / "bin" / "../share/doc/kelvra/help" / page).is_file():
+                sys.exit(f"{page} of the guide is not installed")
         if "kelvra" in programs:
             ends_when_asked(prefix / "bin" / "kelvra", Path(folder) / "desktop")
             for file in ("applications/kelvra.desktop", "icons/hicolor/scalable/apps/kelvra.svg"):

@@ -88,7 +88,11 @@ public:
             answer(fileAnswer);
     }
     std::vector<int> helpTopics;
-    void OpenHelp(Text, int topic) override { helpTopics.push_back(topic); }
+    platform::HelpPage helpPage;  // the last one
+    void OpenHelp(const platform::HelpPage& page) override {
+        helpTopics.push_back(page.topic);
+        helpPage = page;
+    }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 
@@ -112,8 +116,11 @@ public:
     std::map<std::string, FunctionTable> libraries;  // by plain name; others are not found
     std::vector<std::string> registry;               // "key|name|value"
     std::error_code registryError;                   // of a write
+    bool compiledHelp = false;
 
     std::string ProgramFolder() override { return folder; }
+    std::string GuideFolder() override { return "guide"; }
+    bool OpensCompiledHelp() override { return compiledHelp; }
     std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
     std::string Join(Text parent, Text name) override { return parent + "/" + name; }
     std::string CommandLine() override { return commandLine; }

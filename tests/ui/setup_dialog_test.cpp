@@ -341,4 +341,18 @@ TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
     ASSERT_EQ(fake.dialogs.helpTopics, (std::vector<int>{7151, 7141}));
 }
 
+TEST_F(SetupDialogTest, HelpIsAPageUnlessTheCompiledFileIsThereWithAViewer) {
+    const struct { bool file, viewer; } cases[] = {{false, true}, {true, false}, {true, true}};
+    for (const auto& c : cases) {
+        if (c.file) folder.Put("KelvraHelp.chm", "");
+        fake.computer.compiledHelp = c.viewer;
+        Form().SensRange.PressKey("F1");
+        EXPECT_EQ(fake.dialogs.helpPage.path, "guide/7141.html");
+        EXPECT_EQ(fake.dialogs.helpPage.compiledFile, folder.Path("KelvraHelp.chm"));
+        EXPECT_EQ(fake.dialogs.helpPage.opensCompiled, c.file && c.viewer);
+        program->forms.mdiMain.Helpfunction.Press();
+        EXPECT_EQ(fake.dialogs.helpPage.path, "guide/index.html");
+    }
+}
+
 }  // namespace kelvra::ui

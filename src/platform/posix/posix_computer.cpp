@@ -20,6 +20,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* RunningProgram = "/proc/self/exe";
+// From the program's folder; docs/CMakeLists.txt puts the guide there.
+constexpr const char* Guide = "../share/doc/kelvra/help";
 
 std::string Environment(const char* name) {
     const char* value = std::getenv(name);
@@ -50,12 +52,15 @@ std::string DataFolder(const std::string& option) {
     return (base / "kelvra").string();
 }
 
+fs::path FolderOfProgram() {
+    std::error_code unknown;
+    return fs::read_symlink(RunningProgram, unknown).parent_path();
+}
+
 // Relative folders are left out: the search would depend on the current folder.
 std::vector<std::string> DriverFolders(const std::string& option) {
     const std::string chosen = option.empty() ? Environment("KELVRA_DRIVER_DIR") : option;
-    std::error_code unknown;
-    const fs::path program = fs::read_symlink(RunningProgram, unknown);
-    std::vector<std::string> folders{Absolute(chosen), program.parent_path().string()};
+    std::vector<std::string> folders{Absolute(chosen), FolderOfProgram().string()};
     std::erase_if(folders, [](const std::string& folder) { return !folder.starts_with('/'); });
     return folders;
 }
@@ -76,6 +81,10 @@ PosixComputer::PosixComputer(Files& files, const ComputerOptions& options)
       commandLine_(Joined(options.commandLine)),
       version_(options.version),
       dataFolderError_(files_.MakeFolders(dataDir_)) {}
+
+std::string PosixComputer::GuideFolder() {
+    return (FolderOfProgram() / Guide).lexically_normal().string();
+}
 
 std::string PosixComputer::DrivePath(const std::string& windowsPath) {
     if (windowsPath.size() < 3 || windowsPath[1] != ':') return windowsPath;

@@ -24,6 +24,9 @@ public:
     const std::error_code& DataFolderError() const { return dataFolderError_; }
 
     std::string ProgramFolder() override { return dataDir_; }
+    // Beside the folder of the running program.
+    std::string GuideFolder() override;
+    bool OpensCompiledHelp() override { return false; }
     // A path that is on no drive stays as it is.
     std::string DrivePath(const std::string& windowsPath) override;
     std::string Join(const std::string& folder, const std::string& name) override;

@@ -28,7 +28,7 @@ public:
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
     void CopyText(const std::string& text) override;
-    void OpenHelp(const std::string& file, int topic) override;
+    void OpenHelp(const platform::HelpPage& page) override;
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 

@@ -35,7 +35,8 @@ public:
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
     void CopyText(const std::string& text) override;
-    void OpenHelp(const std::string& file, int topic) override;
+    // In the system's browser, or in its viewer for compiled help.
+    void OpenHelp(const platform::HelpPage& page) override;
     platform::ScreenSize Screen() override;
 
 private:

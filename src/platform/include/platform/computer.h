@@ -37,8 +37,12 @@ class Computer {
 public:
     virtual ~Computer() = default;
 
-    // Folder of the application's own files (the INI file, help), without a separator at the end.
+    // Folder of the application's own files (the INI file), without a separator at the end.
     virtual std::string ProgramFolder() = 0;
+    // Folder of the guide's pages, which is installed with the program.
+    virtual std::string GuideFolder() = 0;
+    // Whether the system has a viewer for compiled help files.
+    virtual bool OpensCompiledHelp() = 0;
     // A path on drive C, "C:\DebugKelvra.txt", as it is on this computer.
     virtual std::string DrivePath(const std::string& windowsPath) = 0;
     virtual std::string Join(const std::string& folder, const std::string& name) = 0;

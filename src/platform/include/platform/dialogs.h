@@ -20,6 +20,14 @@ struct FileQuestion {
     bool save = false;     // ask before overwriting, refuse what is read-only
 };
 
+// A page of help, in both forms that help has.
+struct HelpPage {
+    std::string compiledFile;    // may be missing
+    int topic = 0;               // in the compiled file; 0 is the whole file
+    bool opensCompiled = false;  // the file is there, and the system has a viewer for it
+    std::string path;            // otherwise: the page of the guide
+};
+
 struct ScreenSize {
     int width = 0, height = 0;  // twips
 };
@@ -46,8 +54,7 @@ public:
     // Puts the text on the clipboard.
     virtual void CopyText(const std::string& text) = 0;
 
-    // Topic 0 is the whole file.
-    virtual void OpenHelp(const std::string& file, int topic) = 0;
+    virtual void OpenHelp(const HelpPage& page) = 0;
 
     // Of the screen on which the main window opens.
     virtual ScreenSize Screen() = 0;
