@@ -20,7 +20,7 @@ std::string Whole(std::int64_t number) {
     return util::TrimmedNumberText(number);
 }
 
-std::string UpperFirst(std::string text) {
+std::string UpperFirst(const std::string& text) {
     return util::UpperCase(text.substr(0, 1)) + text.substr(1);
 }
 

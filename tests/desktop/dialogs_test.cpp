@@ -11,6 +11,7 @@
 
 #include "desktop/common.h"
 #include "desktop/running_desktop.h"
+#include "support/fake_driver.h"
 #include "ui/result_columns.h"
 
 namespace kelvra::desktop {
@@ -84,6 +85,38 @@ private slots:
             QCOMPARE(confirmed, before + 1);
         }
         QCOMPARE(Visible<QMessageBox>(window).size(), 0);
+    }
+
+    void ZeroingBeginsWithItsBoxAndEndsWithStopOrTheExit() {
+        for (const bool exits : {false, true}) {
+            const QTemporaryDir data;
+            RunningDesktop running(data);
+            auto& kelvra = running.kelvra;
+            test::FakeDriver driver;
+            driver.devices = {{"A", "PS-101", "1"}};
+            driver.complete = [](int) { return false; };
+            driver.PutInto(kelvra.library.deviceList, driver.DeviceListFunctions());
+            driver.PutInto(kelvra.library.instrument, driver.InstrumentFunctions());
+            kelvra.discovery.Search();
+            kelvra.forms.setupForm.SensorZero.Press();
+            const auto boxes = Visible<QMessageBox>(running.Main());
+            QCOMPARE(boxes.size(), 1);
+            bool zeroing = false;
+            When(
+                running.Main(),
+                [&] {
+                    return kelvra.forms.mdiMain.lblMeasAwait.caption->starts_with(
+                        "Zeroing sensor 1");
+                },
+                [&] {
+                    zeroing = Visible<QMessageBox>(running.Main()).isEmpty();
+                    exits ? kelvra.Exit() : running.Click("StopIt");
+                });
+            QTest::mouseClick(boxes.first()->button(QMessageBox::Ok), Qt::LeftButton);
+            QVERIFY(zeroing);
+            QVERIFY(!kelvra.state.commandRuns);
+            QCOMPARE(Visible<QMessageBox>(running.Main()).size(), exits ? 0 : 1);
+        }
     }
 
     void APromptAnswersWithItsTextOrWithNothing() {

@@ -42,7 +42,7 @@ public:
         };
     }
     // In that round of events of a command.
-    void In(int round, std::function<void()> act) {
+    void In(int round, const std::function<void()>& act) {
         fake.events.onRound = [=](int now) {
             if (now == round) act();
         };

@@ -37,7 +37,7 @@ private:
     forms::Forms& forms_;
     const sensors::SensorTable& table_;
     Activity activity_ = Activity::Idle;
-    std::optional<Activity> command_;  // while a sensor command runs, whatever the rest does
+    std::optional<Activity> command_;  // while a sensor command runs
 };
 
 }  // namespace kelvra::ui
