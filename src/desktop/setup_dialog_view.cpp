@@ -32,7 +32,7 @@ void LeaveUndoKeys(QLineEdit& box) {
     new UndoKeys(box);
 }
 
-constexpr int ErrorLines = 3;
+constexpr int ErrorLines = 4;
 constexpr int SignSize = 20;  // logical pixels
 
 }  // namespace

@@ -109,7 +109,7 @@ struct MDIMain : Window {
         MHelp,
         "Helpfunction",
         "Help",
-        {.mnemonic = 'H', .shortcut = "F1", .explanation = "Opens the help file."}};
+        {.mnemonic = 'H', .shortcut = "F1", .explanation = "Opens the help at its contents."}};
     MenuItem MHelpAbout{
         MHelp,
         "MHelpAbout",
