@@ -43,6 +43,19 @@ bool HasMode(const sensors::SensorEntry& entry, std::int32_t mode) {
                                         [&](const auto& one) { return one.mode == mode; });
 }
 
+// An average-only sensor keeps its trigger and advanced settings, whose pages the user can't reach.
+sensors::SensorSettings SettingsFor(const sensors::SensorEntry& entry,
+                                    sensors::SensorSettings settings) {
+    if (driver::CapabilitiesOf(sensors::TypeOf(entry)) != driver::Capabilities::AverageOnly)
+        return settings;
+    for (const sensors::SettingsField& field : sensors::SettingsFields()) {
+        const std::string_view part = field.suffix;
+        if (part != "_TRIG" && part != "_ADVA") continue;
+        std::visit([&](auto member) { settings.*member = entry.settings.*member; }, field.member);
+    }
+    return settings;
+}
+
 }  // namespace
 
 SettingsCopy::SettingsCopy(const Parts& parts) : p_(parts), form_(parts.forms.copyForm) {
@@ -141,7 +154,8 @@ void SettingsCopy::Copy() {
     for (int slot = 0; slot < p_.table.Slots(); ++slot)
         if (IsMarked(slot)) targets.push_back(slot);
     const sensors::SensorSettings settings = p_.table[p_.table.currentSensor].settings;
-    for (const int slot : targets) p_.edits.Replace(slot, "copied settings", settings);
+    for (const int slot : targets)
+        p_.edits.Replace(slot, "copied settings", SettingsFor(p_.table[slot], settings));
     const std::string to = targets.size() == 1
                                ? SensorText(p_.table, targets.front())
                                : Whole(static_cast<std::int64_t>(targets.size())) + " sensors";

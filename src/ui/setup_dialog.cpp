@@ -236,7 +236,7 @@ sensors::DisplayScaling& SetupDialog::Scaling() {
 void SetupDialog::StoreLimit(const ScaleBox& row) {
     if (filling_ || Current() == nullptr) return;
     controls::TextBox& box = p_.form.*row.box;
-    const TypedNumber typed = ReadTyped(box.Text(), Quantity::Plain, 1, p_.host.computer.Numbers());
+    const TypedNumber typed = ReadTyped(box.Text(), {.name = "dBm"}, p_.host.computer.Numbers());
     if (std::isfinite(typed.value)) Scaling().*row.limit = typed.value;
     box.fault = std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
 }

@@ -35,14 +35,20 @@ std::optional<Setting> ValueFor(double value) {
                                     : std::nullopt;
 }
 
+std::string_view UnitOf(const TextBox& box) {
+    const controls::Field* field = box.AsField();
+    if (field == nullptr || !field->unitLabel) return {};
+    return field->unitLabel->caption.Get();
+}
+
 template <class Setting>
 void Store(TextBox& box, Setting& setting, const SetupRow& row, const util::NumberForm& locale) {
     if (box.Text() == ShownText(static_cast<double>(setting), row)) {
         box.fault = std::string();
         return;
     }
-    const TypedNumber typed =
-        ReadTyped(box.Text(), row.unit.quantity, row.unit.stored / row.unit.shown, locale);
+    const TypedNumber typed = ReadTyped(
+        box.Text(), {UnitOf(box), row.unit.quantity, row.unit.stored / row.unit.shown}, locale);
     double stored = typed.value * row.unit.stored / row.unit.shown;
     if (row.rule == SetupRule::Thousandths)
         stored = std::nearbyint(stored * StepsOfThousandths) / StepsOfThousandths;

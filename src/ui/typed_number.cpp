@@ -19,13 +19,15 @@ constexpr struct {
     {Quantity::Time, "\u03BCs", 1e-6}, {Quantity::Time, "us", 1e-6},
     {Quantity::Time, "\u00B5s", 1e-6}, {Quantity::Time, "ns", 1e-9},
     {Quantity::Frequency, "Hz", 1},    {Quantity::Frequency, "kHz", 1e3},
-    {Quantity::Frequency, "KHz", 1e3}, {Quantity::Frequency, "MHz", 1e6},
-    {Quantity::Frequency, "GHz", 1e9},
+    {Quantity::Frequency, "MHz", 1e6}, {Quantity::Frequency, "GHz", 1e9},
 };
 
-// With one decimal comma and no point the comma is the point, where the locale has it so.
+// With one decimal comma and no point the comma is the point, where the locale has it so. The minus
+// sign of texts is a minus.
 std::string WithPoint(std::string_view text, const util::NumberForm& locale) {
-    std::string read(text);
+    constexpr std::string_view minus = "\u2212";
+    std::string read(util::TrimSpaces(text));
+    if (read.starts_with(minus)) read.replace(0, minus.size(), "-");
     const bool comma = locale.decimal == ",";
     const bool clear =
         std::count(read.begin(), read.end(), ',') == 1 && read.find('.') == std::string::npos;
@@ -35,16 +37,15 @@ std::string WithPoint(std::string_view text, const util::NumberForm& locale) {
 
 }  // namespace
 
-TypedNumber ReadTyped(std::string_view text, Quantity quantity, double scale,
-                      const util::NumberForm& locale) {
+TypedNumber ReadTyped(std::string_view text, const BoxUnit& box, const util::NumberForm& locale) {
     const std::string read = WithPoint(text, locale);
     const util::NumberRead number = util::ReadNumberAt(read);
     if (number.length == 0) return {0, "This is no number; it counts as 0."};
     const std::string_view rest = util::TrimSpaces(std::string_view(read).substr(number.length));
-    if (rest.empty()) return {number.value, {}};
+    if (rest.empty() || util::EqualNoCase(rest, box.name)) return {number.value, {}};
     for (const auto& unit : Units)
-        if (unit.quantity == quantity && unit.word == rest)
-            return {number.value * unit.scale / scale, {}};
+        if (unit.quantity == box.quantity && util::EqualNoCase(unit.word, rest))
+            return {number.value * unit.scale / box.scale, {}};
     return {number.value, "\"" + std::string(rest) + "\" is not understood and is left out."};
 }
 

@@ -81,6 +81,9 @@ TEST_F(SetupDialogTest, WhatIsTypedIsStoredInTheUnitOfTheSetting) {
         {Form().CorrFreqValue, "1.5 GHz", &SensorSettings::CorrFreqVal, 1.5e9, false},
         {Form().CorrFreqValue, "50", &SensorSettings::CorrFreqVal, 5e7, false},
         {Form().SensTriggerDelay, "1.2345", &SensorSettings::TrigDelay, 0.001, false},
+        {Form().CorrFreqValue, "2 ghz", &SensorSettings::CorrFreqVal, 2e9, false},
+        {Form().SensTriggerLevel, "\u221221dbm", &SensorSettings::TrigLevel, -21, false},
+        {Form().CorrDutyValue, "50 %", &SensorSettings::CorrDutyVal, 50, false},
         {Form().SensTriggerLevel, "-20 ms", &SensorSettings::TrigLevel, -20, true},
         {Form().SensTriggerLevel, "1e999", &SensorSettings::TrigLevel, -20, true},  // stays
     };

@@ -19,8 +19,14 @@ struct TypedNumber {
     std::string fault;  // empty: all of the text was understood
 };
 
-// `scale` is the field's unit in s or Hz: "2 ms" in a field that shows microseconds (1e-6) is 2000.
-TypedNumber ReadTyped(std::string_view text, Quantity quantity, double scale,
-                      const util::NumberForm& locale);
+// The unit in which a box shows its number.
+struct BoxUnit {
+    std::string_view name;  // as the label beside it says; empty: none
+    Quantity quantity = Quantity::Plain;
+    double scale = 1;  // in s or Hz
+};
+
+// The case of units does not matter. "2 ms" in a box that shows microseconds is 2000.
+TypedNumber ReadTyped(std::string_view text, const BoxUnit& box, const util::NumberForm& locale);
 
 }  // namespace kelvra::ui
