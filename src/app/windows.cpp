@@ -3,6 +3,8 @@
 
 #include <initializer_list>
 
+#include "ui/help.h"
+
 namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
@@ -29,6 +31,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
           {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {
+    ui::ConnectHelp(forms.timeForm, host);
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle, &commands] {
         if (!commands.Stop()) cycle.Stop();

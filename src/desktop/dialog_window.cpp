@@ -102,6 +102,7 @@ void DialogWindowAdapter::Update() {
     if (window_ == nullptr) window_ = &make_();
     const QString title = Shown(record_.caption.Get());
     if (window_->windowTitle() != title) window_->setWindowTitle(title);
+    window_->setCursor(record_.busy ? Qt::BusyCursor : Qt::ArrowCursor);
     window_->StayOnTop(record_.topMost);
     window_->Show(record_.visible);
 }

@@ -63,7 +63,12 @@ SensorCommands::SensorCommands(const Parts& parts)
     dialog.SensInfo.click.Connect([this] { p_.commands.ReadCurrent(); });
 }
 
+void SensorCommands::CommandBegins(SensorCommand /*command*/) {
+    p_.forms.setupForm.busy = true;
+}
+
 void SensorCommands::PowerMustBeOff(const std::function<void()>& goOn) {
+    p_.forms.setupForm.busy = false;
     p_.notice.ShowCommand("Zeroing waits until you have disconnected RF power and confirmed it");
     p_.host.dialogs.Confirm({}, "Please disconnect RF power", platform::MessageIcon::Information,
                             goOn);
@@ -72,11 +77,13 @@ void SensorCommands::PowerMustBeOff(const std::function<void()>& goOn) {
 void SensorCommands::SensorBegins(SensorCommand command, int slot, int number, int sensors) {
     std::string text = Doings[static_cast<std::size_t>(command)] + SensorText(p_.table, slot);
     if (sensors > 1) text += ", " + Whole(number) + " of " + Whole(sensors);
+    p_.forms.setupForm.busy = true;
     p_.notice.ShowCommand(text);
 }
 
 void SensorCommands::CommandEnded(const CommandEnd& end) {
     p_.notice.ShowCommand({});
+    p_.forms.setupForm.busy = false;
     if (end.outcome == CommandOutcome::Done)
         ShowResult(end);
     else if (end.outcome != CommandOutcome::Exiting)

@@ -23,7 +23,6 @@ using sensors::SensorEntry;
 namespace {
 
 constexpr int MostPoints = 1024;
-constexpr const char* HelpKey = "F1";
 
 // While it lives, events of the controls are not the user's.
 class Filling {
@@ -69,7 +68,7 @@ SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.S
     p_.edits.onReplace = [this](int slot) { Replaced(slot); };
     ConnectFields();
     ConnectScales();
-    ConnectHelp(p_.form);
+    ConnectHelp(p_.form, p_.host);
     p_.form.PageSelect.click.Connect(
         [this] { SelectPage(p_.form, p_.form.PageSelect.Selected()); });
     p_.form.resize.Connect([this] { LimitSize(p_.form); });
@@ -100,16 +99,6 @@ void SetupDialog::ConnectScales() {
         const Filling filling(filling_);
         ShowScaling(p_.form, Scaling(), Typing::Stays);
     });
-}
-
-// For every control with a help topic.
-void SetupDialog::ConnectHelp(controls::Control& control) {
-    if (auto* focusable = dynamic_cast<controls::Focusable*>(&control);
-        focusable != nullptr && control.access.helpTopic != 0)
-        focusable->keyDown.Connect([this, topic = control.access.helpTopic](const auto& key) {
-            if (key == HelpKey) OpenHelp(p_.host, topic);
-        });
-    for (controls::Control* child : control.Children()) ConnectHelp(*child);
 }
 
 // Null if there is no sensor.

@@ -195,11 +195,15 @@ TEST(SensorCommands, ZeroingWaitsForTheUserShowsItsProgressAndIsPolledInPeace) {
             const auto& cell = k.Cell(slot, ui::StatusColumn);
             if (cell.Text().empty()) continue;
             EXPECT_EQ(cell.look.back, controls::Orange);
+            EXPECT_TRUE(k.program->forms.setupForm.busy);
             const std::string now = cell.Text() + ": " + k.Notice() + "|";
             if (!shown.ends_with(now)) shown += now;
         }
     };
+    const auto& busy = k.program->forms.setupForm.busy;
+    EXPECT_FALSE(busy);  // the user has to confirm
     goOn();
+    EXPECT_FALSE(busy);
     EXPECT_EQ(shown,
               "ZERO: Zeroing sensor 1 (A), 1 of 3|ZERO: Zeroing sensor 2 (B), 2 of 3|"
               "ZERO: Zeroing sensor 3 (C), 3 of 3|");

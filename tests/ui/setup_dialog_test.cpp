@@ -341,7 +341,8 @@ TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
     Form().SensContAVTime.PressKey("F1");
     Form().SensRange.PressKey("F1");
     Form().CorrGammaAmp.PressKey("F1");  // has no page
-    ASSERT_EQ(fake.dialogs.helpTopics, (std::vector<int>{7151, 7141}));
+    program->forms.timeForm.TimeIntervalBox.PressKey("F1");
+    ASSERT_EQ(fake.dialogs.helpTopics, (std::vector<int>{7151, 7141, 1114}));
 }
 
 TEST_F(SetupDialogTest, HelpIsAPageUnlessTheCompiledFileIsThereWithAViewer) {

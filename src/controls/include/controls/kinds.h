@@ -170,6 +170,7 @@ public:
     Property<std::string> caption;
     Property<Geometry> place;
     Property<bool> topMost{*this, false};
+    Property<bool> busy{*this, false};  // the mouse pointer says so
     Property<std::string> tag{*this, {}};
 
     // True if the window has a rule for the close.

@@ -10,7 +10,9 @@ namespace kelvra::forms {
 
 struct TimeForm : controls::Window {
     explicit TimeForm(controls::Changes& changes)
-        : Window(changes, "TimeForm", "Record Time Interval", {3000, 3000, 4800, 1500}) {}
+        : Window(changes, "TimeForm", "Record Time Interval", {3000, 3000, 4800, 1500}) {
+        TimeIntervalBox.access.helpTopic = 1114;
+    }
 
     controls::Frame Frame1{*this, "Frame1", "", {60, 60, 4680, 1380}};
     controls::Picture Image1{Frame1, "Image1", "recordPic"};

@@ -3,21 +3,15 @@
 // guide. The front end opens it.
 #pragma once
 
+#include "controls/control.h"
 #include "platform/host.h"
-#include "util/number_text.h"
 
 namespace kelvra::ui {
 
 // Topic 0 is the beginning.
-inline void OpenHelp(platform::Host& host, int topic) {
-    platform::Computer& computer = host.computer;
-    const std::string file = computer.Join(computer.ProgramFolder(), "KelvraHelp.chm");
-    const std::string name =
-        topic == 0 ? "index" : util::TrimmedNumberText(static_cast<std::int64_t>(topic));
-    host.dialogs.OpenHelp({.compiledFile = file,
-                           .topic = topic,
-                           .opensCompiled = computer.OpensCompiledHelp() && host.files.Exists(file),
-                           .path = computer.Join(computer.GuideFolder(), name + ".html")});
-}
+void OpenHelp(platform::Host& host, int topic);
+
+// F1 in a control that has a topic opens it: this one and all those in it.
+void ConnectHelp(controls::Control& control, platform::Host& host);
 
 }  // namespace kelvra::ui

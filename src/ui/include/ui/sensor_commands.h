@@ -28,6 +28,7 @@ public:
 
     explicit SensorCommands(const Parts& parts);
 
+    void CommandBegins(measure::SensorCommand command) override;
     void PowerMustBeOff(const std::function<void()>& goOn) override;
     void SensorBegins(measure::SensorCommand command, int slot, int number, int sensors) override;
     void CommandEnded(const measure::CommandEnd& end) override;

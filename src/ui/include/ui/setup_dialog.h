@@ -48,7 +48,6 @@ public:
 private:
     void ConnectFields();
     void ConnectScales();
-    void ConnectHelp(controls::Control& control);
 
     sensors::SensorEntry* Current();
     void FillModes(const sensors::SensorEntry& entry);
