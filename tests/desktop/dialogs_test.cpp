@@ -95,8 +95,10 @@ private slots:
             test::FakeDriver driver;
             driver.devices = {{"A", "PS-101", "1"}};
             driver.complete = [](int) { return false; };
-            driver.PutInto(kelvra.library.deviceList, driver.DeviceListFunctions());
-            driver.PutInto(kelvra.library.instrument, driver.InstrumentFunctions());
+            test::FakeDriver::PutInto(kelvra.library.deviceList,
+                                      test::FakeDriver::DeviceListFunctions());
+            test::FakeDriver::PutInto(kelvra.library.instrument,
+                                      test::FakeDriver::InstrumentFunctions());
             kelvra.discovery.Search();
             kelvra.forms.setupForm.SensorZero.Press();
             const auto boxes = Visible<QMessageBox>(running.Main());
