@@ -49,4 +49,9 @@ void Window::PersonCloses() {
     if (!closesByRule) visible = false;
 }
 
+void Window::Present() {
+    visible = true;
+    presented = presented + 1;
+}
+
 }  // namespace kelvra::controls

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/desktop.h"
 
+#include "desktop/dialog_views.h"
+#include "desktop/qt_text.h"
 #include "desktop/table_menu.h"
 
 namespace kelvra::desktop {
 
 namespace {
 constexpr const char* ResultWindow = "StatusForm";
-constexpr const char* SetupWindow = "SetupForm";
 }  // namespace
 
 Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
                  const std::string& dataFolder)
     : events_(events),
-      setup_(kelvra.forms.setupForm),
       preferences_(dataFolder),
       mirror_(kelvra.forms.changes),
       main_(kelvra.forms.mdiMain, mirror_),
@@ -25,17 +25,14 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
         results_.Window().PlaceAsBefore(place);
     main_.MirrorFrame(preferences_.Frame());
-    AddDialog(setup_, [this]() -> DialogWindow& { return MakeSetupDialog(); });
-    AddDialog(kelvra.forms.copyForm, [this, &form = kelvra.forms.copyForm]() -> DialogWindow& {
-        return copyWindow_.emplace(form, mirror_, main_.Area()).Window();
+    forms::Forms& forms = kelvra.forms;
+    AddDialog(forms.setupForm, [this, &forms](WidgetMaker& maker) {
+        return MakeSetupDialog(forms.setupForm, maker, main_.EditEntries());
     });
-    AddDialog(
-        kelvra.forms.sensInfoForm, [ this, &form = kelvra.forms.sensInfoForm ]() -> auto& {
-            return infoWindow_.emplace(form, mirror_, main_.Area()).Window();
-        });
-    kelvra.forms.mdiMain.Show_Settings.click.Connect([this] {
-        if (setupDialog_) setupDialog_->Window().Raise();
-    });
+    AddDialog(forms.copyForm,
+              [&forms](WidgetMaker& maker) { return MakeCopyWindow(forms.copyForm, maker); });
+    AddDialog(forms.sensInfoForm,
+              [&forms](WidgetMaker& maker) { return MakeInfoWindow(forms.sensInfoForm, maker); });
     dialogs.SetParent(main_.Widget());
     events_.onRepaint = [this] { mirror_.PaintNow(); };
     events_.onQuit = [&dialogs] { dialogs.Drop(); };
@@ -53,18 +50,21 @@ void Desktop::Recolour() {
 }
 
 // Dialogs are made when they are first shown: many runs never show them.
-void Desktop::AddDialog(controls::Window& record, std::function<DialogWindow&()> make) {
-    mirror_.Add(record, std::make_unique<DialogWindowAdapter>(record, std::move(make)));
-}
-
-DialogWindow& Desktop::MakeSetupDialog() {
-    setupDialog_.emplace(setup_, mirror_, main_.Area(), main_.EditEntries());
-    setupDialog_->Window().ShowAsBefore(preferences_.Place(SetupWindow));
-    return setupDialog_->Window();
+void Desktop::AddDialog(controls::Window& record,
+                        std::function<QWidget*(WidgetMaker& maker)> makeContent) {
+    const auto make = [this, &record, makeContent]() -> DialogWindow& {
+        WidgetMaker maker(mirror_);
+        dialogs_.push_back(
+            std::make_unique<DialogWindow>(record, main_.Area(), makeContent(maker)));
+        dialogs_.back()->ShowAsBefore(preferences_.Place(Shown(record.Name())));
+        return *dialogs_.back();
+    };
+    mirror_.Add(record, std::make_unique<DialogWindowAdapter>(record, make));
 }
 
 void Desktop::KeepLook() {
-    if (setupDialog_) preferences_.SetPlace(SetupWindow, setupDialog_->Window().Place());
+    for (const auto& dialog : dialogs_)
+        preferences_.SetPlace(Shown(dialog->Record().Name()), dialog->Place());
     preferences_.SetFrame(main_.Widget().Geometry());
     if (!results_.Table().Fitted() && results_.Window().PlacedByPerson())
         preferences_.SetPlace(ResultWindow, results_.Window().geometry());

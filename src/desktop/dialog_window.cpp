@@ -18,6 +18,7 @@ namespace kelvra::desktop {
 namespace {
 constexpr Qt::WindowFlags Plain = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags Above = (Plain & ~Qt::WindowType_Mask) | Qt::Dialog;
 }  // namespace
 
 ContentScroll::ContentScroll(QWidget* content) {
@@ -37,9 +38,7 @@ DialogWindow::DialogWindow(controls::Window& record, QWidget& area, QWidget* con
 
 void DialogWindow::Show(bool visible) {
     if (visible && !placed_) PlaceFirst();
-    const bool appears = visible && !isVisible();
     setVisible(visible);
-    if (appears) Raise();
 }
 
 void DialogWindow::Raise() {
@@ -62,18 +61,20 @@ void DialogWindow::PlaceFirst() {
     const QScreen& screen = at != nullptr ? *at : *area_.screen();
     QRect place = OnScreen(wanted, screen, *this);
     const bool cut = place.height() < whole.height();
-    if (cut) place = OnScreen(place.adjusted(0, 0, bar, 0), screen, *this);
+    if (cut && !before_.isValid()) place = OnScreen(place.adjusted(0, 0, bar, 0), screen, *this);
     setGeometry(place);
 }
 
-// A window that is there must be shown anew for that; it stays where it is.
+// Window managers keep only dialogs above another window. A window that is there must be shown anew
+// for that; it stays where it is.
 void DialogWindow::StayOnTop(bool onTop) {
-    winId();  // makes the toolkit's own window, which knows what it stays above of
     if (onTop == onTop_) return;
     onTop_ = onTop;
     const bool shown = isVisible();
     const QRect place = geometry();
     if (shown) hide();
+    setWindowFlags(onTop ? Above : Plain);
+    winId();  // makes the toolkit's own window, which knows what it stays above of
     windowHandle()->setTransientParent(onTop ? area_.window()->windowHandle() : nullptr);
     if (!shown) return;
     show();
@@ -105,6 +106,8 @@ void DialogWindowAdapter::Update() {
     window_->setCursor(record_.busy ? Qt::BusyCursor : Qt::ArrowCursor);
     window_->StayOnTop(record_.topMost);
     window_->Show(record_.visible);
+    if (presented_ != record_.presented.Get() && record_.visible) window_->Raise();
+    presented_ = record_.presented;
 }
 
 }  // namespace kelvra::desktop

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/info_window_view.h"
-
 #include <QHBoxLayout>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "desktop/common.h"
+#include "desktop/dialog_views.h"
 
 namespace kelvra::desktop {
 
@@ -35,19 +34,16 @@ void ScrollTogether(QListWidget& names, QListWidget& values) {
 
 }  // namespace
 
-InfoWindowView::InfoWindowView(forms::SensInfoForm& form, Mirror& mirror, QWidget& area)
-    : form_(form), maker_(mirror), window_(form, area, Build()) {}
-
-QWidget* InfoWindowView::Build() {
+QWidget* MakeInfoWindow(forms::SensInfoForm& form, WidgetMaker& maker) {
     auto* all = new QWidget;
     auto* column = new QVBoxLayout(all);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(Margin);
-    column->addWidget(maker_.Make(form_.lblInfoSensor));
+    column->addWidget(maker.Make(form.lblInfoSensor));
     auto* lists = new QHBoxLayout;
     lists->setSpacing(0);
-    QListWidget* names = maker_.MakeListBox(form_.InfoHeader);
-    QListWidget* values = maker_.MakeListBox(form_.InfoValue);
+    QListWidget* names = maker.MakeListBox(form.InfoHeader);
+    QListWidget* values = maker.MakeListBox(form.InfoValue);
     Size(*names, NameCharacters);
     Size(*values, ValueCharacters);
     ScrollTogether(*names, *values);
@@ -56,8 +52,8 @@ QWidget* InfoWindowView::Build() {
     column->addLayout(lists, 1);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Margin);
-    for (controls::Button* button : {&form_.cmdInfoCopy, &form_.cmdInfoSave})
-        buttons->addWidget(maker_.Make(*button));
+    for (controls::Button* button : {&form.cmdInfoCopy, &form.cmdInfoSave})
+        buttons->addWidget(maker.Make(*button));
     buttons->addStretch();
     column->addLayout(buttons);
     return all;

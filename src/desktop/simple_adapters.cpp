@@ -31,6 +31,22 @@ void LabelAdapter::Update() {
     UpdateCommon(widget_, label_);
 }
 
+LongLabelAdapter::LongLabelAdapter(const controls::Label& label, QPlainTextEdit& widget)
+    : label_(label), widget_(widget) {
+    widget_.setReadOnly(true);
+    widget_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    widget_.setTabChangesFocus(true);
+    widget_.setFrameShape(QFrame::NoFrame);
+    widget_.viewport()->setAutoFillBackground(false);
+    widget_.document()->setDocumentMargin(0);
+}
+
+void LongLabelAdapter::Update() {
+    const QString text = Shown(label_.caption.Get()).replace("\r\n", "\n");
+    if (widget_.toPlainText() != text) widget_.setPlainText(text);
+    UpdateCommon(widget_, label_);
+}
+
 ButtonAdapter::ButtonAdapter(controls::Button& button, QPushButton& widget)
     : button_(button), widget_(widget) {
     QObject::connect(&widget_, &QPushButton::clicked, [this] { button_.Press(); });

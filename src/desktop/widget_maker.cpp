@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widget_maker.h"
 
-#include <QBoxLayout>
+#include <QHBoxLayout>
 #include <QRadioButton>
 #include <QShortcut>
 #include <memory>
@@ -54,6 +54,10 @@ QLabel* WidgetMaker::Make(const controls::Label& label, QLabel* widget) {
     return Mirrored<LabelAdapter>(label, widget);
 }
 
+QPlainTextEdit* WidgetMaker::MakeLong(const controls::Label& label) {
+    return Mirrored<LongLabelAdapter>(label, new QPlainTextEdit);
+}
+
 QPushButton* WidgetMaker::Make(controls::Button& button) {
     auto* widget = new QPushButton;
     widget->setIconSize({ToolIcon, ToolIcon});
@@ -75,9 +79,7 @@ QCheckBox* WidgetMaker::Make(controls::CheckBox& box) {
 QWidget* WidgetMaker::Make(controls::OptionGroup& group, OptionLook look) {
     auto* widget = new QWidget;
     widget->setFocusPolicy(Qt::ClickFocus);  // a caption's mnemonic needs a focus policy
-    const bool column = look == OptionLook::Column;
-    auto* layout =
-        new QBoxLayout(column ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
+    auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
     const QList<QAbstractButton*> options = look == OptionLook::Pages
                                                 ? MakeOptions<PageButton>(group)
@@ -85,7 +87,7 @@ QWidget* WidgetMaker::Make(controls::OptionGroup& group, OptionLook look) {
     for (QAbstractButton* option : options) layout->addWidget(option);
     if (look == OptionLook::Pages)
         layout->setSpacing(0);
-    else if (!column)
+    else
         layout->addStretch();
     return Mirrored<OptionGroupAdapter>(group, widget, options);
 }

@@ -44,7 +44,7 @@ void InfoWindow::Show(const std::string& sensor, const std::vector<measure::Info
     const controls::Geometry& at = dialog_.place.Get();
     form_.place = controls::Geometry{at.left + Offset, at.top + Offset, form_.place->width,
                                      form_.place->height};
-    form_.visible = true;
+    form_.Present();
 }
 
 std::string InfoWindow::Lines(const char* separator, const char* lineEnd) const {

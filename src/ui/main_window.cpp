@@ -98,7 +98,7 @@ void MainWindow::ShowSettings() {
     const Geometry& table = forms_.statusForm.place.Get();
     dialog.place = Geometry{table.left + table.width + Margin, Margin, dialog.place->width,
                             dialog.place->height};
-    dialog.visible = true;
+    dialog.Present();
     dialog.tag = "shown";
 }
 

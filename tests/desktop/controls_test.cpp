@@ -220,7 +220,7 @@ private slots:
         page.Hear(group.click, "click");
         QCOMPARE(options.at(1)->toolTip(), "not now");
         options.at(0)->setFocus();
-        QTest::keyClick(options.at(0), Qt::Key_Down);
+        QTest::keyClick(options.at(0), Qt::Key_Right);
         QCOMPARE(group.Selected(), 2);
         QCOMPARE(page.Taken().size(), 1);
         group.SetSelected(0);

@@ -167,6 +167,10 @@ public:
     void PersonResizes(int width, int height);
     void PersonCloses();
 
+    // The program shows the window in front of the others, also if it is visible already.
+    void Present();
+    Property<int> presented{*this, 0};  // how often
+
     Property<std::string> caption;
     Property<Geometry> place;
     Property<bool> topMost{*this, false};

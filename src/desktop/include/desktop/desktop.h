@@ -2,19 +2,19 @@
 // The desktop front end: the whole program with Qt Widgets.
 #pragma once
 
-#include <optional>
+#include <functional>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "app/kelvra.h"
-#include "desktop/copy_window_view.h"
-#include "desktop/info_window_view.h"
+#include "desktop/dialog_window.h"
 #include "desktop/main_window_view.h"
 #include "desktop/mirror.h"
 #include "desktop/preferences.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_events.h"
 #include "desktop/result_window_view.h"
-#include "desktop/setup_dialog_view.h"
 #include "desktop/view_menu.h"
 
 namespace kelvra::desktop {
@@ -34,21 +34,18 @@ public:
 
 private:
     void Recolour();
-    void AddDialog(controls::Window& record, std::function<DialogWindow&()> make);
-    DialogWindow& MakeSetupDialog();
+    void AddDialog(controls::Window& record,
+                   std::function<QWidget*(WidgetMaker& maker)> makeContent);
     void KeepLook();
 
     QtEvents& events_;
-    forms::SetupForm& setup_;
     Preferences preferences_;
     Scheme shown_ = Scheme::Classic;
     Mirror mirror_;
     MainWindowView main_;
     ResultWindowView results_;
     ViewMenu view_;
-    std::optional<SetupDialogView> setupDialog_;
-    std::optional<CopyWindowView> copyWindow_;
-    std::optional<InfoWindowView> infoWindow_;
+    std::vector<std::unique_ptr<DialogWindow>> dialogs_;
 };
 
 }  // namespace kelvra::desktop

@@ -35,6 +35,7 @@ public:
     // The place for the next run, and the one of an earlier run.
     QRect Place() const { return geometry(); }
     void ShowAsBefore(const QRect& place) { before_ = place; }
+    const controls::Window& Record() const { return record_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;  // the record's rule decides
@@ -62,6 +63,7 @@ private:
     const controls::Window& record_;
     std::function<DialogWindow&()> make_;
     DialogWindow* window_ = nullptr;
+    int presented_ = 0;  // as the window has seen it
 };
 
 }  // namespace kelvra::desktop

@@ -7,6 +7,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "controls/kinds.h"
@@ -29,6 +30,17 @@ private:
     QLabel& widget_;
     const controls::Control* named_;
     QString shown_;
+};
+
+// A label of many lines, which can be scrolled, selected and copied.
+class LongLabelAdapter final : public WidgetAdapter {
+public:
+    LongLabelAdapter(const controls::Label& label, QPlainTextEdit& widget);
+    void Update() override;
+
+private:
+    const controls::Label& label_;
+    QPlainTextEdit& widget_;
 };
 
 class ButtonAdapter final : public WidgetAdapter {

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "controls/field.h"
@@ -23,7 +24,7 @@
 namespace kelvra::desktop {
 
 // How the options of a group are shown: as radio buttons, or as buttons that choose a page.
-enum class OptionLook { Column, Row, Pages };
+enum class OptionLook { Row, Pages };
 
 class WidgetMaker {
 public:
@@ -32,10 +33,11 @@ public:
     // The caller puts the widget into a layout or a parent. A picture's side is in logical pixels.
     QLabel* Make(const controls::Label& label) { return Make(label, new QLabel); }
     QLabel* Make(const controls::Label& label, QLabel* widget);
+    QPlainTextEdit* MakeLong(const controls::Label& label);  // with scroll bars
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);
     QCheckBox* Make(controls::CheckBox& box);
-    QWidget* Make(controls::OptionGroup& group, OptionLook look = OptionLook::Column);
+    QWidget* Make(controls::OptionGroup& group, OptionLook look = OptionLook::Row);
     // The options alone, for a page that puts other controls between them. They must get the same
     // parent.
     QList<QAbstractButton*> MakeOptions(controls::OptionGroup& group);

@@ -10,6 +10,7 @@ namespace kelvra::forms {
 struct CopyForm : Window {
     explicit CopyForm(controls::Changes& changes)
         : Window(changes, "CopyForm", "Copy settings", {3000, 1800, 6900, 4500}) {
+        topMost = true;
         lblCopyFrom.access.explanation = "Whose settings are copied.";
     }
 

@@ -63,7 +63,9 @@ struct AboutForm : controls::Window {
 // Names on the left, values on the right, an entry per line.
 struct SensInfoForm : controls::Window {
     explicit SensInfoForm(controls::Changes& changes)
-        : Window(changes, "SensInfoForm", "Sensor Information", {3000, 1800, 6900, 5400}) {}
+        : Window(changes, "SensInfoForm", "Sensor Information", {3000, 1800, 6900, 5400}) {
+        topMost = true;
+    }
 
     controls::Label lblInfoSensor{*this, "lblInfoSensor"};
     controls::List InfoHeader{*this, "InfoHeader", {}, -1, {.name = "Names"}};

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What is in the windows beside the frame, each made and mirrored by a function. Widgets and their
+// adapters, no rules.
+#pragma once
+
+#include "desktop/widget_maker.h"
+#include "forms/copy_form.h"
+#include "forms/dialogs.h"
+#include "forms/setup_form.h"
+
+namespace kelvra::desktop {
+
+// The header with sensor, mode and pages, the page that is chosen, and the error strip, for which
+// there is always room, so that nothing jumps. The keys of the frame's `shared` entries work there,
+// too.
+QWidget* MakeSetupDialog(forms::SetupForm& form, WidgetMaker& maker, const QList<QAction*>& shared);
+
+// What is copied, the other sensors, the buttons.
+QWidget* MakeCopyWindow(forms::CopyForm& form, WidgetMaker& maker);
+
+// Names and values side by side, which scroll together.
+QWidget* MakeInfoWindow(forms::SensInfoForm& form, WidgetMaker& maker);
+
+}  // namespace kelvra::desktop
