@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "util/text.h"
+
 namespace kelvra::driver {
 
 namespace {
@@ -72,6 +74,20 @@ std::span<const ModeEntry> ModesOf(Capabilities capabilities) {
             break;
     }
     return {};
+}
+
+bool HasMode(std::string_view type, int mode) {
+    const auto modes = ModesOf(CapabilitiesOf(type));
+    return modes.empty() || std::any_of(modes.begin(), modes.end(),
+                                        [&](const ModeEntry& one) { return one.mode == mode; });
+}
+
+bool TakesTriggerAndMode(std::string_view type) {
+    return type.find("102") == std::string_view::npos;
+}
+
+bool TakesAdvanced(std::string_view type) {
+    return util::UpperCase(type).find("PS-102") == std::string::npos;
 }
 
 std::string ResourceDescriptor(std::string_view type, std::string_view serial) {

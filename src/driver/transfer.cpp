@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "driver/transfer.h"
+#include "driver/catalogue.h"
 
 #include <cmath>
 #include <cstdint>
@@ -10,7 +11,6 @@
 #include "util/levels.h"
 #include "util/number_reading.h"
 #include "util/number_text.h"
-#include "util/text.h"
 
 namespace kelvra::driver {
 
@@ -231,11 +231,10 @@ bool ConfigurationTransfer::Send(int slot) {
     InstrumentOperations& op = session_.operations;
     const sensors::SensorSettings& settings = table_[slot].settings;
     const std::string_view type = sensors::TypeOf(table_[slot]);
-    const bool averageOnly = type.find("102") != std::string_view::npos;
     SendAveraging(send, op, settings);
     SendCorrections(send, op, settings);
-    if (util::UpperCase(type).find("PS-102") == std::string::npos) SendRange(send, op, settings);
-    if (!averageOnly) {
+    if (TakesAdvanced(type)) SendRange(send, op, settings);
+    if (TakesTriggerAndMode(type)) {
         SendTrigger(send, op, settings);
         SendMode(send, op, settings);
     }

@@ -35,6 +35,11 @@ void EnableCommands(forms::SetupForm& dialog, bool enabled) {
         command.button.picture = enabled ? command.picture : command.disabledPicture;
 }
 
+void EnablePage(controls::Frame& page, bool enabled) {
+    page.enabled = enabled;
+    page.tooltip = enabled ? "" : "This model does not take these settings";
+}
+
 }  // namespace
 
 EnableStates FindEnableStates(const Situation& situation) {
@@ -53,9 +58,9 @@ EnableStates FindEnableStates(const Situation& situation) {
         .averagingSlot = settings.AvgEnable && settings.Mode == sensors::TimeSlot && !averageOnly,
         .traceAveraging = settings.ScopeAVGEnable,
         .dutyCycle = settings.Mode == sensors::ContinuousAverage,
-        .triggerPage = !averageOnly,
-        .advancedPage = !averageOnly,
-        .triggerLevel = settings.TrigSource != ExternalTrigger,
+        .triggerPage = situation.takesTrigger,
+        .advancedPage = situation.takesAdvanced,
+        .triggerLevel = situation.takesTrigger && settings.TrigSource != ExternalTrigger,
     };
 }
 
@@ -78,8 +83,8 @@ void ApplyEnableStates(forms::Forms& forms, const EnableStates& states) {
            states.traceAveraging);
     Enable(dialog.ScopeAvgMode, states.traceAveraging);
     Enable({&dialog.CorrDutyEnable, &dialog.CorrDutyValue}, states.dutyCycle);
-    dialog.TriggerFrame.enabled = states.triggerPage;
-    dialog.AdvancedFrame.enabled = states.advancedPage;
+    EnablePage(dialog.TriggerFrame, states.triggerPage);
+    EnablePage(dialog.AdvancedFrame, states.advancedPage);
     dialog.SensTriggerLevel.enabled = states.triggerLevel;
     dialog.SensTriggerLevel.back = states.triggerLevel ? controls::Cyan : controls::Grey;
 }

@@ -36,26 +36,6 @@ std::string Whole(std::int64_t number) {
     return util::TrimmedNumberText(number);
 }
 
-// A model that is not known has all modes.
-bool HasMode(const sensors::SensorEntry& entry, std::int32_t mode) {
-    const auto modes = driver::ModesOf(driver::CapabilitiesOf(sensors::TypeOf(entry)));
-    return modes.empty() || std::any_of(modes.begin(), modes.end(),
-                                        [&](const auto& one) { return one.mode == mode; });
-}
-
-// An average-only sensor keeps its trigger and advanced settings, whose pages the user can't reach.
-sensors::SensorSettings SettingsFor(const sensors::SensorEntry& entry,
-                                    sensors::SensorSettings settings) {
-    if (driver::CapabilitiesOf(sensors::TypeOf(entry)) != driver::Capabilities::AverageOnly)
-        return settings;
-    for (const sensors::SettingsField& field : sensors::SettingsFields()) {
-        const std::string_view part = field.suffix;
-        if (part != "_TRIG" && part != "_ADVA") continue;
-        std::visit([&](auto member) { settings.*member = entry.settings.*member; }, field.member);
-    }
-    return settings;
-}
-
 }  // namespace
 
 SettingsCopy::SettingsCopy(const Parts& parts) : p_(parts), form_(parts.forms.copyForm) {
@@ -75,7 +55,7 @@ SettingsCopy::SettingsCopy(const Parts& parts) : p_(parts), form_(parts.forms.co
 
 void SettingsCopy::Open() {
     if (!form_.visible) marked_.clear();
-    form_.visible = true;
+    form_.Present();
     Refresh();
 }
 
@@ -85,7 +65,7 @@ bool SettingsCopy::IsOther(int slot) const {
 
 std::string SettingsCopy::Obstacle(int slot) const {
     const std::int32_t mode = p_.table[p_.table.currentSensor].settings.Mode;
-    if (HasMode(p_.table[slot], mode)) return {};
+    if (driver::HasMode(sensors::TypeOf(p_.table[slot]), mode)) return {};
     const bool known = mode >= 0 && mode < static_cast<std::int32_t>(std::size(ModeNames));
     return known ? std::string("has no ") + ModeNames[mode] + " mode" : "does not have the mode";
 }
@@ -154,8 +134,7 @@ void SettingsCopy::Copy() {
     for (int slot = 0; slot < p_.table.Slots(); ++slot)
         if (IsMarked(slot)) targets.push_back(slot);
     const sensors::SensorSettings settings = p_.table[p_.table.currentSensor].settings;
-    for (const int slot : targets)
-        p_.edits.Replace(slot, "copied settings", SettingsFor(p_.table[slot], settings));
+    for (const int slot : targets) p_.edits.Replace(slot, "copied settings", settings);
     const std::string to = targets.size() == 1
                                ? SensorText(p_.table, targets.front())
                                : Whole(static_cast<std::int64_t>(targets.size())) + " sensors";

@@ -51,17 +51,17 @@ TEST(EnableStates, FieldsGoByModeAndModel) {
     const struct {
         Capabilities model;
         std::int32_t mode;
-        bool averagingSlot, dutyCycle, pages;
+        bool averagingSlot, dutyCycle;
     } cases[] = {
-        // model                      mode                        slot   duty   pages
-        {Capabilities::TimeResolving, sensors::ContinuousAverage, false, true,  true},
-        {Capabilities::TimeResolving, sensors::BufferedAverage,   false, false, true},
-        {Capabilities::TimeResolving, sensors::TimeSlot,          true,  false, true},
-        {Capabilities::TimeResolving, sensors::Burst,             false, false, true},
-        {Capabilities::TimeResolving, sensors::Trace,             false, false, true},
-        {Capabilities::AverageOnly,   sensors::ContinuousAverage, false, true,  false},
-        {Capabilities::AverageOnly,   sensors::TimeSlot,          false, false, false},
-        {Capabilities::Unknown,       sensors::TimeSlot,          true,  false, true},
+        // model                      mode                        slot   duty
+        {Capabilities::TimeResolving, sensors::ContinuousAverage, false, true},
+        {Capabilities::TimeResolving, sensors::BufferedAverage,   false, false},
+        {Capabilities::TimeResolving, sensors::TimeSlot,          true,  false},
+        {Capabilities::TimeResolving, sensors::Burst,             false, false},
+        {Capabilities::TimeResolving, sensors::Trace,             false, false},
+        {Capabilities::AverageOnly,   sensors::ContinuousAverage, false, true},
+        {Capabilities::AverageOnly,   sensors::TimeSlot,          false, false},
+        {Capabilities::Unknown,       sensors::TimeSlot,          true,  false},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -72,8 +72,25 @@ TEST(EnableStates, FieldsGoByModeAndModel) {
         const auto model = static_cast<int>(c.model);
         EXPECT_EQ(states.averagingSlot, c.averagingSlot) << model << c.mode;
         EXPECT_EQ(states.dutyCycle, c.dutyCycle) << model << c.mode;
-        EXPECT_EQ(states.triggerPage, c.pages) << model << c.mode;
-        EXPECT_EQ(states.advancedPage, c.pages) << model << c.mode;
+    }
+}
+
+TEST(EnableStates, APageCanBeUsedIfItsSettingsAreSent) {
+    const struct {
+        const char* type;
+        bool trigger, advanced;
+    } cases[] = {{"PS-101", true, true},
+                 {"PS-102", false, false},
+                 {"PS-103", true, true},
+                 {"new", true, true}};
+    for (const auto& c : cases) {
+        Situation situation = AtStart();
+        situation.takesTrigger = driver::TakesTriggerAndMode(c.type);
+        situation.takesAdvanced = driver::TakesAdvanced(c.type);
+        const EnableStates states = FindEnableStates(situation);
+        EXPECT_EQ(states.triggerPage, c.trigger) << c.type;
+        EXPECT_EQ(states.triggerLevel, c.trigger) << c.type;
+        EXPECT_EQ(states.advancedPage, c.advanced) << c.type;
     }
 }
 

@@ -81,21 +81,6 @@ TEST_F(SettingsCopyTest, OnlySensorsWithTheModeCanBeMarkedAndGetAllSettings) {
     EXPECT_EQ(Settings(2), Settings(0));
 }
 
-TEST_F(SettingsCopyTest, AnAverageOnlySensorKeepsWhatItsPagesDoNotOffer) {
-    Settings(0) = sensors::DefaultSettings();
-    Settings(0).TrigSource = 1;
-    Settings(0).FreqHigh = false;
-    Settings(0).CorrOffsetVal = 3;
-    Select(0);
-    program->forms.setupForm.cmdCopySettings.Press();
-    Form().cmdCopyAll.Press();
-    Form().cmdCopy.Press();
-    EXPECT_EQ(Settings(1).CorrOffsetVal, 3);  // of a PS-102
-    EXPECT_EQ(Settings(1).TrigSource, sensors::DefaultSettings().TrigSource);
-    EXPECT_EQ(Settings(1).FreqHigh, sensors::DefaultSettings().FreqHigh);
-    EXPECT_EQ(Settings(2).TrigSource, 1);
-}
-
 TEST_F(SettingsCopyTest, TheWindowFollowsTheSensorsAndMarksBelongToThem) {
     Form().cmdCopyAll.Press();
     for (const int row : {1, 2}) Form().CopyTargets.ClickCell(row, 0);

@@ -13,7 +13,7 @@ namespace kelvra::driver {
 constexpr std::string_view SensorUsbVendorId = "0x1c5b";
 
 enum class Capabilities {
-    TimeResolving,  // continuous average, time slot, burst, trace; trigger and advanced settings
+    TimeResolving,  // continuous average, time slot, burst, trace
     AverageOnly,    // continuous average
     Unknown,        // an unknown model: the lists stay as they are
 };
@@ -31,6 +31,13 @@ Capabilities CapabilitiesOf(std::string_view sensorId);
 
 // Entries of the mode list; none for Unknown.
 std::span<const ModeEntry> ModesOf(Capabilities capabilities);
+// Whether a sensor of that type offers the mode. A type that is not known offers all.
+bool HasMode(std::string_view type, int mode);
+
+// Whether a sensor of that type is sent these settings: trigger, mode and what belongs to it; and
+// range, sampling, continuous measurement.
+bool TakesTriggerAndMode(std::string_view type);
+bool TakesAdvanced(std::string_view type);
 
 // "USB::" vendor "::" product "::" serial.
 std::string ResourceDescriptor(std::string_view type, std::string_view serial);

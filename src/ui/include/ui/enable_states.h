@@ -24,6 +24,8 @@ struct Situation {
     bool simulation = false;
     // The current sensor's.
     driver::Capabilities model = driver::Capabilities::Unknown;
+    bool takesTrigger = true;   // and its mode's settings
+    bool takesAdvanced = true;  // range, sampling, continuous measurement
     sensors::SensorSettings settings;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// "Copy settings to...": the window in which the user marks the sensors that get the settings of
-// the current one: all that they have. A sensor can be marked if its model has the current sensor's
+// "Copy settings to...": the window in which the user marks the sensors that get all settings of
+// the current one. A sensor can be marked if its model has the current sensor's
 // mode. The window follows the current sensor, and sensors that come and go.
 #pragma once
 
