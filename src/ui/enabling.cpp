@@ -13,9 +13,11 @@ Enabling::Enabling(forms::Forms& forms, const sensors::SensorTable& table,
 
 void Enabling::Refresh() {
     const sensors::SensorEntry& current = table_[table_.currentSensor];
-    ApplyEnableStates(forms_, FindEnableStates({command_.value_or(activity_), table_.simulationMode,
-                                                driver::CapabilitiesOf(sensors::TypeOf(current)),
-                                                current.settings}));
+    const std::string_view type = sensors::TypeOf(current);
+    ApplyEnableStates(
+        forms_, FindEnableStates({command_.value_or(activity_), table_.simulationMode,
+                                  driver::CapabilitiesOf(type), driver::TakesTriggerAndMode(type),
+                                  driver::TakesAdvanced(type), current.settings}));
 }
 
 void Enabling::CommandBegins(measure::SensorCommand command) {

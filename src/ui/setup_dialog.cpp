@@ -131,14 +131,15 @@ void SetupDialog::ShowCurrent(Typing typing) {
         ShowModeFrames(p_.form, entry->settings.Mode);
     }
     filling_ = false;  // also after the first sensor
-    NotePoints(*entry, entry->settings.ScopePoints);
+    JudgePoints();
     p_.enabling.Refresh();
 }
 
 void SetupDialog::Replaced(int slot) {
-    if (slot == p_.table.currentSensor) return ShowCurrent();
-    SensorEntry& entry = p_.table[slot];
-    NotePoints(entry, entry.settings.ScopePoints);
+    if (slot == p_.table.currentSensor)
+        ShowCurrent();
+    else
+        JudgePoints();
 }
 
 // A model that is not known has all modes.
@@ -154,10 +155,11 @@ void SetupDialog::FillModes(const SensorEntry& entry) {
 void SetupDialog::Edited(const SetupRow& row) {
     if (filling_ || Current() == nullptr) return;
     if (Is(row, &SetupForm::SensSlotCount) && !CountIsRight()) return;
-    if (Is(row, &SetupForm::ScopePoints)) CheckPoints();
+    if (Is(row, &SetupForm::ScopePoints)) LimitPoints();
     SensorEntry& entry = *Current();
     const sensors::SensorSettings before = entry.settings;
     StoreField(p_.form, row, entry.settings, p_.host.computer.Numbers());
+    if (Is(row, &SetupForm::ScopePoints)) JudgePoints();
     Remember(row, before);
     p_.enabling.Refresh();
     AfterStore(row, before);
@@ -201,19 +203,27 @@ void SetupDialog::AfterStore(const SetupRow& row, const sensors::SensorSettings&
     p_.form.CorrFreqEnable.SetChecked(true);
 }
 
-// A typed number counts even if it can't be stored. A simulated sensor gets the most there is.
-void SetupDialog::CheckPoints() {
-    const double points = util::ReadNumber(p_.form.ScopePoints.Text());
-    if (points > MostPoints && p_.table.simulationMode) {
-        const Filling filling(filling_);
-        p_.form.ScopePoints.SetText(util::TrimmedNumberText(std::int64_t{MostPoints}));
-    }
-    NotePoints(*Current(), points);
+int SetupDialog::TypedPoints() const {
+    const TypedNumber typed = ReadTyped(p_.form.ScopePoints.Text(), {}, p_.host.computer.Numbers());
+    return util::RoundToInt32(typed.value).value_or(typed.value > 0 ? MostPoints + 1 : 0);
 }
 
-void SetupDialog::NotePoints(SensorEntry& entry, double points) {
-    const bool tooMany = points > MostPoints && !p_.table.simulationMode;
-    entry.pointsError = tooMany ? "Scope points number\r\ncannot exceed 1024." : "";
+// A simulated sensor gets the most there is.
+void SetupDialog::LimitPoints() {
+    if (!p_.table.simulationMode || TypedPoints() <= MostPoints) return;
+    const Filling filling(filling_);
+    p_.form.ScopePoints.SetText(util::TrimmedNumberText(std::int64_t{MostPoints}));
+}
+
+// Of the sensor that is shown, the typed number counts even if it can't be stored.
+void SetupDialog::JudgePoints() {
+    for (int slot = 0; slot < p_.table.Slots(); ++slot) {
+        SensorEntry& entry = p_.table[slot];
+        const int points =
+            slot == p_.table.currentSensor ? TypedPoints() : entry.settings.ScopePoints;
+        const bool tooMany = entry.present && points > MostPoints && !p_.table.simulationMode;
+        entry.pointsError = tooMany ? "Scope points number\r\ncannot exceed 1024." : "";
+    }
     p_.errorStrip.Refresh();
 }
 

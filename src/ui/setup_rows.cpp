@@ -99,7 +99,7 @@ std::string ShownNumber(double value) {
 }
 
 void Show(TextBox& box, double stored, const SetupRow& row, Typing typing) {
-    if (typing == Typing::Stays && box.Edited()) return;
+    if (typing == Typing::Stays && (box.Edited() || !box.fault->empty())) return;
     box.SetText(ShownText(stored, row));
     box.fault = std::string();
 }
@@ -179,7 +179,7 @@ void ShowScaling(SetupForm& form, const sensors::DisplayScaling& scaling, Typing
     form.chkAutoScaleTime.SetChecked(scaling.autoScaleTime);
     for (const ScaleBox& row : ScaleBoxes()) {
         TextBox& box = form.*row.box;
-        if (typing == Typing::Stays && box.Edited()) continue;
+        if (typing == Typing::Stays && (box.Edited() || !box.fault->empty())) continue;
         box.SetText(ShownNumber(scaling.*row.limit));
         box.fault = std::string();
     }

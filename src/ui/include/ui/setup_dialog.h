@@ -57,8 +57,9 @@ private:
     void Tidy(const SetupRow& row, controls::TextBox& box);
     bool CountIsRight();
     void AfterStore(const SetupRow& row, const sensors::SensorSettings& before);
-    void CheckPoints();
-    void NotePoints(sensors::SensorEntry& entry, double points);
+    int TypedPoints() const;
+    void LimitPoints();
+    void JudgePoints();
     sensors::DisplayScaling& Scaling();
     void StoreLimit(const ScaleBox& row);
     void StoreAutomatic();

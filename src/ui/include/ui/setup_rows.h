@@ -53,7 +53,7 @@ std::string NameOf(const forms::SetupForm& form, const SetupRow& row);
 // The text of a text field for a setting.
 std::string ShownText(double stored, const SetupRow& row);
 
-// A text that the user is typing.
+// A text that the user is typing, or that can't be used.
 enum class Typing { IsReplaced, Stays };
 
 // Fills all fields from one sensor's settings.
