@@ -31,6 +31,21 @@ bool Graph::SetCurve(Plot curve) {
     return true;
 }
 
+bool Graph::SetHeld(Held which, Plot curve) {
+    if (!Finite(curve.first, curve.step)) return false;
+    Plot& own = held_[static_cast<std::size_t>(which)];
+    if (curve == own) return true;
+    own = std::move(curve);
+    Mark(&ChangedParts::held);
+    return true;
+}
+
+bool Graph::SetBox(const std::optional<Axes>& box) {
+    if (box && !(Rises(box->x) && Finite(box->y.min, box->y.max))) return false;
+    if (std::exchange(box_, box) != box) Mark(&ChangedParts::box);
+    return true;
+}
+
 bool Graph::SetAxis(Axis& own, const Axis& axis) {
     if (!Rises(axis)) return false;
     if (std::exchange(own, axis) != axis && !part_) Mark(&ChangedParts::axes);
@@ -92,13 +107,24 @@ void Graph::SetTrack(TrackMode track) {
     ShowPart(std::nullopt);
 }
 
+bool Graph::CanDrag(int index) const {
+    return Has(cursors_, index) && track_ == TrackMode::CursorEvents && CursorAt(index).visible;
+}
+
 bool Graph::DragCursor(int index, double x, double y) {
-    if (!Has(cursors_, index) || track_ != TrackMode::CursorEvents) return false;
+    if (!CanDrag(index)) return false;
     Cursor cursor = CursorAt(index);
     cursor.x = x;
     cursor.y = y;
-    if (!cursor.visible || !SetCursor(index, cursor)) return false;
+    if (!SetCursor(index, cursor)) return false;
+    chosen = index;
     cursorChange.Raise(index, x, y);
+    return true;
+}
+
+bool Graph::Nudge(int steps) {
+    if (!CanDrag(chosen)) return false;
+    nudge.Raise(steps);
     return true;
 }
 

@@ -1,24 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A graph of one curve over an even x axis, with movable cursors and with texts at positions. It
-// records which of its parts have changed, so that a painter draws only those.
+// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors, and
+// texts at positions. It records which of its parts have changed, so that a painter draws only
+// those.
 //
 // The program sets the axes of the whole graph; the user may zoom into a part of it. Axes that the
 // program sets during a zoom are shown when the zoom ends.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "controls/control.h"
 #include "controls/event.h"
+#include "controls/kinds.h"
 
 namespace kelvra::controls {
 
 // What the mouse does in the graph; the numbers are the graph's own codes.
 enum class TrackMode { CursorEvents = 2, ZoomRectangle = 7 };
 
-class Graph : public Control {
+// What a cursor marks; it is drawn accordingly.
+enum class CursorLook { Level, Origin, ZoneStart, ZoneStop, Division };
+
+// A curve that the first one is compared with.
+enum class Held { Maximum, Minimum, Reference };
+constexpr int HeldCount = 3;
+
+// What a graph's declaration says of it.
+struct GraphParts {
+    std::string xTitle{};  // with the unit
+    std::string yTitle{};
+    bool stairs = false;  // a value is drawn as a line from the x of the one before it to its own
+    std::string name{};
+};
+
+class Graph : public Focusable {
 public:
     struct Plot {
         double first = 0;  // x of the first value
@@ -38,6 +56,7 @@ public:
         bool horizontal = false;
         double x = 0, y = 0;
         bool visible = true;
+        CursorLook look = CursorLook::Division;
         bool operator==(const Cursor&) const = default;
     };
     struct Text {
@@ -46,9 +65,14 @@ public:
         bool operator==(const Text&) const = default;
     };
 
-    Graph(Control& parent, std::string name) : Control(Kind::Graph, parent, std::move(name)) {}
+    Graph(Control& parent, std::string name, const GraphParts& parts = {})
+        : Focusable(Kind::Graph, parent, std::move(name), {.name = parts.name}), parts_(parts) {}
 
+    const GraphParts& Parts() const { return parts_; }
     const Plot& Curve() const { return curve_; }
+    // Has no values if it is not shown.
+    const Plot& HeldCurve(Held which) const { return held_[static_cast<std::size_t>(which)]; }
+    const std::optional<Axes>& Box() const { return box_; }
     const Axes& WholeAxes() const { return whole_; }
     const Axes& ShownAxes() const { return part_ ? *part_ : whole_; }
     bool Zoomed() const { return part_.has_value(); }
@@ -60,6 +84,8 @@ public:
     // The program's writes raise no event. They give false and write nothing for an index that does
     // not exist, a coordinate that is not finite, or an axis that does not rise from min to max.
     bool SetCurve(Plot curve);
+    bool SetHeld(Held which, Plot curve);
+    bool SetBox(const std::optional<Axes>& box);  // a rectangle around a part of the curve
     bool SetX(const Axis& axis) { return SetAxis(whole_.x, axis); }
     bool SetY(const Axis& axis) { return SetAxis(whole_.y, axis); }
     bool AddCursor(const Cursor& cursor);  // becomes the last one
@@ -84,8 +110,26 @@ public:
     Event<Axis, Axis> zoomIn;
     Event<> zoomOut;
 
+    // The mouse points at a position of the graph, and leaves it.
+    void Point(double x, double y) { pointed.Raise(x, y); }
+    void Leave() { left.Raise(); }
+    Event<double, double> pointed;
+    Event<> left;
+
+    // The cursor that keys move; -1: none. A drag chooses its cursor.
+    Property<int> chosen{*this, -1};
+    // The user moves the chosen cursor by that many steps, to the right or up if positive. What a
+    // step is, the rules know. False as for a drag.
+    bool Nudge(int steps);
+    Event<int> nudge;
+
+    // Says what a graph without a curve waits for.
+    Property<std::string> emptyText{*this, {}};
+
     struct ChangedParts {
         bool curve = false;
+        bool held = false;
+        bool box = false;
         bool axes = false;  // the shown ones
         bool labels = false;
         bool track = false;
@@ -97,10 +141,14 @@ public:
 private:
     bool SetAxis(Axis& own, const Axis& axis);
     void ShowPart(std::optional<Axes> part);
+    bool CanDrag(int index) const;
     void Mark(bool ChangedParts::*part);
     void MarkCursor(int index);
 
+    const GraphParts parts_;
     Plot curve_;
+    std::array<Plot, HeldCount> held_;
+    std::optional<Axes> box_;
     Axes whole_;
     std::optional<Axes> part_;
     std::vector<Cursor> cursors_;
