@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors, and
-// texts at positions. It records which of its parts have changed, so that a painter draws only
+// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors,
+// and texts at positions. It records which of its parts have changed, so that a painter draws only
 // those.
 //
 // The program sets the axes of the whole graph; the user may zoom into a part of it. Axes that the

@@ -62,6 +62,7 @@ private:
     void JudgePoints();
     sensors::DisplayScaling& Scaling();
     void StoreLimit(const ScaleBox& row);
+    void JudgeLimits();
     void StoreAutomatic();
 
     Parts p_;
