@@ -65,7 +65,7 @@ std::string TypeInfo(const std::string& sensorId) {
 
 SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.SensMode.Items()) {
     p_.selection.listeners.Add(*this);
-    p_.edits.onReplace = [this](int slot) { Replaced(slot); };
+    p_.edits.listeners.Add(*this);
     ConnectFields();
     ConnectScales();
     ConnectHelp(p_.form, p_.host);
@@ -142,7 +142,7 @@ void SetupDialog::ShowCurrent(Typing typing) {
     p_.enabling.Refresh();
 }
 
-void SetupDialog::Replaced(int slot) {
+void SetupDialog::SettingsReplaced(int slot) {
     if (slot == p_.table.currentSensor)
         ShowCurrent();
     else
