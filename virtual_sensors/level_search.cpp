@@ -46,6 +46,9 @@ std::optional<double> TriggerSearch::Find(const Signal& signal, double now) {
         const double time = start + PassedAt(line, level_.levelW);
         if (time >= earliest_) return time;
     }
+    // A search that can't keep up goes on at the present.
+    if (searched_ < now) armed_ = false;
+    searched_ = now;
     return std::nullopt;
 }
 

@@ -166,6 +166,7 @@ bool Measurement::Complete(VirtualSensor& sensor, double now) {
     LookForTrigger(sensor.Sees(), now);
     if (!triggerAt_ || now < *triggerAt_ + afterTrigger_) return false;
     if (resultW_.empty()) {
+        resultW_.reserve(static_cast<std::size_t>(spans_.Count()));
         for (int32_t i = 0; i < spans_.Count(); ++i) {
             const double power = spans_.PowerW(sensor.Sees(), *triggerAt_, i);
             resultW_.push_back(sensor.Measure(power, count_) * factor_);
