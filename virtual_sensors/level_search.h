@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "signal.h"
+#include "seen_signal.h"
 
 namespace kelvra::virtual_sensors {
 

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
+#include "seen_signal.h"
 #include "setting_values.h"
-#include "signal.h"
 
 namespace kelvra::virtual_sensors {
 

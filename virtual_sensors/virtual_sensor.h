@@ -10,7 +10,7 @@
 
 #include "models.h"
 #include "scenario.h"
-#include "signal.h"
+#include "seen_signal.h"
 
 namespace kelvra::virtual_sensors {
 

@@ -22,8 +22,8 @@ double Ring(double x) {
     const auto ring = [](double at) {
         return std::exp(-at / RingDecay) * std::sin(std::numbers::pi * at);
     };
-    static const double largest = ring(std::atan(std::numbers::pi * RingDecay) / std::numbers::pi);
-    return x > 0 && x < RingLength ? ring(x) / largest : 0;
+    static const double Largest = ring(std::atan(std::numbers::pi * RingDecay) / std::numbers::pi);
+    return x > 0 && x < RingLength ? ring(x) / Largest : 0;
 }
 
 bool IsLower(const Waveform::Point& a, const Waveform::Point& b) {
@@ -33,8 +33,8 @@ bool IsLower(const Waveform::Point& a, const Waveform::Point& b) {
 }  // namespace
 
 double EdgeOfRise(double rise) {
-    static const double tenPercent = std::acos(0.8) / std::numbers::pi;  // of the edge
-    return rise / (1 - 2 * tenPercent);
+    static const double TenPercent = std::acos(0.8) / std::numbers::pi;  // of the edge
+    return rise / (1 - 2 * TenPercent);
 }
 
 Waveform Waveform::Pulses(const PulseShape& shape) {

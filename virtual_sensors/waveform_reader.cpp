@@ -46,14 +46,14 @@ void GiveWaveform(Words& words, Scenario& scenario, Waveform waveform) {
 }
 
 void ReadPulseOption(Words& words, PulseShape& shape) {
-    static constexpr Unit percent[] = {{"%", 0.01}};
-    static constexpr Unit decibels[] = {{"dB", 1}};
+    static constexpr Unit Percent[] = {{"%", 0.01}};
+    static constexpr Unit Decibels[] = {{"dB", 1}};
     if (words.Take("rise")) {
         shape.edge = EdgeOfRise(words.Time());
     } else if (words.Take("overshoot")) {
-        shape.overshoot = words.Measure("the overshoot", percent, 0, 1).value;
+        shape.overshoot = words.Measure("the overshoot", Percent, 0, 1).value;
     } else if (words.Take("off")) {
-        shape.off = FromDb(words.Measure("the level between the pulses", decibels, -300, 0).value);
+        shape.off = FromDb(words.Measure("the level between the pulses", Decibels, -300, 0).value);
     } else {
         words.Fail("'rise', 'overshoot' or 'off' expected");
     }
