@@ -41,7 +41,8 @@ struct Burst {
 };
 
 // The burst at this time, or else the next one: power above the level, with gaps of less than
-// dropOut s. Nothing if there is none in two periods of the slowest source.
+// dropOut s. Nothing if there is none in three periods of the slowest source, and no longer than
+// these.
 std::optional<Burst> FindBurst(const Signal& signal, double levelW, double dropOut, double time);
 
 }  // namespace kelvra::virtual_sensors

@@ -13,8 +13,8 @@ class MeasuredSpans {
 public:
     MeasuredSpans() = default;
 
-    // `count` is the averaging count. It lengthens the spans of the modes that average over time
-    // anyhow; the others measure the same span of `count` repetitions.
+    // The averaging count lengthens the spans of the continuous modes. The others average the same
+    // part of a waveform again and again, which changes nothing here.
     MeasuredSpans(const SettingValues& settings, int32_t count);
 
     int32_t Count() const { return count_; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The power over time that a sensor sees: the sum of its sources, each a continuous wave or a
-// waveform. A function of the bench's time without a state of its own.
+// waveform. It depends on nothing but the bench's time.
 #pragma once
 
 #include <cstddef>
