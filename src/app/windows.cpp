@@ -32,6 +32,7 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       traceDisplay({forms, table, edits, setupDialog, selection, host}),
       slotDisplay({forms, table, edits, setupDialog, selection, host}),
       slotTable(forms, table, selection, host.computer),
+      displayData(forms, table, notice, host),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {
     ui::ConnectHelp(forms.timeForm, host);
