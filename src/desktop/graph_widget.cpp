@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/graph_widget.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desktop/graph_keys.h"
+#include "desktop/plot_drawing.h"
+#include "desktop/plot_look.h"
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+using controls::Graph;
+
+// Logical pixels.
+constexpr int Padding = 3;
+constexpr int TickLength = 4;
+// Tick labels up to this one never move the graph.
+constexpr const char* WidestTick = "-000.00";
+constexpr int LeastWidth = 16;  // characters
+constexpr int LeastHeight = 7;  // lines
+
+// One part of the graph, in one layer.
+class DrawnPart final : public QCPLayerable {
+public:
+    DrawnPart(GraphWidget& widget, QCPLayer& layer, GraphWidget::DrawPart drawPart)
+        : QCPLayerable(&widget, layer.name()), widget_(widget), drawPart_(drawPart) {}
+
+protected:
+    QRect clipRect() const override { return widget_.axisRect()->rect(); }
+    void applyDefaultAntialiasingHint(QCPPainter*) const override {}
+    void draw(QCPPainter* painter) override {
+        painter->setFont(widget_.font());
+        drawPart_(*painter, widget_.Scale(), widget_.Record());
+    }
+
+private:
+    GraphWidget& widget_;
+    GraphWidget::DrawPart drawPart_;
+};
+
+QCPRange RangeOf(const Graph::Axis& axis) {
+    const Graph::Axis usable = PlotScale::Usable(axis);
+    return {usable.min, usable.max};
+}
+
+// True if that is a different one.
+template <class Value>
+bool Note(Value& known, const Value& now) {
+    if (known == now) return false;
+    known = now;
+    return true;
+}
+
+}  // namespace
+
+GraphWidget::GraphWidget(Graph& record) : record_(record) {
+    setFocusPolicy(Qt::StrongFocus);
+    removeLayer(layer("overlay"));
+    compared_ = AddBuffer("compared", {DrawHeldCurves, DrawBox});
+    cursors_ = AddBuffer("cursors", {DrawCursors});
+    curve_ = AddBuffer("curve", {DrawCurve, DrawCaptions, DrawLegend, DrawEmptyText});
+    SetUpAxes();
+    UpdateLook();
+}
+
+QCPLayer* GraphWidget::AddBuffer(const QString& name, std::initializer_list<DrawPart> parts) {
+    addLayer(name);
+    QCPLayer* added = layer(name);
+    added->setMode(QCPLayer::lmBuffered);
+    for (const DrawPart part : parts) new DrawnPart(*this, *added, part);
+    return added;
+}
+
+void GraphWidget::SetUpAxes() {
+    axisRect()->setupFullAxesBox();
+    for (QCPAxis* axis : {xAxis2, yAxis2}) axis->setTicks(false);
+    for (QCPAxis* axis : {xAxis, yAxis}) {
+        axis->setTickLength(0, TickLength);
+        axis->setSubTicks(false);
+        axis->setTickLabelPadding(Padding);
+        axis->setLabelPadding(Padding);
+    }
+    xAxis->setLabel(Shown(record_.Parts().xTitle));
+    yAxis->setLabel(Shown(record_.Parts().yTitle));
+}
+
+void GraphWidget::ColourAxis(QCPAxis& axis) {
+    const QColor text = PlotColour(PlotPart::Text);
+    axis.setBasePen(text);
+    axis.setTickPen(text);
+    axis.setTickLabelColor(text);
+    axis.setLabelColor(text);
+    axis.setTickLabelFont(font());
+    axis.setLabelFont(font());
+    axis.grid()->setPen(PlotColour(PlotPart::Grid));
+    axis.grid()->setZeroLinePen(PlotColour(PlotPart::Grid));
+}
+
+void GraphWidget::UpdateLook() {
+    setBackground(QBrush(PlotColour(PlotPart::Ground)));
+    for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) ColourAxis(*axis);
+    UpdateMargins();
+    stale_ = true;
+    update();
+}
+
+// Room for the widest usual labels, so that the graph doesn't move when they change.
+void GraphWidget::UpdateMargins() {
+    const QFontMetrics metrics(font());
+    const int title = metrics.height() + 2 * Padding;
+    const int label = metrics.horizontalAdvance(WidestTick);
+    axisRect()->setMinimumMargins({title + label + TickLength + 2 * Padding,
+                                   metrics.height() / 2 + Padding, label / 2,
+                                   title + metrics.height() + TickLength + 2 * Padding});
+}
+
+PlotScale GraphWidget::Scale() const {
+    // The toolkit's axes count from the last line of pixels.
+    return {QRectF(axisRect()->rect()).translated(0, -1), record_.ShownAxes()};
+}
+
+bool GraphWidget::CursorsChanged(const Graph::ChangedParts& changed) {
+    const bool others = Note(drawnCursors_, record_.CursorCount());
+    const bool chosen = Note(drawnChosen_, record_.chosen.Get());
+    return others || chosen || !changed.cursors.empty();
+}
+
+void GraphWidget::TakeIn() {
+    const Graph::ChangedParts changed = record_.TakeChangedParts();
+    const bool cursors = CursorsChanged(changed);
+    const bool empty = std::exchange(drawnEmptyText_, record_.emptyText.Get()) != drawnEmptyText_;
+    const bool compares = HasHeldCurves(record_) || record_.Box().has_value();
+    const bool compared = compared_->mode() == QCPLayer::lmBuffered;
+    if (compares != compared)
+        compared_->setMode(compares ? QCPLayer::lmBuffered : QCPLayer::lmLogical);
+    if (std::exchange(stale_, false) || changed.axes || compares != compared) {
+        xAxis->setRange(RangeOf(record_.ShownAxes().x));
+        yAxis->setRange(RangeOf(record_.ShownAxes().y));
+        replot(rpQueuedRefresh);
+        return;
+    }
+    if (compares && (changed.held || changed.box)) compared_->replot();
+    if (cursors) cursors_->replot();
+    if (changed.curve || changed.labels || empty) curve_->replot();
+}
+
+void GraphWidget::paintEvent(QPaintEvent* event) {
+    // What is drawn here is painted now; the toolkit need not be asked to paint again.
+    setAttribute(Qt::WA_UpdatesDisabled);
+    TakeIn();
+    setAttribute(Qt::WA_UpdatesDisabled, false);
+    QCustomPlot::paintEvent(event);
+    if (const auto rubber = mouse_.Rectangle()) {
+        QPainter painter(this);
+        painter.setPen(QPen(PlotColour(PlotPart::Text), 1, Qt::DashLine));
+        painter.drawRect(*rubber);
+    }
+}
+
+void GraphWidget::changeEvent(QEvent* event) {
+    QCustomPlot::changeEvent(event);
+    if (event->type() == QEvent::FontChange) UpdateLook();
+}
+
+void GraphWidget::leaveEvent(QEvent* event) {
+    QCustomPlot::leaveEvent(event);
+    mouse_.Leave();
+}
+
+void GraphWidget::keyPressEvent(QKeyEvent* event) {
+    if (!PressGraphKey(record_, *event)) QCustomPlot::keyPressEvent(event);
+}
+
+void GraphWidget::contextMenuEvent(QContextMenuEvent* event) {
+    if (onMenu) onMenu(event->globalPos());
+}
+
+QSize GraphWidget::sizeHint() const {
+    return 2 * minimumSizeHint();
+}
+
+QSize GraphWidget::minimumSizeHint() const {
+    const QMargins margins = axisRect()->minimumMargins();
+    const QFontMetrics metrics(font());
+    return {margins.left() + margins.right() + LeastWidth * metrics.averageCharWidth(),
+            margins.top() + margins.bottom() + LeastHeight * metrics.lineSpacing()};
+}
+
+}  // namespace kelvra::desktop
