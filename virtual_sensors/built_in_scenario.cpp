@@ -11,6 +11,10 @@ time computer
 external 10 ms
 source generator 10 dBm
 source oscillator -25 dBm
+source radar 20 dBm
+    pulse period 1 ms width 100 us rise 3 us overshoot 10 % off -60 dB
+source base_station -10 dBm
+    frame slot 577 us rise 15 us levels 0 -10 -3 -6 -1 -15 -8 off dB
 
 sensor PS-101 100001
     name "Reflected"
@@ -32,6 +36,18 @@ sensor PS-102 100003
 sensor PS-118 100004
     sees oscillator -3 dB
     noise 0.02 dB
+
+sensor PS-107 100005
+    name "Pulses"
+    sees radar 0 dB
+    noise 0.02 dB
+    noise 20 nW
+
+sensor PS-105 100006
+    name "Frames"
+    sees base_station 0 dB
+    noise 0.02 dB
+    noise 1 nW
 )";
 }
 

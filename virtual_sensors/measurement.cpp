@@ -41,68 +41,13 @@ constexpr AveragingSettings OfTraces{Setting::psdrv_scope_setAverageEnabled,
                                      Setting::psdrv_scope_setAutoMaxMeasuringTime,
                                      Setting::psdrv_scope_setAverageCount};
 
-int32_t PointCount(const SettingValues& settings) {
-    switch (ModeOf(settings)) {
-        case Mode::Buffered:
-            return static_cast<int32_t>(settings[Setting::psdrv_chan_setContAvBufferSize]);
-        case Mode::Slots:
-            return static_cast<int32_t>(settings[Setting::SlotCount]);
-        case Mode::Trace:
-            return static_cast<int32_t>(settings[Setting::psdrv_scope_setPoints]);
-        default:
-            return 1;
-    }
-}
-
-// When the trigger comes; nothing if it never does, or is given by software.
-std::optional<double> TriggerTime(const SettingValues& settings, const VirtualSensor& sensor,
-                                  const Scenario& scenario, double now) {
-    switch (SourceOf(settings)) {
-        case TriggerSource::Immediate:
-            return now;
-        case TriggerSource::External: {
-            if (!scenario.externalPeriod) return std::nullopt;
-            return (std::floor(now / *scenario.externalPeriod) + 1) * *scenario.externalPeriod;
-        }
-        case TriggerSource::Internal:
-            if (sensor.SeenW() > settings[Setting::psdrv_trigger_setLevel]) return now;
-            return std::nullopt;
-        default:
-            return std::nullopt;
-    }
-}
-
-bool AwaitsSoftware(const SettingValues& settings) {
-    const TriggerSource source = SourceOf(settings);
-    return source == TriggerSource::Single || source == TriggerSource::Hold;
+TriggerLevel LevelOf(const SettingValues& settings) {
+    return {settings[Setting::psdrv_trigger_setLevel],
+            !settings.IsOn(Setting::psdrv_trigger_setSlope),
+            settings[Setting::psdrv_trigger_setHysteresis]};
 }
 
 }  // namespace
-
-SettingValues::SettingValues() {
-    for (std::size_t i = 0; i < SettingCount; ++i) {
-        values_[i] = LimitsOf(static_cast<Setting>(i)).afterReset;
-    }
-}
-
-bool SettingValues::Set(Setting setting, double value) {
-    const SettingLimits& limits = LimitsOf(setting);
-    if (!(value >= limits.smallest && value <= limits.largest)) return false;
-    values_[static_cast<std::size_t>(setting)] = value;
-    return true;
-}
-
-Mode ModeOf(const SettingValues& settings) {
-    return static_cast<Mode>(settings[Setting::psdrv_chan_mode]);
-}
-
-TriggerSource SourceOf(const SettingValues& settings) {
-    return static_cast<TriggerSource>(settings[Setting::psdrv_trigger_setSource]);
-}
-
-bool GivesArray(Mode mode) {
-    return mode != Mode::Average && mode != Mode::Burst;
-}
 
 int32_t AverageCount(const SettingValues& settings, const VirtualSensor& sensor) {
     const AveragingSettings& of = ModeOf(settings) == Mode::Trace ? OfTraces : OfReadings;
@@ -161,34 +106,71 @@ double CorrectionFactor(const SettingValues& settings) {
 void Measurement::Start(const SettingValues& settings, const VirtualSensor& sensor,
                         const Scenario& scenario, double now) {
     mode_ = ModeOf(settings);
-    points_ = PointCount(settings);
     count_ = AverageCount(settings, sensor);
     factor_ = CorrectionFactor(settings);
+    spans_ = MeasuredSpans(settings, count_);
     const double planned = settings[Setting::psdrv_trigger_setDelay] + Duration(settings, count_);
     afterTrigger_ =
         scenario.fixedDuration.value_or(std::max(planned, 0.0) * scenario.durationFactor);
-    awaitsSoftware_ = AwaitsSoftware(settings);
-    readyAt_ = TriggerTime(settings, sensor, scenario, now);
-    if (readyAt_) *readyAt_ += afterTrigger_;
+    awaitsSoftware_ = false;
+    search_.reset();
+    triggerAt_.reset();
     resultW_.clear();
     conflict_ = FindConflict(settings, sensor.Kind());
     if (conflict_ != Status::Ok) {
-        awaitsSoftware_ = false;
-        readyAt_ = now + scenario.fixedDuration.value_or(RefusalTime);
+        afterTrigger_ = scenario.fixedDuration.value_or(RefusalTime);
+        triggerAt_ = now;
+        return;
     }
+    AwaitTrigger(settings, sensor.Sees(), scenario, now);
+}
+
+void Measurement::AwaitTrigger(const SettingValues& settings, const Signal& signal,
+                               const Scenario& scenario, double now) {
+    switch (SourceOf(settings)) {
+        case TriggerSource::Single:
+        case TriggerSource::Hold:
+            awaitsSoftware_ = true;
+            break;
+        case TriggerSource::External:
+            if (!scenario.externalPeriod) break;
+            triggerAt_ =
+                (std::floor(now / *scenario.externalPeriod) + 1) * *scenario.externalPeriod;
+            break;
+        case TriggerSource::Immediate:
+            triggerAt_ = now;
+            break;
+        case TriggerSource::Internal:
+            search_.emplace(signal, LevelOf(settings), now,
+                            lastInternal_ + settings[Setting::psdrv_trigger_setHoldoff]);
+            LookForTrigger(signal, now);
+            break;
+    }
+}
+
+void Measurement::LookForTrigger(const Signal& signal, double now) {
+    if (!search_) return;
+    triggerAt_ = search_->Find(signal, now);
+    if (!triggerAt_) return;
+    lastInternal_ = *triggerAt_;
+    search_.reset();
 }
 
 void Measurement::Trigger(double now) {
     if (!awaitsSoftware_) return;
     awaitsSoftware_ = false;
-    readyAt_ = now + afterTrigger_;
+    triggerAt_ = now;
 }
 
 bool Measurement::Complete(VirtualSensor& sensor, double now) {
-    if (!readyAt_ || now < *readyAt_) return false;
+    LookForTrigger(sensor.Sees(), now);
+    if (!triggerAt_ || now < *triggerAt_ + afterTrigger_) return false;
     if (resultW_.empty()) {
-        resultW_.resize(static_cast<std::size_t>(points_));
-        for (double& value : resultW_) value = sensor.Measure(count_) * factor_;
+        resultW_.reserve(static_cast<std::size_t>(spans_.Count()));
+        for (int32_t i = 0; i < spans_.Count(); ++i) {
+            const double power = spans_.PowerW(sensor.Sees(), *triggerAt_, i);
+            resultW_.push_back(sensor.Measure(power, count_) * factor_);
+        }
     }
     return true;
 }

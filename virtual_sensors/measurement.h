@@ -1,40 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One channel's measurement: how its settings determine duration, averaging and result, and its
 // course from the start through the trigger to the result. Sessions start it, callers poll it.
+// measured_spans says what of the signal each value is the mean of.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
+#include "level_search.h"
+#include "measured_spans.h"
 #include "scenario.h"
+#include "setting_values.h"
 #include "status.h"
 #include "virtual_sensor.h"
 
 namespace kelvra::virtual_sensors {
-
-// The settings of a channel.
-class SettingValues {
-public:
-    SettingValues();  // as after a reset
-
-    double operator[](Setting setting) const { return values_[static_cast<std::size_t>(setting)]; }
-    bool IsOn(Setting setting) const { return (*this)[setting] != 0; }
-
-    // False for a value outside its limits or that is not a number; then nothing changes.
-    bool Set(Setting setting, double value);
-
-private:
-    std::array<double, SettingCount> values_{};
-};
-
-enum class Mode : uint8_t { Average, Buffered, Slots, Burst, Trace };
-Mode ModeOf(const SettingValues& settings);
-bool GivesArray(Mode mode);
-
-enum class TriggerSource : uint8_t { Single, External, Hold, Immediate, Internal };
-TriggerSource SourceOf(const SettingValues& settings);
 
 // How often each value is averaged, 1 to 65536: the set number, or as often as the wanted noise
 // needs and the settling-time limit allows.
@@ -67,14 +49,21 @@ public:
     Mode ResultMode() const { return mode_; }
 
 private:
+    void AwaitTrigger(const SettingValues& settings, const Signal& signal, const Scenario& scenario,
+                      double now);
+    void LookForTrigger(const Signal& signal, double now);
+
     Status conflict_ = Status::Ok;
     bool awaitsSoftware_ = false;
-    std::optional<double> readyAt_;  // nothing: not started, or not yet triggered
-    double afterTrigger_ = 0;        // s from the trigger to the result
+    std::optional<TriggerSearch> search_;  // while an internal trigger is awaited
+    std::optional<double> triggerAt_;      // nothing: not started, or not yet triggered
+    // When the last internal trigger came.
+    double lastInternal_ = -std::numeric_limits<double>::infinity();
+    double afterTrigger_ = 0;  // s from the trigger to the result
     int32_t count_ = 1;
-    int32_t points_ = 1;
     double factor_ = 1;
     Mode mode_ = Mode::Average;
+    MeasuredSpans spans_;
     std::vector<double> resultW_;
 };
 

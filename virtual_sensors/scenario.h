@@ -6,18 +6,21 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "operations.h"
+#include "waveform.h"
 
 namespace kelvra::virtual_sensors {
 
 struct Source {
     std::string name;
     double levelDbm = 0;
+    std::shared_ptr<const Waveform> waveform;  // null: a continuous wave
 };
 
 struct Sight {
@@ -74,7 +77,8 @@ struct Scenario {
     std::vector<Fault> faults;
 };
 
-// Four sensors of different kinds, two of them at the two arms of a coupler.
+// Six sensors of different kinds: two at the two arms of a coupler, one that sees a pulse train,
+// one that sees a frame of slots.
 std::string_view BuiltInScenario();
 
 }  // namespace kelvra::virtual_sensors

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "waveform_reader.h"
 #include "words.h"
 
 namespace kelvra::virtual_sensors {
@@ -180,11 +181,12 @@ constexpr struct {
     std::string_view keyword;
     void (*read)(Words&, Scenario&);
 } Statements[] = {
-    {"seed", ReadSeed},     {"time", ReadTime},         {"duration", ReadDuration},
-    {"zero", ReadZero},     {"external", ReadExternal}, {"source", ReadSource},
-    {"sensor", ReadSensor}, {"name", ReadName},         {"index", ReadIndex},
-    {"sees", ReadSees},     {"noise", ReadNoise},       {"unplugged", ReadUnplugged},
-    {"at", ReadEvent},      {"fault", ReadFault},
+    {"seed", ReadSeed},   {"time", ReadTime},           {"duration", ReadDuration},
+    {"zero", ReadZero},   {"external", ReadExternal},   {"source", ReadSource},
+    {"pulse", ReadPulse}, {"frame", ReadFrame},         {"sensor", ReadSensor},
+    {"name", ReadName},   {"index", ReadIndex},         {"sees", ReadSees},
+    {"noise", ReadNoise}, {"unplugged", ReadUnplugged}, {"at", ReadEvent},
+    {"fault", ReadFault},
 };
 
 // The error; empty if there is none.

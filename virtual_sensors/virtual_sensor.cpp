@@ -57,8 +57,9 @@ VirtualSensor::VirtualSensor(const Scenario& scenario, std::size_t number)
       plugged_(plan_.plugged),
       random_(scenario.seed * 1000003 + number) {
     for (const Sight& sight : plan_.sees) {
-        const double dbm = scenario.sources[sight.source].levelDbm + sight.couplingDb;
-        seenW_ += std::pow(10, dbm / 10 - 3);
+        const Source& source = scenario.sources[sight.source];
+        const double dbm = source.levelDbm + sight.couplingDb;
+        sees_.Add(source.waveform, std::pow(10, dbm / 10 - 3));
     }
 }
 
@@ -69,14 +70,14 @@ void VirtualSensor::Plug(bool plugged) {
 
 double VirtualSensor::NoiseDb() const {
     if (plan_.noiseW == 0) return plan_.noiseDb;
-    if (seenW_ == 0) return std::numeric_limits<double>::infinity();
-    return std::hypot(plan_.noiseDb, DbPerNeper * plan_.noiseW / seenW_);
+    if (sees_.MeanW() == 0) return std::numeric_limits<double>::infinity();
+    return std::hypot(plan_.noiseDb, DbPerNeper * plan_.noiseW / sees_.MeanW());
 }
 
-double VirtualSensor::Measure(double count) {
+double VirtualSensor::Measure(double powerW, double count) {
     const double steadiness = std::sqrt(count);
     const double levelDb = plan_.noiseDb * Normal() / steadiness;
-    return seenW_ * std::pow(10, levelDb / 10) + plan_.noiseW * Normal() / steadiness;
+    return powerW * std::pow(10, levelDb / 10) + plan_.noiseW * Normal() / steadiness;
 }
 
 // The Box-Muller transform: the same seed gives the same noise with every standard library.

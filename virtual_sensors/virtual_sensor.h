@@ -10,6 +10,7 @@
 
 #include "models.h"
 #include "scenario.h"
+#include "seen_signal.h"
 
 namespace kelvra::virtual_sensors {
 
@@ -25,14 +26,16 @@ public:
     int64_t Plugging() const { return plugging_; }
     void Plug(bool plugged);
 
-    // The total power of the sources it sees, in W.
-    double SeenW() const { return seenW_; }
+    // The sum of the sources it sees, without noise.
+    const Signal& Sees() const { return sees_; }
 
-    // Standard deviation of a single measurement in dB; infinite if there is only noise.
+    // Standard deviation of a single measurement in dB, at the signal's mean power; infinite if
+    // there is only noise.
     double NoiseDb() const;
 
-    // One measurement in W, averaged `count` times. May be negative where noise dominates.
-    double Measure(double count);
+    // One measurement of this power in W, averaged `count` times. May be negative where noise
+    // dominates.
+    double Measure(double powerW, double count);
 
     // Item `index` as "name:value"; index must be below InfoCount.
     std::string Info(std::size_t index) const;
@@ -47,7 +50,7 @@ private:
     const Model& model_;
     bool plugged_;
     int64_t plugging_ = 1;
-    double seenW_ = 0;
+    Signal sees_;
     std::mt19937_64 random_;
 };
 

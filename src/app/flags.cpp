@@ -9,6 +9,10 @@ FlagValue Whole(std::int64_t value) {
     return value;
 }
 
+FlagValue Cursor(const Kelvra& kelvra, ui::TraceCursor cursor) {
+    return Whole(kelvra.windows.traceDisplay.ShownIndex(cursor));
+}
+
 constexpr Flag AllFlags[] = {
     {"Measuring", [](const Kelvra& k) -> FlagValue { return k.state.measuring; }},
     {"StopRequested", [](const Kelvra& k) -> FlagValue { return k.state.stopRequested; }},
@@ -20,6 +24,7 @@ constexpr Flag AllFlags[] = {
     {"ReconnectPrompt", [](const Kelvra& k) -> FlagValue { return k.session.reconnectPrompt; }},
     {"ErrorShown", [](const Kelvra& k) -> FlagValue { return k.windows.errorStrip.ErrorShown(); }},
     {"SessionClosed", [](const Kelvra& k) -> FlagValue { return k.session.sessionClosed; }},
+    {"ScopeZoomed", [](const Kelvra& k) -> FlagValue { return k.windows.traceDisplay.Zoomed(); }},
     {"ScopeScalingShown",
      [](const Kelvra& k) -> FlagValue { return k.windows.setupDialog.TraceScaleShown(); }},
     {"TimeScalingShown",
@@ -28,6 +33,10 @@ constexpr Flag AllFlags[] = {
     {"CurrentSensor", [](const Kelvra& k) { return Whole(k.table.currentSensor); }},
     {"instrumentHandle", [](const Kelvra& k) { return Whole(k.session.instrumentHandle); }},
     {"RecordInterval", [](const Kelvra& k) { return Whole(k.state.recordInterval); }},
+    {"TrigLevelCursor", [](const Kelvra& k) { return Cursor(k, ui::TrigLevelCursor); }},
+    {"TrigDelayCursor", [](const Kelvra& k) { return Cursor(k, ui::TrigDelayCursor); }},
+    {"ExclStartCursor", [](const Kelvra& k) { return Cursor(k, ui::ExclStartCursor); }},
+    {"ExclStopCursor", [](const Kelvra& k) { return Cursor(k, ui::ExclStopCursor); }},
     {"Passes", [](const Kelvra& k) { return Whole(k.state.passes); }},
 };
 

@@ -18,7 +18,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       windows(forms, table, state, cycle, sensorCommands, modes, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
-      settingsCommands_(forms, table, windows.edits, windows.setupDialog, windows.notice, host) {
+      settingsCommands_(forms, table, windows.edits, windows.notice, host) {
     Subscribe();
     forms.mdiMain.MFileExit.click.Connect([this] { ExitAsAsked(); });
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });

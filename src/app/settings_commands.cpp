@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "driver/catalogue.h"
 #include "platform/data_folder.h"
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
@@ -16,9 +17,9 @@ constexpr const char* Stem = "Sensor";
 }  // namespace
 
 SettingsCommands::SettingsCommands(forms::Forms& forms, sensors::SensorTable& table,
-                                   ui::SettingsEdits& edits, ui::SetupDialog& dialog,
-                                   ui::Notice& notice, platform::Host& host)
-    : table_(table), edits_(edits), dialog_(dialog), notice_(notice), host_(host) {
+                                   ui::SettingsEdits& edits, ui::Notice& notice,
+                                   platform::Host& host)
+    : table_(table), edits_(edits), notice_(notice), host_(host) {
     forms.mdiMain.Load_Sensor_Settings.click.Connect([this] { LoadSensorSettings(); });
     forms.mdiMain.Save_Sensor_Settings.click.Connect([this] { SaveSensorSettings(); });
 }
@@ -36,6 +37,12 @@ void SettingsCommands::Load(const std::string& path) {
     sensors::SensorSettings settings = table_[table_.currentSensor].settings;
     sensors::TransferSettings(settings, file.Text(), Stem, sensors::Transfer::Read);
     edits_.Replace(table_.currentSensor, "loaded settings", settings);
+    if (!driver::HasMode(sensors::TypeOf(table_[table_.currentSensor]), settings.Mode))
+        host_.dialogs.Message({},
+                              "This model does not have the mode that the file sets. Please choose "
+                              "one of its modes.\r\n" +
+                                  path,
+                              platform::MessageIcon::Exclamation);
     if (sensors::HasSettings(file.Text(), Stem)) return Confirm("loaded from", path);
     host_.dialogs.Message({},
                           "The file has no sensor settings. The defaults have been set.\r\n" + path,
@@ -53,7 +60,6 @@ void SettingsCommands::SaveSensorSettings() {
 
 void SettingsCommands::Save(const std::string& path) {
     const std::error_code error = Write(path);
-    dialog_.ShowCurrent(ui::Typing::Stays);  // saving resets a setting that files don't keep
     if (error) return Complain("saved", path, error);
     Confirm("saved to", path);
 }
@@ -64,8 +70,13 @@ std::error_code SettingsCommands::Write(const std::string& path) {
     const std::string folder = host_.computer.ProgramFolder();
     if (std::filesystem::path(path).parent_path() == folder) lock.emplace(host_.files, folder);
     if (lock && lock->Error()) return lock->Error();
-    return sensors::TransferSettings(table_[table_.currentSensor].settings, host_.files, path, Stem,
-                                     sensors::Transfer::Write);
+    const sensors::SensorSettings& stored = table_[table_.currentSensor].settings;
+    sensors::SensorSettings saved = stored;
+    const std::error_code error =
+        sensors::TransferSettings(saved, host_.files, path, Stem, sensors::Transfer::Write);
+    // Saving resets a setting that files don't keep.
+    if (saved != stored) edits_.Replace(table_.currentSensor, "saved settings", saved);
+    return error;
 }
 
 void SettingsCommands::AskFile(platform::FileQuestion question,

@@ -29,6 +29,9 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
       setupDialog(
           {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
+      traceDisplay({forms, table, edits, setupDialog, selection, host}),
+      slotDisplay({forms, table, edits, setupDialog, selection, host}),
+      slotTable(forms, table, selection, host.computer),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {
     ui::ConnectHelp(forms.timeForm, host);
@@ -42,13 +45,16 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
              &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
-             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy})
+             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy,
+             &traceDisplay, &slotDisplay, &slotTable})
         news.measurement.Add(*listener);
     for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
              &speed, &calcGrid, &notice, &recordMenu, &readingAge})
         news.pass.Add(*listener);
     news.slot.Add(marks);
-    news.slot.Add(results);
+    for (measure::SlotListener* listener : std::initializer_list<measure::SlotListener*>{
+             &results, &traceDisplay, &slotDisplay, &slotTable})
+        news.slot.Add(*listener);
     for (measure::CommandListener* listener : std::initializer_list<measure::CommandListener*>{
              &enabling, &marks, &results, &sensorCommands})
         news.command.Add(*listener);

@@ -117,8 +117,14 @@ bool Graph::DragCursor(int index, double x, double y) {
     cursor.x = x;
     cursor.y = y;
     if (!SetCursor(index, cursor)) return false;
-    chosen = index;
+    ChooseCursor(index);
     cursorChange.Raise(index, x, y);
+    return true;
+}
+
+bool Graph::ChooseCursor(int index) {
+    if (!Has(cursors_, index) || !CursorAt(index).visible) return false;
+    if (chosen.Set(index)) choice.Raise();
     return true;
 }
 

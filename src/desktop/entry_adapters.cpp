@@ -19,9 +19,16 @@ TextBoxAdapter::TextBoxAdapter(controls::TextBox& box, QLineEdit& widget)
 }
 
 void TextBoxAdapter::Update() {
-    if (const QString text = Shown(box_.Text()); widget_.text() != text) widget_.setText(text);
+    ShowText(Shown(box_.Text()));
     UpdateCommon(widget_, box_, box_.fault);
     ShowFault();
+}
+
+// A text that the program puts where the user is typing is selected: the next key replaces it.
+void TextBoxAdapter::ShowText(const QString& text) {
+    if (widget_.text() == text) return;
+    widget_.setText(text);
+    if (widget_.hasFocus()) widget_.selectAll();
 }
 
 void TextBoxAdapter::ShowFault() {

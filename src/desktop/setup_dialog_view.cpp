@@ -14,7 +14,7 @@ namespace kelvra::desktop {
 
 namespace {
 
-constexpr int ErrorLines = 4;
+constexpr int ErrorLines = 3;
 constexpr int SignSize = 20;  // logical pixels
 
 // Keeps a box from taking the keys of undo and redo for its own text: an edit of a setting is taken

@@ -2,6 +2,7 @@
 #include "measure/cycle.h"
 
 #include "driver/call_log.h"
+#include "sensors/slot_statistics.h"
 
 namespace kelvra::measure {
 
@@ -193,6 +194,7 @@ void Cycle::FetchSlot(int slot) {
         case sensors::TimeSlot:
             p_.readings.GetMultiReading(slot);
             entry.newSlotData = true;
+            sensors::AddSlotReadings(entry);
             p_.news.slot.Tell(&SlotListener::ArrayArrived, slot);
             break;
         case sensors::Trace:

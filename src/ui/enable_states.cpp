@@ -7,8 +7,6 @@ namespace kelvra::ui {
 
 namespace {
 
-constexpr int ExternalTrigger = 1;
-
 void Enable(std::initializer_list<controls::Control*> controls, bool enabled) {
     for (controls::Control* control : controls) control->enabled = enabled;
 }
@@ -60,7 +58,7 @@ EnableStates FindEnableStates(const Situation& situation) {
         .dutyCycle = settings.Mode == sensors::ContinuousAverage,
         .triggerPage = situation.takesTrigger,
         .advancedPage = situation.takesAdvanced,
-        .triggerLevel = situation.takesTrigger && settings.TrigSource != ExternalTrigger,
+        .triggerLevel = situation.takesTrigger && settings.TrigSource != sensors::ExternalTrigger,
     };
 }
 

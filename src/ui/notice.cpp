@@ -15,10 +15,6 @@ namespace {
 constexpr auto DoneIsShown = std::chrono::seconds(8);
 constexpr const char* Images[] = {"noticeError", "noticeFiles", "noticeWait", "noticeDone"};
 
-std::string Whole(std::size_t number) {
-    return util::TrimmedNumberText(static_cast<std::int64_t>(number));
-}
-
 }  // namespace
 
 void Notice::Set(Rank rank, std::string text) {
@@ -74,7 +70,8 @@ void Notice::TransferBegins(int slot) {
     const auto found = std::find(configured_.begin(), configured_.end(), slot);
     if (found == configured_.end()) return;
     const auto number = static_cast<std::size_t>(found - configured_.begin()) + 1;
-    Hint("Configuring " + Whole(number) + " of " + Whole(configured_.size()));
+    Hint("Configuring " + util::TrimmedNumberText(number) + " of " +
+         util::TrimmedNumberText(configured_.size()));
 }
 
 void Notice::EndStart() {

@@ -16,10 +16,6 @@ namespace {
 // What is done to a sensor: "Zeroing sensor 2".
 constexpr const char* Doings[] = {"Zeroing ", "Self test of ", "Reading the information of "};
 
-std::string Whole(std::int64_t number) {
-    return util::TrimmedNumberText(number);
-}
-
 std::string UpperFirst(const std::string& text) {
     return util::UpperCase(text.substr(0, 1)) + text.substr(1);
 }
@@ -27,7 +23,8 @@ std::string UpperFirst(const std::string& text) {
 // Of several sensors, how many have been zeroed.
 std::string Remainder(const CommandEnd& end) {
     if (end.sensors < 2) return {};
-    return "\r\nZeroed: " + Whole(end.done) + " of " + Whole(end.sensors) + " sensors.";
+    return "\r\nZeroed: " + util::TrimmedNumberText(end.done) + " of " +
+           util::TrimmedNumberText(end.sensors) + " sensors.";
 }
 
 std::string FailureText(const CommandEnd& end, const std::string& sensor) {
@@ -39,7 +36,7 @@ std::string FailureText(const CommandEnd& end, const std::string& sensor) {
             return doing + " has failed.\r\n" + end.message;
         case CommandOutcome::TimedOut:
             return doing + " has not ended within " +
-                   Whole(measure::SensorCommands::LongestZero.count()) +
+                   util::TrimmedNumberText(measure::SensorCommands::LongestZero.count()) +
                    " s. The sensor may be defective, or not answer.";
         case CommandOutcome::Stopped:
             return end.begun == end.done
@@ -76,7 +73,8 @@ void SensorCommands::PowerMustBeOff(const std::function<void()>& goOn) {
 
 void SensorCommands::SensorBegins(SensorCommand command, int slot, int number, int sensors) {
     std::string text = Doings[static_cast<std::size_t>(command)] + SensorText(p_.table, slot);
-    if (sensors > 1) text += ", " + Whole(number) + " of " + Whole(sensors);
+    if (sensors > 1)
+        text += ", " + util::TrimmedNumberText(number) + " of " + util::TrimmedNumberText(sensors);
     p_.forms.setupForm.busy = true;
     p_.notice.ShowCommand(text);
 }
@@ -94,9 +92,10 @@ void SensorCommands::ShowResult(const CommandEnd& end) {
     const std::string sensor = SensorText(p_.table, end.slot);
     switch (end.command) {
         case SensorCommand::Zero:
-            p_.notice.ShowDone(
-                (end.sensors == 1 ? UpperFirst(sensor) : Whole(end.sensors) + " sensors") +
-                " zeroed");
+            p_.notice.ShowDone((end.sensors == 1
+                                    ? UpperFirst(sensor)
+                                    : util::TrimmedNumberText(end.sensors) + " sensors") +
+                               " zeroed");
             break;
         case SensorCommand::SelfTest:
             p_.host.dialogs.Message(

@@ -32,10 +32,6 @@ constexpr ColumnText ColumnTexts[] = {
 constexpr const char* ModeNames[] = {"continuous average", "buffered average", "time slot", "burst",
                                      "scope"};
 
-std::string Whole(std::int64_t number) {
-    return util::TrimmedNumberText(number);
-}
-
 }  // namespace
 
 SettingsCopy::SettingsCopy(const Parts& parts) : p_(parts), form_(parts.forms.copyForm) {
@@ -102,7 +98,7 @@ void SettingsCopy::ShowRow(int row, int slot) {
     const auto show = [&](Column column, std::string_view text) {
         SetGridCell(form_.CopyTargets, row, column, text, Align::Left, false, false);
     };
-    show(NumberColumn, Whole(driver::ChannelOf(slot)));
+    show(NumberColumn, util::TrimmedNumberText(driver::ChannelOf(slot)));
     show(NameColumn, entry.logicalName);
     show(TypeColumn, sensors::TypeOf(entry));
     show(ObstacleColumn, obstacle);
@@ -137,7 +133,7 @@ void SettingsCopy::Copy() {
     for (const int slot : targets) p_.edits.Replace(slot, "copied settings", settings);
     const std::string to = targets.size() == 1
                                ? SensorText(p_.table, targets.front())
-                               : Whole(static_cast<std::int64_t>(targets.size())) + " sensors";
+                               : util::TrimmedNumberText(targets.size()) + " sensors";
     p_.notice.ShowDone("Settings of " + SensorText(p_.table, p_.table.currentSensor) +
                        " copied to " + to);
 }

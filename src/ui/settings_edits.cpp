@@ -15,11 +15,12 @@ void SettingsEdits::Edited(int slot, std::string what, const SensorSettings& bef
     Follow(slot, before);
 }
 
-void SettingsEdits::Replace(int slot, std::string what, const SensorSettings& settings) {
+void SettingsEdits::Replace(int slot, std::string what, const SensorSettings& settings,
+                            const controls::Control* gatheredIn) {
     const SensorSettings before = table_[slot].settings;
     table_[slot].settings = settings;
-    Edited(slot, std::move(what), before);
-    if (onReplace) onReplace(slot);
+    Edited(slot, std::move(what), before, gatheredIn);
+    listeners.Tell(&SettingsListener::SettingsReplaced, slot);
 }
 
 void SettingsEdits::Make(int slot, const SettingsChange& change) {
@@ -32,7 +33,7 @@ void SettingsEdits::Make(int slot, const SettingsChange& change) {
             },
             field.member);
     Follow(slot, before);
-    if (onReplace) onReplace(slot);
+    listeners.Tell(&SettingsListener::SettingsReplaced, slot);
 }
 
 void SettingsEdits::Follow(int slot, const SensorSettings& before) {
@@ -45,6 +46,7 @@ void SettingsEdits::Follow(int slot, const SensorSettings& before) {
         sensors::PrepareWorkArrays(table_, slot);
     }
     if (onEdit) onEdit();
+    listeners.Tell(&SettingsListener::SettingsEdited, slot, before);
 }
 
 }  // namespace kelvra::ui

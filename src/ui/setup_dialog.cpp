@@ -65,7 +65,7 @@ std::string TypeInfo(const std::string& sensorId) {
 
 SetupDialog::SetupDialog(const Parts& parts) : p_(parts), allModes_(parts.form.SensMode.Items()) {
     p_.selection.listeners.Add(*this);
-    p_.edits.onReplace = [this](int slot) { Replaced(slot); };
+    p_.edits.listeners.Add(*this);
     ConnectFields();
     ConnectScales();
     ConnectHelp(p_.form, p_.host);
@@ -91,8 +91,14 @@ void SetupDialog::ConnectFields() {
 }
 
 void SetupDialog::ConnectScales() {
-    for (const ScaleBox& row : ScaleBoxes())
-        (p_.form.*row.box).change.Connect([this, &row] { StoreLimit(row); });
+    for (const ScaleBox& row : ScaleBoxes()) {
+        controls::TextBox& box = p_.form.*row.box;
+        box.change.Connect([this, &row] { StoreLimit(row); });
+        box.commit.Connect([this, &row, &box] {
+            const Filling filling(filling_);
+            if (box.fault->empty()) box.SetText(util::TrimmedNumberText(Scaling().*row.limit));
+        });
+    }
     for (controls::CheckBox* box : {&p_.form.chkAutoScaleScope, &p_.form.chkAutoScaleTime})
         box->click.Connect([this] { StoreAutomatic(); });
     p_.form.SensSelect.dropDown.Connect([this] {
@@ -131,11 +137,12 @@ void SetupDialog::ShowCurrent(Typing typing) {
         ShowModeFrames(p_.form, entry->settings.Mode);
     }
     filling_ = false;  // also after the first sensor
+    JudgeLimits();
     JudgePoints();
     p_.enabling.Refresh();
 }
 
-void SetupDialog::Replaced(int slot) {
+void SetupDialog::SettingsReplaced(int slot) {
     if (slot == p_.table.currentSensor)
         ShowCurrent();
     else
@@ -238,6 +245,22 @@ void SetupDialog::StoreLimit(const ScaleBox& row) {
     const TypedNumber typed = ReadTyped(box.Text(), {.name = "dBm"}, p_.host.computer.Numbers());
     if (std::isfinite(typed.value)) Scaling().*row.limit = typed.value;
     box.fault = std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
+    JudgeLimits();
+}
+
+void SetupDialog::JudgeLimits() {
+    static const std::string crossed = "The maximum must be above the minimum.";
+    const sensors::DisplayScaling& scaling = Scaling();
+    const struct {
+        controls::TextBox &least, &most;
+        bool rises;
+    } axes[] = {{p_.form.txtMinScope, p_.form.txtMaxScope, scaling.minScope < scaling.maxScope},
+                {p_.form.txtMinTime, p_.form.txtMaxTime, scaling.minTime < scaling.maxTime}};
+    for (const auto& axis : axes)
+        for (controls::TextBox* box : {&axis.least, &axis.most}) {
+            if (!axis.rises && box->fault->empty()) box->fault = crossed;
+            if (axis.rises && box->fault.Get() == crossed) box->fault = std::string();
+        }
 }
 
 void SetupDialog::StoreAutomatic() {

@@ -19,8 +19,6 @@ using sensors::SensorSettings;
 
 namespace {
 
-constexpr int SingleTrigger = 0;
-
 constexpr SetupUnit One{};
 constexpr SetupUnit Ms{1e3, 1, Quantity::Time};
 constexpr SetupUnit Seconds{1, 1, Quantity::Time};
@@ -167,7 +165,7 @@ void ShowSlotNumbers(SetupForm& form, const SensorSettings& settings) {
 }
 
 void ShowTriggerButton(SetupForm& form, const SensorSettings& settings) {
-    form.SensTriggerNow.visible = settings.TrigSource == SingleTrigger;
+    form.SensTriggerNow.visible = settings.TrigSource == sensors::SingleTrigger;
 }
 
 std::span<const ScaleBox> ScaleBoxes() {

@@ -15,7 +15,8 @@ constexpr struct {
     std::string_view word;
     double scale;  // in s or Hz
 } Units[] = {
-    {Quantity::Time, "s", 1},          {Quantity::Time, "ms", 1e-3},
+    {Quantity::Time, "s", 1},          {Quantity::Time, "sec", 1},
+    {Quantity::Time, "ms", 1e-3},      {Quantity::Time, "msec", 1e-3},
     {Quantity::Time, "\u03BCs", 1e-6}, {Quantity::Time, "us", 1e-6},
     {Quantity::Time, "\u00B5s", 1e-6}, {Quantity::Time, "ns", 1e-9},
     {Quantity::Frequency, "Hz", 1},    {Quantity::Frequency, "kHz", 1e3},
@@ -26,7 +27,9 @@ constexpr struct {
 // sign of texts is a minus.
 std::string WithPoint(std::string_view text, const util::NumberForm& locale) {
     constexpr std::string_view minus = "\u2212";
-    std::string read(util::TrimSpaces(text));
+    std::string read(text);
+    std::replace(read.begin(), read.end(), '\t', ' ');
+    read = util::TrimSpaces(read);
     if (read.starts_with(minus)) read.replace(0, minus.size(), "-");
     const bool comma = locale.decimal == ",";
     const bool clear =

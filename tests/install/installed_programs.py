@@ -38,7 +38,7 @@ def says_what_it_is(program, version):
 
 def measures(console, sensors, data):
     done = run(console, "--driver-dir", sensors, "--data-dir", data, input=SCRIPT)
-    check(console, done, "4 sensors connected\n")
+    check(console, done, "6 sensors connected\n")
 
 
 def ends_when_asked(desktop, data):

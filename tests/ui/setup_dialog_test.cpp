@@ -328,6 +328,11 @@ TEST_F(SetupDialogTest, ScalesTriggerPagesAndHelpFollowTheirControls) {
     EXPECT_EQ(program->table.scaling[0].minTime, 1.0 / 3);
     Form().chkAutoScaleScope.Toggle();
     EXPECT_EQ(program->table.scaling[0].maxTime, 7.5);
+    for (const bool crossed : {true, false}) {
+        Form().txtMinTime.Type(crossed ? "8" : "7");
+        EXPECT_EQ(Form().txtMinTime.fault->empty(), !crossed);
+        EXPECT_EQ(Form().txtMaxTime.fault->empty(), !crossed);
+    }
     EXPECT_TRUE(program->table.scaling[0].autoScaleScope);
     Form().SensTrigger.Choose(0);
     EXPECT_TRUE(Form().SensTriggerNow.visible);

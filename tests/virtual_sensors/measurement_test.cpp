@@ -118,7 +118,7 @@ TEST(Noise, FallsWithTheSquareRootOfTheAveraging) {
         double sum = 0;
         double squares = 0;
         for (int i = 0; i < 10000; ++i) {
-            const double deviation = (sensor.Measure(count) - 1e-3) * 1e6;
+            const double deviation = (sensor.Measure(1e-3, count) - 1e-3) * 1e6;
             sum += deviation;
             squares += deviation * deviation;
         }

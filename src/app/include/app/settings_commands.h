@@ -13,14 +13,13 @@
 #include "ui/notice.h"
 #include "ui/sensor_text.h"
 #include "ui/settings_edits.h"
-#include "ui/setup_dialog.h"
 
 namespace kelvra::app {
 
 class SettingsCommands {
 public:
     SettingsCommands(forms::Forms& forms, sensors::SensorTable& table, ui::SettingsEdits& edits,
-                     ui::SetupDialog& dialog, ui::Notice& notice, platform::Host& host);
+                     ui::Notice& notice, platform::Host& host);
 
     // Replaces the settings, which counts as an edit: they are sent to the sensor before its next
     // measurement. A file that can't be read leaves them as they were, with a message. A file
@@ -45,7 +44,6 @@ private:
 
     sensors::SensorTable& table_;
     ui::SettingsEdits& edits_;
-    ui::SetupDialog& dialog_;
     ui::Notice& notice_;
     platform::Host& host_;
 };

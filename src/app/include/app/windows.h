@@ -30,9 +30,12 @@
 #include "ui/settings_copy.h"
 #include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
+#include "ui/slot_display.h"
+#include "ui/slot_table.h"
 #include "ui/speed_label.h"
 #include "ui/start_messages.h"
 #include "ui/status_marks.h"
+#include "ui/trace_display.h"
 
 namespace kelvra::app {
 
@@ -60,6 +63,9 @@ struct Windows {
     ui::SettingsEdits edits;
     ui::EditMenu editMenu;
     ui::SetupDialog setupDialog;
+    ui::TraceDisplay traceDisplay;
+    ui::SlotDisplay slotDisplay;
+    ui::SlotTable slotTable;
     ui::SettingsCopy settingsCopy;
     ui::SensorCommands sensorCommands;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors, and
-// texts at positions. It records which of its parts have changed, so that a painter draws only
+// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors,
+// and texts at positions. It records which of its parts have changed, so that a painter draws only
 // those.
 //
 // The program sets the axes of the whole graph; the user may zoom into a part of it. Axes that the
@@ -116,8 +116,10 @@ public:
     Event<double, double> pointed;
     Event<> left;
 
-    // The cursor that keys move; -1: none. A drag chooses its cursor.
+    // The cursor that keys move; -1: none. The user chooses it, also by dragging it.
     Property<int> chosen{*this, -1};
+    bool ChooseCursor(int index);  // false if there is no such cursor, or it is hidden
+    Event<> choice;
     // The user moves the chosen cursor by that many steps, to the right or up if positive. What a
     // step is, the rules know. False as for a drag.
     bool Nudge(int steps);

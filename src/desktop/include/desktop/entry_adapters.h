@@ -23,6 +23,7 @@ public:
     void Update() override;
 
 private:
+    void ShowText(const QString& text);
     void ShowFault();
 
     controls::TextBox& box_;

@@ -16,6 +16,15 @@ enum Mode : std::int32_t {
     Trace = 4,
 };
 
+// Trigger sources, the driver's own codes.
+enum TriggerSource : std::int16_t {
+    SingleTrigger = 0,
+    ExternalTrigger = 1,
+    HoldTrigger = 2,
+    ImmediateTrigger = 3,
+    InternalTrigger = 4,
+};
+
 // Averaging modes.
 enum AveragingMode : std::int16_t { ByResolution = 0, ByNoise = 1, ByCount = 2 };
 
@@ -53,8 +62,8 @@ struct SensorSettings {
     double AvgMaxSetTime{};
     std::int16_t AvgSlotNum{};
     bool AvgMoving{};
-    std::int16_t TrigSource{};  // 0 single, 1 external, 2 hold, 3 immediate, 4 internal
-    std::int16_t TrigSlope{};   // 0 positive, 1 negative
+    std::int16_t TrigSource{};
+    std::int16_t TrigSlope{};  // 0 positive, 1 negative
     std::int32_t TrigCount{};
     double TrigDelay{};
     double TrigLevel{};

@@ -10,8 +10,19 @@
 #include "measure/modes.h"
 #include "sensors/sensor_table.h"
 #include "ui/edit_history.h"
+#include "util/listeners.h"
 
 namespace kelvra::ui {
+
+class SettingsListener {
+public:
+    virtual ~SettingsListener() = default;
+
+    // Settings of the slot have been edited, one by one or all; `before` is what they were.
+    virtual void SettingsEdited(int /*slot*/, const sensors::SensorSettings& /*before*/) {}
+    // The slot's sensor has got other settings, from elsewhere than the dialog.
+    virtual void SettingsReplaced(int /*slot*/) {}
+};
 
 class SettingsEdits {
 public:
@@ -25,14 +36,14 @@ public:
     // What was typed or dragged is complete.
     void EndStep() { history_.EndStep(); }
     // Gives the slot's sensor other settings.
-    void Replace(int slot, std::string what, const sensors::SensorSettings& settings);
+    void Replace(int slot, std::string what, const sensors::SensorSettings& settings,
+                 const controls::Control* gatheredIn = nullptr);
     // Undo and redo: changes the settings in which the two ends of the change differ. No step.
     void Make(int slot, const SettingsChange& change);
 
     // Settings have been edited.
     std::function<void()> onEdit;
-    // The slot's sensor has got other settings.
-    std::function<void(int slot)> onReplace;
+    util::Listeners<SettingsListener> listeners;
 
 private:
     void Follow(int slot, const sensors::SensorSettings& before);

@@ -20,7 +20,7 @@
 
 namespace kelvra::ui {
 
-class SetupDialog final : public CurrentSensorListener {
+class SetupDialog final : public CurrentSensorListener, public SettingsListener {
 public:
     struct Parts {
         forms::SetupForm& form;
@@ -40,6 +40,7 @@ public:
     void ShowCurrent(Typing typing = Typing::IsReplaced);
     // A box in which the user is typing stays as it is, unless it was another sensor's.
     void CurrentSensorChanged() override;
+    void SettingsReplaced(int slot) override;
 
     // The dialog shows the scales of that display for the current sensor.
     bool TraceScaleShown() const;
@@ -52,7 +53,6 @@ private:
     sensors::SensorEntry* Current();
     void FillModes(const sensors::SensorEntry& entry);
     void Edited(const SetupRow& row);
-    void Replaced(int slot);
     void Remember(const SetupRow& row, const sensors::SensorSettings& before);
     void Tidy(const SetupRow& row, controls::TextBox& box);
     bool CountIsRight();
@@ -62,6 +62,7 @@ private:
     void JudgePoints();
     sensors::DisplayScaling& Scaling();
     void StoreLimit(const ScaleBox& row);
+    void JudgeLimits();
     void StoreAutomatic();
 
     Parts p_;

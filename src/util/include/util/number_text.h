@@ -4,6 +4,7 @@
 // std::to_chars; none allocates more than its result.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 
@@ -24,6 +25,10 @@ std::string NumberText(std::int64_t value);
 // The same without the leading space.
 std::string TrimmedNumberText(double value);
 std::string TrimmedNumberText(std::int64_t value);
+template <std::integral Whole>
+std::string TrimmedNumberText(Whole value) {
+    return TrimmedNumberText(static_cast<std::int64_t>(value));
+}
 
 // Like TrimmedNumberText, with as many digits (up to 17) as are needed to read the same double
 // back.

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The table of time slots: the latest power of each slot of the sensor that the time slot display
+// shows, and the statistics of its last readings. It scrolls if the window has no room for all
+// slots. While it is hidden it writes nothing; it catches up when it is shown.
+#pragma once
+
+#include "forms/forms.h"
+#include "measure/listener.h"
+#include "platform/computer.h"
+#include "sensors/sensor_table.h"
+#include "ui/sensor_selection.h"
+
+namespace kelvra::ui {
+
+class SlotTable final : public measure::MeasurementListener,
+                        public measure::SlotListener,
+                        public CurrentSensorListener {
+public:
+    SlotTable(forms::Forms& forms, sensors::SensorTable& table, SensorSelection& selection,
+              platform::Computer& computer);
+
+    void ModesChanged() override { Refresh(); }
+    void SlotStarted(int /*slot*/) override {}
+    void SlotComplete(int /*slot*/) override {}
+    void ReadingArrived(int /*slot*/) override {}
+    void ArrayArrived(int slot) override;
+    void CurrentSensorChanged() override { Refresh(); }
+    void ListedChanged() override { Refresh(); }
+
+private:
+    int Slot() const;  // -1: none
+    void Refresh();
+    void Write(const sensors::SensorEntry& entry);
+    void WriteRow(int row, const sensors::ReadingRing& ring);
+    void Clear();
+    void Reset();
+
+    forms::TimeSlotTabForm& form_;
+    const controls::List& sensors_;
+    sensors::SensorTable& table_;
+    const util::NumberForm& numbers_;
+};
+
+}  // namespace kelvra::ui

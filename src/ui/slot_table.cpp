@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/slot_table.h"
+
+#include <cstdint>
+#include <iterator>
+
+#include "util/figure.h"
+#include "util/number_text.h"
+
+namespace kelvra::ui {
+
+namespace {
+
+constexpr const char* Headings[] = {"SLOT", "Power", "Max", "Min", "Mean", "Sigma"};
+constexpr int NumberWidth = 660;  // twips
+constexpr int ValueWidth = 900;
+constexpr const char* LongestValue = "-970.000";
+constexpr controls::Grid::Look Plain{};
+
+}  // namespace
+
+SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SensorSelection& selection,
+                     platform::Computer& computer)
+    : form_(forms.timeSlotTabForm),
+      sensors_(forms.timeSlotDisp.Timeslot_Sensorselect),
+      table_(table),
+      numbers_(computer.Numbers()) {
+    controls::Grid& grid = form_.TimeSlots;
+    controls::Grid::Look bold;
+    bold.bold = true;
+    for (int column = 0; const char* heading : Headings) {
+        grid.SetCell(0, column, heading, bold);
+        grid.SetWidth(column, column == 0 ? NumberWidth : ValueWidth);
+        if (column > 0) grid.SetSample(column, LongestValue);
+        ++column;
+    }
+    selection.listeners.Add(*this);
+    forms.timeSlotDisp.Timeslot_Sensorselect.click.Connect([this] { Refresh(); });
+    forms.mdiMain.resize.Connect([this] { Refresh(); });  // which can show the window again
+    form_.ResetStat.click.Connect([this] { Reset(); });
+}
+
+int SlotTable::Slot() const {
+    const int slot = sensors_.Data();
+    const bool measures =
+        slot >= 0 && slot < table_.Slots() && sensors::MeasuresIn(table_[slot], sensors::TimeSlot);
+    return measures ? slot : -1;
+}
+
+void SlotTable::ArrayArrived(int slot) {
+    if (slot == Slot()) Refresh();
+}
+
+void SlotTable::Refresh() {
+    if (!form_.visible) return;
+    const int slot = Slot();
+    if (slot >= 0 && table_[slot].slotStatsActive)
+        Write(table_[slot]);
+    else
+        Clear();
+}
+
+void SlotTable::Write(const sensors::SensorEntry& entry) {
+    form_.TimeSlots.SetRows(1 + static_cast<int>(entry.slotStats.size()));
+    for (int row = 1; const sensors::ReadingRing& ring : entry.slotStats) WriteRow(row++, ring);
+    form_.NumberOfSamples.caption = util::TrimmedNumberText(sensors::ReadingRing::Length);
+}
+
+// Statistics come with the last reading of the first full ring.
+void SlotTable::WriteRow(int row, const sensors::ReadingRing& ring) {
+    const auto statistics = ring.Statistics().value_or(sensors::LevelStatistics{});
+    const double values[] = {ring.Index() < 0 ? 0 : ring.LastLevel(), statistics.max,
+                             statistics.min, statistics.mean, statistics.sigma};
+    form_.TimeSlots.SetCell(row, 0, util::CountFigure(row, numbers_), Plain);
+    for (int column = 1; const double value : values)
+        form_.TimeSlots.SetCell(row, column++, util::FixedFigure(value, numbers_), Plain);
+}
+
+void SlotTable::Clear() {
+    for (int row = 1; row < form_.TimeSlots.Rows(); ++row)
+        for (int column = 1; column < form_.TimeSlots.Columns(); ++column)
+            form_.TimeSlots.SetCell(row, column, "", Plain);
+    form_.NumberOfSamples.caption = "0";
+}
+
+// The statistics start again with the next reading.
+void SlotTable::Reset() {
+    const int slot = Slot();
+    if (slot < 0) return;
+    sensors::PrepareWorkArrays(table_, slot);
+    table_[slot].slotStatsActive = false;
+    Refresh();
+}
+
+}  // namespace kelvra::ui
