@@ -31,7 +31,7 @@ void Choose(controls::Graph& graph, int direction) {
     if (!Exists(graph, next)) next = direction > 0 ? -1 : graph.CursorCount();
     do next += direction;
     while (Exists(graph, next) && !graph.CursorAt(next).visible);
-    if (Exists(graph, next)) graph.chosen = next;
+    if (Exists(graph, next)) graph.ChooseCursor(next);
 }
 
 }  // namespace

@@ -72,7 +72,7 @@ void GraphMouse::Begin(const QMouseEvent& event) {
         cursor_ = CursorNear(place_);
         if (cursor_ < 0) return;
         act_ = Act::Drag;
-        graph.chosen = cursor_;
+        graph.ChooseCursor(cursor_);
         const Graph::Cursor& cursor = graph.CursorAt(cursor_);
         const PlotScale scale = widget_.Scale();
         grip_ = QPointF(scale.PixelX(cursor.x), scale.PixelY(cursor.y)) - place_;
