@@ -19,7 +19,7 @@ using controls::Graph;
 constexpr int Padding = 3;
 constexpr int TickLength = 4;
 // Tick labels up to this one never move the graph.
-constexpr const char* WidestTick = "-000.00";
+constexpr const char* WidestTick = "-0000.0";
 constexpr int LeastWidth = 16;  // characters
 constexpr int LeastHeight = 7;  // lines
 
@@ -40,6 +40,33 @@ protected:
 private:
     GraphWidget& widget_;
     GraphWidget::DrawPart drawPart_;
+};
+
+// The titles of the axes, at the widget's edges: they stay there, however wide the labels are.
+class Titles final : public QCPLayerable {
+public:
+    explicit Titles(GraphWidget& widget) : QCPLayerable(&widget, "axes"), widget_(widget) {}
+
+protected:
+    QRect clipRect() const override { return widget_.viewport().translated(0, 1); }
+    void applyDefaultAntialiasingHint(QCPPainter*) const override {}
+    void draw(QCPPainter* painter) override {
+        const controls::GraphParts& parts = widget_.Record().Parts();
+        const QRect place = widget_.axisRect()->rect();
+        const QRect all = widget_.viewport().adjusted(0, Padding, 0, -Padding);
+        painter->setFont(widget_.font());
+        painter->setPen(PlotColour(PlotPart::Text));
+        painter->drawText(place.left(), all.top(), place.width(), all.height(),
+                          Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
+                          Shown(parts.xTitle));
+        painter->translate(Padding, place.center().y());
+        painter->rotate(-90);
+        painter->drawText(-place.height() / 2, 0, place.height(), all.width(),
+                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip, Shown(parts.yTitle));
+    }
+
+private:
+    GraphWidget& widget_;
 };
 
 QCPRange RangeOf(const Graph::Axis& axis) {
@@ -82,10 +109,14 @@ void GraphWidget::SetUpAxes() {
         axis->setTickLength(0, TickLength);
         axis->setSubTicks(false);
         axis->setTickLabelPadding(Padding);
-        axis->setLabelPadding(Padding);
     }
-    xAxis->setLabel(Shown(record_.Parts().xTitle));
-    yAxis->setLabel(Shown(record_.Parts().yTitle));
+    if (record_.Parts().stairs) {
+        // Numbers of things have no halves.
+        const QSharedPointer<QCPAxisTickerFixed> whole(new QCPAxisTickerFixed);
+        whole->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+        xAxis->setTicker(whole);
+    }
+    new Titles(*this);
 }
 
 void GraphWidget::ColourAxis(QCPAxis& axis) {
@@ -93,9 +124,7 @@ void GraphWidget::ColourAxis(QCPAxis& axis) {
     axis.setBasePen(text);
     axis.setTickPen(text);
     axis.setTickLabelColor(text);
-    axis.setLabelColor(text);
     axis.setTickLabelFont(font());
-    axis.setLabelFont(font());
     axis.grid()->setPen(PlotColour(PlotPart::Grid));
     axis.grid()->setZeroLinePen(PlotColour(PlotPart::Grid));
 }
@@ -108,14 +137,16 @@ void GraphWidget::UpdateLook() {
     update();
 }
 
-// Room for the widest usual labels, so that the graph doesn't move when they change.
+// Room for the titles and the widest usual labels, so that the graph doesn't move when they change.
+// A margin that the toolkit computes has no room for the titles, so it is never wanted.
 void GraphWidget::UpdateMargins() {
     const QFontMetrics metrics(font());
     const int title = metrics.height() + 2 * Padding;
+    const int ticks = TickLength + Padding;
     const int label = metrics.horizontalAdvance(WidestTick);
-    axisRect()->setMinimumMargins({title + label + TickLength + 2 * Padding,
-                                   metrics.height() / 2 + Padding, label / 2,
-                                   title + metrics.height() + TickLength + 2 * Padding});
+    axisRect()->setAutoMargins(QCP::msNone);
+    axisRect()->setMargins({title + label + ticks, metrics.height() / 2 + Padding, label / 2,
+                            title + metrics.height() + ticks});
 }
 
 PlotScale GraphWidget::Scale() const {
@@ -184,7 +215,7 @@ QSize GraphWidget::sizeHint() const {
 }
 
 QSize GraphWidget::minimumSizeHint() const {
-    const QMargins margins = axisRect()->minimumMargins();
+    const QMargins margins = axisRect()->margins();
     const QFontMetrics metrics(font());
     return {margins.left() + margins.right() + LeastWidth * metrics.averageCharWidth(),
             margins.top() + margins.bottom() + LeastHeight * metrics.lineSpacing()};
