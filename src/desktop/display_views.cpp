@@ -2,6 +2,7 @@
 #include "desktop/display_views.h"
 
 #include <QHBoxLayout>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "desktop/common.h"
@@ -17,6 +18,7 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int ZoomIcon = 18;  // logical pixels
+constexpr int CursorCharacters = 20;
 
 // A frame whose widgets are in sight on a dark background, too.
 QWidget* MakeRoom(QVBoxLayout*& column) {
@@ -43,6 +45,20 @@ QWidget* Captioned(QLabel* caption, QWidget* widget) {
     return Together({caption, widget});
 }
 
+// As wide as the longest entries, so that nothing moves when they change.
+QWidget* MakeCursorChoice(forms::ScopeDisp& form, WidgetMaker& maker) {
+    QComboBox* cursors = maker.Make(form.CursorSelect);
+    cursors->setFixedWidth(CursorCharacters * cursors->fontMetrics().averageCharWidth());
+    QLineEdit* position = maker.Make(form.CursorPosition);
+    SizeAsNumber(*position);
+    QLabel* unit = maker.Make(*form.CursorPosition.unitLabel);
+    unit->setMinimumWidth(unit->fontMetrics().horizontalAdvance("dBm"));
+    QWidget* choice = Captioned(maker.Make(*form.CursorSelect.captionLabel), cursors);
+    choice->layout()->addWidget(position);
+    choice->layout()->addWidget(unit);
+    return choice;
+}
+
 // The graph, and what is under the mouse.
 QVBoxLayout* MakeGraph(controls::Graph& graph, const controls::Label& pointed,
                        controls::MenuItem& entries, WidgetMaker& maker, QtDialogs& dialogs) {
@@ -66,13 +82,7 @@ QWidget* MakeTraceView(forms::ScopeDisp& form, WidgetMaker& maker, QtDialogs& di
     QPushButton* zoom = maker.Make(form.Scope_Zoom_Button);
     zoom->setIconSize({ZoomIcon, ZoomIcon});
     choices->addWidget(zoom);
-    QLineEdit* position = maker.Make(form.CursorPosition);
-    SizeAsNumber(*position);
-    QWidget* cursor =
-        Captioned(maker.Make(*form.CursorSelect.captionLabel), maker.Make(form.CursorSelect));
-    cursor->layout()->addWidget(position);
-    cursor->layout()->addWidget(maker.Make(*form.CursorPosition.unitLabel));
-    choices->addWidget(cursor);
+    choices->addWidget(MakeCursorChoice(form, maker));
     for (controls::CheckBox* box : {&form.ShowTSlotMarkers, &form.chkAddBoundingBox,
                                     &form.ShowPulse, &form.HoldMaximum, &form.HoldMinimum})
         choices->addWidget(maker.Make(*box));
@@ -87,7 +97,10 @@ QWidget* MakeTraceView(forms::ScopeDisp& form, WidgetMaker& maker, QtDialogs& di
     auto* readings = new QVBoxLayout(pulses);
     readings->setContentsMargins(0, 0, 0, 0);
     GridWidget* table = maker.Make(form.PulseReadings);
-    table->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    table->onNeed = [table] {
+        table->setFixedWidth(table->sizeHint().width() +
+                             table->verticalScrollBar()->sizeHint().width());
+    };
     readings->addWidget(table);
     rest->addWidget(pulses);
     column->addLayout(rest, 1);

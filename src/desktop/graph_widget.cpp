@@ -6,7 +6,7 @@
 
 #include "desktop/graph_keys.h"
 #include "desktop/plot_drawing.h"
-#include "desktop/plot_look.h"
+#include "desktop/plot_legend.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -42,7 +42,8 @@ private:
     GraphWidget::DrawPart drawPart_;
 };
 
-// The titles of the axes, at the widget's edges: they stay there, however wide the labels are.
+// The titles of the axes, at the widget's edges, where they stay however wide the labels are; and
+// the legend.
 class Titles final : public QCPLayerable {
 public:
     explicit Titles(GraphWidget& widget) : QCPLayerable(&widget, "axes"), widget_(widget) {}
@@ -59,6 +60,8 @@ protected:
         painter->drawText(place.left(), all.top(), place.width(), all.height(),
                           Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
                           Shown(parts.xTitle));
+        DrawLegend(*painter, LegendParts(widget_.Record()),
+                   {place.left(), all.top(), place.width(), place.top()});
         painter->translate(Padding, place.center().y());
         painter->rotate(-90);
         painter->drawText(-place.height() / 2, 0, place.height(), all.width(),
@@ -89,7 +92,7 @@ GraphWidget::GraphWidget(Graph& record) : record_(record) {
     removeLayer(layer("overlay"));
     compared_ = AddBuffer("compared", {DrawHeldCurves, DrawBox});
     cursors_ = AddBuffer("cursors", {DrawCursors});
-    curve_ = AddBuffer("curve", {DrawCurve, DrawCaptions, DrawLegend, DrawEmptyText});
+    curve_ = AddBuffer("curve", {DrawCurve, DrawCaptions, DrawEmptyText});
     SetUpAxes();
     UpdateLook();
 }
@@ -145,8 +148,10 @@ void GraphWidget::UpdateMargins() {
     const int ticks = TickLength + Padding;
     const int label = metrics.horizontalAdvance(WidestTick);
     axisRect()->setAutoMargins(QCP::msNone);
-    axisRect()->setMargins({title + label + ticks, metrics.height() / 2 + Padding, label / 2,
-                            title + metrics.height() + ticks});
+    const int left = title + label + ticks, right = label / 2;
+    const int above = LegendHeight(drawnLegend_, width() - left - right, metrics);
+    axisRect()->setMargins(
+        {left, above + metrics.height() / 2 + Padding, right, title + metrics.height() + ticks});
 }
 
 PlotScale GraphWidget::Scale() const {
@@ -164,17 +169,18 @@ void GraphWidget::TakeIn() {
     const Graph::ChangedParts changed = record_.TakeChangedParts();
     const bool cursors = CursorsChanged(changed);
     const bool empty = std::exchange(drawnEmptyText_, record_.emptyText.Get()) != drawnEmptyText_;
-    const bool compares = HasHeldCurves(record_) || record_.Box().has_value();
-    const bool compared = compared_->mode() == QCPLayer::lmBuffered;
-    if (compares != compared)
-        compared_->setMode(compares ? QCPLayer::lmBuffered : QCPLayer::lmLogical);
-    if (std::exchange(stale_, false) || changed.axes || compares != compared) {
+    const bool otherLegend = changed.held && Note(drawnLegend_, LegendParts(record_));
+    if (otherLegend) UpdateMargins();
+    const bool compares = !drawnLegend_.empty() || record_.Box().has_value();
+    const bool other = Note(compares_, compares);
+    if (other) compared_->setMode(compares ? QCPLayer::lmBuffered : QCPLayer::lmLogical);
+    if (std::exchange(stale_, false) || changed.axes || otherLegend || other) {
         xAxis->setRange(RangeOf(record_.ShownAxes().x));
         yAxis->setRange(RangeOf(record_.ShownAxes().y));
         replot(rpQueuedRefresh);
         return;
     }
-    if (compares && (changed.held || changed.box)) compared_->replot();
+    if (changed.held || changed.box) compared_->replot();
     if (cursors) cursors_->replot();
     if (changed.curve || changed.labels || empty) curve_->replot();
 }
@@ -190,6 +196,12 @@ void GraphWidget::paintEvent(QPaintEvent* event) {
         painter.setPen(QPen(PlotColour(PlotPart::Text), 1, Qt::DashLine));
         painter.drawRect(*rubber);
     }
+}
+
+// The legend may need another number of lines.
+void GraphWidget::resizeEvent(QResizeEvent* event) {
+    UpdateMargins();
+    QCustomPlot::resizeEvent(event);
 }
 
 void GraphWidget::changeEvent(QEvent* event) {

@@ -15,8 +15,6 @@ using controls::Graph;
 using controls::Held;
 
 constexpr Held AllHeld[] = {Held::Maximum, Held::Minimum, Held::Reference};
-constexpr double Sample = 28;  // logical pixels: length of a line in the legend
-constexpr double Gap = 6;
 constexpr int ShineThrough =
     200;  // of 255: how little of the lines is seen through a text's ground
 
@@ -97,19 +95,6 @@ void DrawTextGround(QCPPainter& painter, const QRectF& place) {
     painter.fillRect(place, ground);
 }
 
-const char* NameOf(PlotPart part) {
-    switch (part) {
-        case PlotPart::Maximum:
-            return "Maximum";
-        case PlotPart::Minimum:
-            return "Minimum";
-        case PlotPart::Reference:
-            return "Reference";
-        default:
-            return "Now";
-    }
-}
-
 }  // namespace
 
 void DrawCurve(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
@@ -124,11 +109,6 @@ void DrawHeldCurves(QCPPainter& painter, const PlotScale& scale, const Graph& gr
         painter.setPen(PlotPen(PartOf(which)));
         DrawPlot(painter, scale, graph.HeldCurve(which), graph.Parts().stairs);
     }
-}
-
-bool HasHeldCurves(const Graph& graph) {
-    return std::any_of(std::begin(AllHeld), std::end(AllHeld),
-                       [&](Held which) { return !graph.HeldCurve(which).values.empty(); });
 }
 
 void DrawBox(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
@@ -159,39 +139,13 @@ void DrawCaptions(QCPPainter& painter, const PlotScale& scale, const Graph& grap
     }
 }
 
-void DrawLegend(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
-    if (!HasHeldCurves(graph)) return;
-    std::vector<PlotPart> parts{PlotPart::Curve};
-    for (const Held which : AllHeld)
-        if (!graph.HeldCurve(which).values.empty()) parts.push_back(PartOf(which));
-    const QFontMetricsF metrics(painter.font());
-    double widest = 0;
-    for (const PlotPart part : parts)
-        widest = std::max(widest, metrics.horizontalAdvance(NameOf(part)));
-    const double line = metrics.height();
-    // Below the captions.
-    QRectF place({}, QSizeF(Sample + widest + 3 * Gap, static_cast<double>(parts.size()) * line));
-    place.moveTopRight(scale.Place().topRight() + QPointF(-Gap, line + Gap));
-    DrawTextGround(painter, place);
-    painter.setAntialiasing(false);
-    double top = place.top();
-    for (const PlotPart part : parts) {
-        painter.setPen(PlotPen(part));
-        const double middle = Sharp(top + line / 2);
-        const double start = Sharp(place.left() + Gap);
-        painter.drawLine(QLineF(start, middle, start + Sample, middle));
-        painter.setPen(PlotColour(PlotPart::Text));
-        painter.drawText(QRectF(start + Sample + Gap, top, widest + Gap, line),
-                         Qt::AlignVCenter | Qt::AlignLeft, NameOf(part));
-        top += line;
-    }
-}
-
 void DrawEmptyText(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
     if (!graph.Curve().values.empty() || graph.emptyText->empty()) return;
+    constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    const QString text = Shown(graph.emptyText.Get());
+    DrawTextGround(painter, painter.boundingRect(scale.Place(), flags, text));
     painter.setPen(PlotColour(PlotPart::Text));
-    painter.drawText(scale.Place(), Qt::AlignCenter | Qt::TextWordWrap,
-                     Shown(graph.emptyText.Get()));
+    painter.drawText(scale.Place(), flags, text);
 }
 
 }  // namespace kelvra::desktop

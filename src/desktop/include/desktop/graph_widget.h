@@ -8,8 +8,10 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "desktop/graph_mouse.h"
+#include "desktop/plot_look.h"
 #include "desktop/plot_scale.h"
 
 namespace kelvra::desktop {
@@ -35,6 +37,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override { mouse_.Press(*event); }
     void mouseMoveEvent(QMouseEvent* event) override { mouse_.Move(*event); }
@@ -61,6 +64,8 @@ private:
     int drawnCursors_ = 0;
     int drawnChosen_ = -1;
     std::string drawnEmptyText_;
+    std::vector<PlotPart> drawnLegend_;
+    bool compares_ = true;  // there are held curves, or the box
 };
 
 }  // namespace kelvra::desktop

@@ -14,11 +14,7 @@ void DrawBox(QCPPainter& painter, const PlotScale& scale, const controls::Graph&
 // The chosen one is thicker, and in front of the others.
 void DrawCursors(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
 void DrawCaptions(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
-// What the lines are, if there are several curves.
-void DrawLegend(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
 // What a graph without a curve waits for.
 void DrawEmptyText(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
-
-bool HasHeldCurves(const controls::Graph& graph);
 
 }  // namespace kelvra::desktop
