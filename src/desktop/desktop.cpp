@@ -19,7 +19,9 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
       main_(kelvra.forms.mdiMain, mirror_),
       results_(kelvra.forms.statusForm, mirror_, main_.Area()),
       view_(preferences_, {main_.Widget(), main_.WindowMenu(), results_, main_.Formulas(),
-                           [this] { Recolour(); }}) {
+                           [this] { Recolour(); }}),
+      displays_({kelvra.forms, mirror_, main_.Area(), dialogs, preferences_,
+                 [this](bool beside, bool below) { results_.LeaveRoom(beside, below); }}) {
     GiveResultMenu(results_.Table(), kelvra.forms.mdiMain.Show_Settings);
     GiveFormulaMenu(main_.Formulas(), kelvra.forms.mdiMain.EditUndo);
     if (const QRect place = preferences_.Place(ResultWindow); place.isValid())
@@ -63,6 +65,7 @@ void Desktop::AddDialog(controls::Window& record,
 }
 
 void Desktop::KeepLook() {
+    displays_.KeepPlaces();
     for (const auto& dialog : dialogs_)
         preferences_.SetPlace(Shown(dialog->Record().Name()), dialog->Place());
     preferences_.SetFrame(main_.Widget().Geometry());

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int ChildFrame = 4;  // logical pixels; wide enough to drag
 constexpr int SliderGap = 2;
+constexpr int CrossArm = 4;
 constexpr int Rounding = 2;
 constexpr int TitleGap = 3;  // between a group's title and its frame
 
@@ -39,6 +40,19 @@ void DrawOutline(QStyle::PrimitiveElement element, const QStyleOption& option, Q
         painter.drawEllipse(rim);
     else
         painter.drawRoundedRect(rim, Rounding, Rounding);
+    painter.restore();
+}
+
+// A cross in the painter's colour, on a ground while the mouse is on it.
+void DrawClose(const QRect& place, bool active, QPainter& painter) {
+    if (active) painter.fillRect(place, QApplication::palette().color(QPalette::Mid));
+    const QRectF cross = QRectF(place.center() + QPointF(0.5, 0.5), QSizeF()) +
+                         QMarginsF(CrossArm, CrossArm, CrossArm, CrossArm);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(painter.pen().color(), 1.5));
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
     painter.restore();
 }
 
@@ -82,6 +96,7 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+// The sign of the window's menu, the title, and the sign that closes the window.
 void ProgramStyle::DrawTitle(const QStyleOptionTitleBar& bar, QPainter& painter) const {
     const QPalette palette = QApplication::palette();
     painter.fillRect(bar.rect, palette.color(QPalette::Window));
@@ -89,8 +104,16 @@ void ProgramStyle::DrawTitle(const QStyleOptionTitleBar& bar, QPainter& painter)
     painter.drawLine(bar.rect.topLeft(), bar.rect.topRight());
     painter.drawLine(bar.rect.topLeft(), bar.rect.bottomLeft());
     painter.drawLine(bar.rect.topRight(), bar.rect.bottomRight());
-    const QRect place = bar.rect.adjusted(2 * ChildFrame, 0, -2 * ChildFrame, 0);
+    QRect place = bar.rect.adjusted(2 * ChildFrame, 0, -2 * ChildFrame, 0);
     painter.setPen(palette.color(QPalette::WindowText));
+    if ((bar.titleBarFlags & Qt::WindowSystemMenuHint) != 0) {
+        const QRect menu = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, nullptr);
+        const QRect close = subControlRect(CC_TitleBar, &bar, SC_TitleBarCloseButton, nullptr);
+        bar.icon.paint(&painter, menu);
+        DrawClose(close, (bar.activeSubControls & SC_TitleBarCloseButton) != 0, painter);
+        place.setLeft(menu.right() + 2 * ChildFrame);
+        place.setRight(close.left() - ChildFrame);
+    }
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                      bar.fontMetrics.elidedText(bar.text, Qt::ElideMiddle, place.width()));
 }

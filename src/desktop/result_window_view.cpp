@@ -36,7 +36,7 @@ ResultWindowView::ResultWindowView(forms::StatusForm& form, Mirror& mirror, QMdi
     table_->onNeed = [this] { FitWindow(); };
     window_->onRoom = [this] {
         if (table_->Fitted())
-            window_->FillArea();
+            Fill();
         else
             FitWindow();
     };
@@ -53,6 +53,21 @@ void ResultWindowView::SetFitted(bool fitted) {
     table_->SetFitted(fitted);
 }
 
+void ResultWindowView::LeaveRoom(bool beside, bool below) {
+    if (beside == beside_ && below == below_) return;
+    beside_ = beside;
+    below_ = below;
+    FitWindow();
+}
+
+// The other windows' places begin where the record's ends.
+void ResultWindowView::Fill() {
+    const controls::Geometry& place = form_.place.Get();
+    constexpr int whole = QWIDGETSIZE_MAX;
+    window_->FillArea({beside_ || below_ ? Pixels(place.left + place.width) : whole,
+                       below_ ? Pixels(place.top + place.height) : whole});
+}
+
 // Fitted, the window takes the whole area. Else it shows all columns and rows, as far as the area
 // has room, unless the user has chosen another size. Deferred and done once: a table that is being
 // filled asks often, and knows its sizes only after its layout.
@@ -61,7 +76,7 @@ void ResultWindowView::FitWindow() {
     fitting_ = true;
     QTimer::singleShot(0, window_, [this] {
         fitting_ = false;
-        if (table_->Fitted()) return window_->FillArea();
+        if (table_->Fitted()) return Fill();
         const controls::Geometry& place = form_.place.Get();
         const QSize wanted(Pixels(place.width), Pixels(place.height));
         if (window_->SizedByPerson()) return window_->ResizeInside(wanted);

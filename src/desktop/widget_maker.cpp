@@ -10,6 +10,7 @@
 #include "controls/visit.h"
 #include "desktop/common.h"
 #include "desktop/entry_adapters.h"
+#include "desktop/graph_adapter.h"
 #include "desktop/grid_adapter.h"
 #include "desktop/page_button.h"
 #include "desktop/qt_text.h"
@@ -114,6 +115,10 @@ QListWidget* WidgetMaker::MakeListBox(controls::List& list) {
 
 GridWidget* WidgetMaker::Make(controls::Grid& grid) {
     return Mirrored<GridAdapter>(grid, new GridWidget(grid));
+}
+
+GraphWidget* WidgetMaker::Make(controls::Graph& graph) {
+    return Mirrored<GraphAdapter>(graph, new GraphWidget(graph));
 }
 
 QLabel* WidgetMaker::Make(const controls::Picture& picture, int side) {

@@ -79,6 +79,13 @@ ChildWindow::ChildWindow(controls::Window& window, QMdiArea& area) : window_(win
     area.viewport()->installEventFilter(this);
 }
 
+void ChildWindow::FollowPlace() {
+    if (PlacedByPerson()) return ResizeInside(size());
+    const controls::Geometry& place = window_.place.Get();
+    move(Pixels(place.left), Pixels(place.top));
+    ResizeInside(SizeOf(place));
+}
+
 QSize ChildWindow::Room() const {
     return area_.viewport()->size() - QSize(x(), y());
 }
@@ -108,8 +115,8 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     window_.PersonCloses();
 }
 
-void ChildWindow::FillArea() {
-    setGeometry(area_.viewport()->rect());
+void ChildWindow::FillArea(const QSize& most) {
+    setGeometry({{}, area_.viewport()->size().boundedTo(most)});
 }
 
 void ChildWindow::PlaceAsBefore(const QRect& place) {

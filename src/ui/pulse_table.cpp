@@ -64,6 +64,8 @@ PulseTable::PulseTable(forms::ScopeDisp& form, const util::NumberForm& numbers)
     heading.bold = true;
     grid.SetCell(0, NameColumn, "Reading", heading);
     grid.SetCell(0, ValueColumn, "Value", heading);
+    grid.SetSample(NameColumn, "Duty cycle");
+    grid.SetSample(ValueColumn, "-000.00 dBm");
     for (int row = 1; const Row& each : Rows) {
         grid.SetCell(row, NameColumn, each.name, {});
         grid.SetCellTooltip(row++, NameColumn, each.tooltip);

@@ -9,6 +9,7 @@
 
 #include "app/kelvra.h"
 #include "desktop/dialog_window.h"
+#include "desktop/display_window.h"
 #include "desktop/main_window_view.h"
 #include "desktop/mirror.h"
 #include "desktop/preferences.h"
@@ -45,6 +46,7 @@ private:
     MainWindowView main_;
     ResultWindowView results_;
     ViewMenu view_;
+    DisplayWindows displays_;
     std::vector<std::unique_ptr<DialogWindow>> dialogs_;
 };
 

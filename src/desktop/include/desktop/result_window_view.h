@@ -20,14 +20,19 @@ public:
 
     // Fills the area with the readings, in the largest font with which all are in sight.
     void SetFitted(bool fitted);
+    // Then, as much of the area as other windows beside and below leave.
+    void LeaveRoom(bool beside, bool below);
 
 private:
     void FitWindow();
+    void Fill();
 
     forms::StatusForm& form_;
     ChildWindow* window_;  // owned by the area
     GridWidget* table_ = nullptr;
     bool fitting_ = false;
+    bool beside_ = false;
+    bool below_ = false;
 };
 
 }  // namespace kelvra::desktop

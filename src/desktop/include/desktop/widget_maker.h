@@ -18,10 +18,13 @@
 #include <QPushButton>
 
 #include "controls/field.h"
+#include "controls/graph.h"
 #include "desktop/grid_widget.h"
 #include "desktop/mirror.h"
 
 namespace kelvra::desktop {
+
+class GraphWidget;
 
 // How the options of a group are shown: as radio buttons, or as buttons that choose a page.
 enum class OptionLook { Row, Pages };
@@ -44,6 +47,7 @@ public:
     QComboBox* Make(controls::List& list);
     QListWidget* MakeListBox(controls::List& list);  // all entries in sight
     GridWidget* Make(controls::Grid& grid);
+    GraphWidget* Make(controls::Graph& graph);
     QLabel* Make(const controls::Picture& picture, int side = ToolIcon);
     QFrame* Make(const controls::Frame& frame);
     QGroupBox* MakeGroup(const controls::Frame& frame);  // with its caption

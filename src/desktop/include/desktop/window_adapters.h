@@ -60,12 +60,16 @@ public:
     // Adds itself to the area.
     ChildWindow(controls::Window& window, QMdiArea& area);
 
+    const controls::Window& Record() const { return window_; }
+
+    // Goes where the record says, or stays where the user has put it, inside the area.
+    void FollowPlace();
     // Limited by the room in the area and by the window's smallest size.
     void ResizeInside(const QSize& wanted);
     // The room in the area from the window's corner on.
     QSize Room() const;
     std::function<void()> onRoom;  // the area's size has changed
-    void FillArea();
+    void FillArea(const QSize& most);
     // Sizes and places that the user has given.
     bool SizedByPerson() const { return sizedByPerson_; }
     bool PlacedByPerson() const { return sizedByPerson_ || movedByPerson_; }

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/display_views.h"
+
+#include <QHBoxLayout>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "desktop/common.h"
+#include "desktop/elided_label.h"
+#include "desktop/flow_layout.h"
+#include "desktop/focus_ring.h"
+#include "desktop/form_rows.h"
+#include "desktop/graph_menu.h"
+#include "desktop/graph_widget.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+constexpr int ZoomIcon = 18;  // logical pixels
+constexpr int CursorCharacters = 20;
+
+// A frame whose widgets are in sight on a dark background, too.
+QWidget* MakeRoom(QVBoxLayout*& column) {
+    auto* all = new QWidget;
+    column = new QVBoxLayout(all);
+    column->setContentsMargins(Margin, Margin / 2, Margin, Margin / 2);
+    column->setSpacing(Margin / 2);
+    new FocusRing(all);
+    return all;
+}
+
+// Widgets that belong together and stay on one line.
+QWidget* Together(std::initializer_list<QWidget*> widgets) {
+    auto* group = new QWidget;
+    auto* row = new QHBoxLayout(group);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Margin / 2);
+    for (QWidget* widget : widgets) row->addWidget(widget);
+    return group;
+}
+
+QWidget* Captioned(QLabel* caption, QWidget* widget) {
+    caption->setBuddy(widget);
+    return Together({caption, widget});
+}
+
+// As wide as the longest entries, so that nothing moves when they change.
+QWidget* MakeCursorChoice(forms::ScopeDisp& form, WidgetMaker& maker) {
+    QComboBox* cursors = maker.Make(form.CursorSelect);
+    cursors->setFixedWidth(CursorCharacters * cursors->fontMetrics().averageCharWidth());
+    QLineEdit* position = maker.Make(form.CursorPosition);
+    SizeAsNumber(*position);
+    QLabel* unit = maker.Make(*form.CursorPosition.unitLabel);
+    unit->setMinimumWidth(unit->fontMetrics().horizontalAdvance("dBm"));
+    QWidget* choice = Captioned(maker.Make(*form.CursorSelect.captionLabel), cursors);
+    choice->layout()->addWidget(position);
+    choice->layout()->addWidget(unit);
+    return choice;
+}
+
+// The graph, and what is under the mouse.
+QVBoxLayout* MakeGraph(controls::Graph& graph, const controls::Label& pointed,
+                       controls::MenuItem& entries, WidgetMaker& maker, QtDialogs& dialogs) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    GraphWidget* widget = maker.Make(graph);
+    GiveGraphMenu(*widget, entries, dialogs);
+    column->addWidget(widget, 1);
+    column->addSpacing(Margin / 2);
+    column->addWidget(maker.Make(pointed, new ElidedLabel(1)));
+    return column;
+}
+
+}  // namespace
+
+QWidget* MakeTraceView(forms::ScopeDisp& form, WidgetMaker& maker, QtDialogs& dialogs) {
+    QVBoxLayout* column = nullptr;
+    QWidget* all = MakeRoom(column);
+    auto* choices = new FlowLayout(2 * Margin, Margin / 2);
+    choices->addWidget(Captioned(maker.Make(form.lblSensor), maker.Make(form.Scope_Sensorselect)));
+    QPushButton* zoom = maker.Make(form.Scope_Zoom_Button);
+    zoom->setIconSize({ZoomIcon, ZoomIcon});
+    choices->addWidget(zoom);
+    choices->addWidget(MakeCursorChoice(form, maker));
+    for (controls::CheckBox* box : {&form.ShowTSlotMarkers, &form.chkAddBoundingBox,
+                                    &form.ShowPulse, &form.HoldMaximum, &form.HoldMinimum})
+        choices->addWidget(maker.Make(*box));
+    for (controls::Button* button : {&form.KeepReference, &form.DropReference})
+        choices->addWidget(maker.Make(*button));
+    column->addLayout(choices);
+
+    auto* rest = new QHBoxLayout;
+    rest->setSpacing(Margin);
+    rest->addLayout(MakeGraph(form.Display, form.lblPointed, form.TraceMenu, maker, dialogs), 1);
+    QFrame* pulses = maker.Make(form.PulseFrame);
+    auto* readings = new QVBoxLayout(pulses);
+    readings->setContentsMargins(0, 0, 0, 0);
+    GridWidget* table = maker.Make(form.PulseReadings);
+    table->onNeed = [table] {
+        table->setFixedWidth(table->sizeHint().width() +
+                             table->verticalScrollBar()->sizeHint().width());
+    };
+    readings->addWidget(table);
+    rest->addWidget(pulses);
+    column->addLayout(rest, 1);
+    return all;
+}
+
+QWidget* MakeSlotView(forms::TimeSlotDisp& form, WidgetMaker& maker, QtDialogs& dialogs) {
+    QVBoxLayout* column = nullptr;
+    QWidget* all = MakeRoom(column);
+    auto* choices = new QHBoxLayout;
+    choices->addWidget(
+        Captioned(maker.Make(form.lblSensor), maker.Make(form.Timeslot_Sensorselect)));
+    choices->addStretch();
+    column->addLayout(choices);
+    column->addLayout(MakeGraph(form.Display, form.lblPointed, form.SlotMenu, maker, dialogs), 1);
+    return all;
+}
+
+QWidget* MakeSlotTableView(forms::TimeSlotTabForm& form, WidgetMaker& maker) {
+    QVBoxLayout* outer = nullptr;
+    QWidget* all = MakeRoom(outer);
+    QFrame* frame = maker.Make(form.MainFrame);
+    outer->addWidget(frame);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Margin / 2);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(Margin / 2);
+    head->addWidget(maker.Make(form.lblNumberOfSamples));
+    head->addWidget(maker.Make(form.NumberOfSamples));
+    head->addStretch();
+    head->addWidget(maker.Make(form.ResetStat));
+    column->addLayout(head);
+    column->addWidget(maker.Make(form.TimeSlots), 1);
+    return all;
+}
+
+}  // namespace kelvra::desktop
