@@ -120,13 +120,13 @@ void SetupDialog::CurrentSensorChanged() {
     // By the scales of the sensor before: the display that they belong to shows this sensor now.
     if (TraceScaleShown()) p_.displays.Select(sensors::Trace, p_.table.currentSensor);
     if (TimeSlotScaleShown()) p_.displays.Select(sensors::TimeSlot, p_.table.currentSensor);
+    if (!same) p_.edits.EndStep();
     ShowCurrent(same ? Typing::Stays : Typing::IsReplaced);
 }
 
 void SetupDialog::ShowCurrent(Typing typing) {
     SensorEntry* entry = Current();
     if (entry == nullptr) return;
-    if (typing == Typing::IsReplaced) p_.edits.EndStep();
     {
         const Filling filling(filling_);
         shownFor_ = entry->resourceName;
