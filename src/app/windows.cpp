@@ -31,7 +31,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
           {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
       traceDisplay({forms, table, edits, setupDialog, selection, host}),
       slotDisplay({forms, table, edits, setupDialog, selection, host}),
-      slotTable(forms, table, selection, host.computer),
+      slotTable(forms, table, edits, selection, host.computer),
+      displayData(forms, table, notice, host),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {
     ui::ConnectHelp(forms.timeForm, host);

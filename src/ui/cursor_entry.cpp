@@ -77,7 +77,7 @@ void CursorEntry::ShowPosition() {
     form_.CursorPosition.unitLabel->caption = unit;
     if (form_.CursorPosition.Edited()) return;
     const double shown = std::nearbyint(Position() * Decimals) / Decimals;
-    form_.CursorPosition.SetText(util::TrimmedNumberText(shown));
+    form_.CursorPosition.SetText(util::GeneralText(shown, {}));
     form_.CursorPosition.fault = std::string();
 }
 

@@ -2,9 +2,7 @@
 #include "ui/info_window.h"
 
 #include <algorithm>
-#include <filesystem>
 
-#include "platform/file_tools.h"
 #include "util/text.h"
 
 namespace kelvra::ui {
@@ -23,7 +21,7 @@ std::string InOneLine(std::string text) {
 }  // namespace
 
 InfoWindow::InfoWindow(forms::Forms& forms, Notice& notice, platform::Host& host)
-    : form_(forms.sensInfoForm), dialog_(forms.setupForm), notice_(notice), host_(host) {
+    : form_(forms.sensInfoForm), dialog_(forms.setupForm), host_(host), saver_(notice, host) {
     form_.InfoHeader.click.Connect([this] { form_.InfoValue.SetIndex(form_.InfoHeader.Index()); });
     form_.cmdInfoCopy.click.Connect([this] { Copy(); });
     form_.cmdInfoSave.click.Connect([this] { Save(); });
@@ -58,28 +56,9 @@ void InfoWindow::Copy() {
     host_.dialogs.CopyText(Lines("\t", "\n"));
 }
 
-// What is shown now is saved, even if the window shows another sensor by the time of the answer.
 void InfoWindow::Save() {
-    platform::FileQuestion question;
-    question.title = "Save sensor information";
-    question.filter = "Text Files (*.txt)|*.txt|All files (*.*)|*.*";
-    question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), "SensorInfo.txt");
-    question.about = sensor_;
-    question.save = true;
-    host_.dialogs.AskFile(question, [this, sensor = sensor_, text = Lines(": ", "\r\n")](
-                                        const std::optional<std::string>& path) {
-        if (path && !path->empty()) Write(*path, sensor, text);
-    });
-}
-
-void InfoWindow::Write(const std::string& path, const std::string& sensor,
-                       const std::string& text) {
-    if (const auto error = platform::ReplaceFile(host_.files, path, text))
-        return host_.dialogs.Message(
-            {}, "The information could not be saved.\r\n" + path + "\r\n" + error.message(),
-            platform::MessageIcon::Exclamation);
-    notice_.ShowDone("Information of " + sensor + " saved to " +
-                     std::filesystem::path(path).filename().string());
+    saver_.Save({"Information of ", sensor_, Lines(": ", "\r\n"), "Save sensor information",
+                 "Text Files (*.txt)|*.txt", "SensorInfo.txt"});
 }
 
 }  // namespace kelvra::ui

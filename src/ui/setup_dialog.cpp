@@ -96,7 +96,7 @@ void SetupDialog::ConnectScales() {
         box.change.Connect([this, &row] { StoreLimit(row); });
         box.commit.Connect([this, &row, &box] {
             const Filling filling(filling_);
-            if (box.fault->empty()) box.SetText(util::TrimmedNumberText(Scaling().*row.limit));
+            if (box.fault->empty()) box.SetText(util::GeneralText(Scaling().*row.limit, {}));
         });
     }
     for (controls::CheckBox* box : {&p_.form.chkAutoScaleScope, &p_.form.chkAutoScaleTime})

@@ -19,8 +19,8 @@ constexpr controls::Grid::Look Plain{};
 
 }  // namespace
 
-SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SensorSelection& selection,
-                     platform::Computer& computer)
+SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsEdits& edits,
+                     SensorSelection& selection, platform::Computer& computer)
     : form_(forms.timeSlotTabForm),
       sensors_(forms.timeSlotDisp.Timeslot_Sensorselect),
       table_(table),
@@ -35,6 +35,7 @@ SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SensorSel
         ++column;
     }
     selection.listeners.Add(*this);
+    edits.listeners.Add(*this);
     forms.timeSlotDisp.Timeslot_Sensorselect.click.Connect([this] { Refresh(); });
     forms.mdiMain.resize.Connect([this] { Refresh(); });  // which can show the window again
     form_.ResetStat.click.Connect([this] { Reset(); });
@@ -49,6 +50,10 @@ int SlotTable::Slot() const {
 
 void SlotTable::ArrayArrived(int slot) {
     if (slot == Slot()) Refresh();
+}
+
+void SlotTable::SettingsEdited(int slot, const sensors::SensorSettings& before) {
+    if (slot == Slot() && before.TSlotCount != table_[slot].settings.TSlotCount) Refresh();
 }
 
 void SlotTable::Refresh() {
@@ -66,20 +71,24 @@ void SlotTable::Write(const sensors::SensorEntry& entry) {
     form_.NumberOfSamples.caption = util::TrimmedNumberText(sensors::ReadingRing::Length);
 }
 
-// Statistics come with the last reading of the first full ring.
+// A slot without a reading is empty. Statistics come with the last reading of the first full ring.
 void SlotTable::WriteRow(int row, const sensors::ReadingRing& ring) {
     const auto statistics = ring.Statistics().value_or(sensors::LevelStatistics{});
-    const double values[] = {ring.Index() < 0 ? 0 : ring.LastLevel(), statistics.max,
-                             statistics.min, statistics.mean, statistics.sigma};
     form_.TimeSlots.SetCell(row, 0, util::CountFigure(row, numbers_), Plain);
+    if (ring.Index() < 0) return ClearRow(row);
+    const double values[] = {ring.LastLevel(), statistics.max, statistics.min, statistics.mean,
+                             statistics.sigma};
     for (int column = 1; const double value : values)
         form_.TimeSlots.SetCell(row, column++, util::FixedFigure(value, numbers_), Plain);
 }
 
+void SlotTable::ClearRow(int row) {
+    for (int column = 1; column < form_.TimeSlots.Columns(); ++column)
+        form_.TimeSlots.SetCell(row, column, "", Plain);
+}
+
 void SlotTable::Clear() {
-    for (int row = 1; row < form_.TimeSlots.Rows(); ++row)
-        for (int column = 1; column < form_.TimeSlots.Columns(); ++column)
-            form_.TimeSlots.SetCell(row, column, "", Plain);
+    for (int row = 1; row < form_.TimeSlots.Rows(); ++row) ClearRow(row);
     form_.NumberOfSamples.caption = "0";
 }
 

@@ -309,7 +309,7 @@ TEST(SensorCommands, InformationIsShownCopiedAndSaved) {
     EXPECT_EQ(k.folder.Get("info.txt"), "Type: PS-101\r\nMade: \r\nLimits: -60:20\r\n");
     EXPECT_EQ(k.Notice(), "Information of sensor 2 (B) saved to info.txt");
     answer(k.folder.Path("no folder/info.txt"));
-    EXPECT_TRUE(k.Messages().starts_with("The information could not be saved.\r\n"));
+    EXPECT_TRUE(k.Messages().starts_with("The file could not be saved.\r\n"));
 }
 
 }  // namespace kelvra::measure

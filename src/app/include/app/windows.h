@@ -13,6 +13,7 @@
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
+#include "ui/display_data.h"
 #include "ui/display_lists.h"
 #include "ui/edit_history.h"
 #include "ui/edit_menu.h"
@@ -66,6 +67,7 @@ struct Windows {
     ui::TraceDisplay traceDisplay;
     ui::SlotDisplay slotDisplay;
     ui::SlotTable slotTable;
+    ui::DisplayData displayData;
     ui::SettingsCopy settingsCopy;
     ui::SensorCommands sensorCommands;
 

@@ -63,7 +63,7 @@ struct TimeSlotDisp : Window {
 
     Label lblSensor{*this, "lblSensor", "Sensor"};
     List Timeslot_Sensorselect{*this, "Timeslot_Sensorselect", {}, -1, {.name = "Sensor"}};
-    Label lblPointed{*this, "lblPointed"};  // the slot under the mouse
+    Label lblPointed{*this, "lblSlotPointed"};  // the slot under the mouse
     Graph Display{*this,
                   "Display",
                   {.xTitle = "Time slot",

@@ -9,7 +9,7 @@
 #include "forms/forms.h"
 #include "measure/command_listener.h"
 #include "platform/host.h"
-#include "ui/notice.h"
+#include "ui/text_saver.h"
 
 namespace kelvra::ui {
 
@@ -23,14 +23,13 @@ public:
 private:
     void Copy();
     void Save();
-    void Write(const std::string& path, const std::string& sensor, const std::string& text);
     // A line for each entry.
     std::string Lines(const char* separator, const char* lineEnd) const;
 
     forms::SensInfoForm& form_;
     const controls::Window& dialog_;
-    Notice& notice_;
     platform::Host& host_;
+    TextSaver saver_;
     std::string sensor_;
     std::vector<measure::InfoEntry> entries_;  // as shown
 };

@@ -9,15 +9,17 @@
 #include "platform/computer.h"
 #include "sensors/sensor_table.h"
 #include "ui/sensor_selection.h"
+#include "ui/settings_edits.h"
 
 namespace kelvra::ui {
 
 class SlotTable final : public measure::MeasurementListener,
                         public measure::SlotListener,
-                        public CurrentSensorListener {
+                        public CurrentSensorListener,
+                        public SettingsListener {
 public:
-    SlotTable(forms::Forms& forms, sensors::SensorTable& table, SensorSelection& selection,
-              platform::Computer& computer);
+    SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsEdits& edits,
+              SensorSelection& selection, platform::Computer& computer);
 
     void ModesChanged() override { Refresh(); }
     void SlotStarted(int /*slot*/) override {}
@@ -26,12 +28,15 @@ public:
     void ArrayArrived(int slot) override;
     void CurrentSensorChanged() override { Refresh(); }
     void ListedChanged() override { Refresh(); }
+    // Another number of slots begins their statistics anew.
+    void SettingsEdited(int slot, const sensors::SensorSettings& before) override;
 
 private:
     int Slot() const;  // -1: none
     void Refresh();
     void Write(const sensors::SensorEntry& entry);
     void WriteRow(int row, const sensors::ReadingRing& ring);
+    void ClearRow(int row);
     void Clear();
     void Reset();
 
