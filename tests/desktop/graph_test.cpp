@@ -272,7 +272,7 @@ private slots:
         QCOMPARE(SavePicture(*widget_, path + "/a.png"), "");
         QCOMPARE(QImage(folder.filePath("a.png")).size(), widget_->size());
         QCOMPARE(SavePicture(*widget_, path + "/a.SVG"), "");
-        QCOMPARE(QSvgRenderer(folder.filePath("a.SVG")).defaultSize(), widget_->size());
+        QCOMPARE(QSvgRenderer(folder.filePath("a.SVG")).viewBox().size(), widget_->size());
         QVERIFY(!SavePicture(*widget_, path + "/none/a.png").empty());
     }
 };
