@@ -23,7 +23,7 @@ void AskAndSave(GraphWidget& graph, const std::string& name, QtDialogs& dialogs)
         if (!path || still == nullptr) return;
         const std::string reason = SavePicture(*still, *path);
         if (!reason.empty())
-            dialogs.Message({}, "The picture could not be saved.\r\n" + *path + "\r\n" + reason,
+            dialogs.Message({}, "The file could not be saved.\r\n" + *path + "\r\n" + reason,
                             platform::MessageIcon::Exclamation);
     });
 }
