@@ -180,9 +180,11 @@ private slots:
             {Qt::Key_PageDown, Qt::NoModifier, 1, ""},
             {Qt::Key_Right, Qt::ShiftModifier, 1, "nudge 10"},
             {Qt::Key_PageDown, Qt::NoModifier, 2, ""},
-            {Qt::Key_PageDown, Qt::NoModifier, 2, ""},  // the last one is hidden
-            {Qt::Key_PageUp, Qt::NoModifier, 1, ""},
+            {Qt::Key_PageDown, Qt::NoModifier, 4, ""},  // one between is hidden
+            {Qt::Key_PageDown, Qt::NoModifier, 4, ""},
+            {Qt::Key_PageUp, Qt::NoModifier, 2, ""},
         };
+        graph_->AddCursor({false, 9});
         for (const auto& c : cases) {
             events_.clear();
             QTest::keyClick(widget_.get(), c.key, c.with);
@@ -207,7 +209,6 @@ private slots:
         }
     }
 
-    // Lit pixels of the curve's colour in the columns of a value and of a gap.
     void AnyNumberOfValuesIsDrawnWithGapsWhereThereIsNone() {
         constexpr double none = std::numeric_limits<double>::quiet_NaN();
         constexpr double endless = std::numeric_limits<double>::infinity();
@@ -231,15 +232,17 @@ private slots:
             graph_->SetCurve({0, 10 / count, c.values});
             Paint();
             const QImage picture = widget_->grab().toImage();
-            const QColor curve = PlotColour(PlotPart::Curve);
-            const auto lit = [&](double x) {
-                for (int y = -1; y <= 1; ++y)
-                    if (picture.pixelColor(At(x, -40) + QPoint(0, y)).green() > curve.green() / 2)
-                        return true;
+            const auto lit = [&](const QPoint& at) {
+                const int half = PlotColour(PlotPart::Curve).green() / 2;
+                for (const int y : {-1, 0, 1})
+                    if (picture.pixelColor(at + QPoint(0, y)).green() > half) return true;
                 return false;
             };
-            QCOMPARE(lit(2.5), c.lit);
-            QCOMPARE(!lit(5.2), c.gap);
+            QCOMPARE(lit(At(2.5, -40)), c.lit);
+            QCOMPARE(!lit(At(5.2, -40)), c.gap);
+            for (int x = 1; x < widget_->axisRect()->width() - 1; ++x)
+                QVERIFY(
+                    !lit({widget_->axisRect()->left() + x, At(0, -25).y()}));  // no line up there
         }
     }
 
