@@ -21,6 +21,7 @@ void Draw(GraphWidget& graph, QBuffer& file) {
     graph.TakeIn();
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
+    generator.setResolution(graph.logicalDpiX());  // a unit is a pixel
     generator.setSize(graph.size());
     generator.setViewBox(QRect({}, graph.size()));
     generator.setTitle(graph.accessibleName());

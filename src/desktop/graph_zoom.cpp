@@ -11,7 +11,7 @@ namespace {
 using Axis = controls::Graph::Axis;
 
 constexpr double Step = 0.8;         // of the axis, for a step in
-constexpr double LeastShare = 1e-5;  // of the whole axis
+constexpr double LeastShare = 1e-3;  // of the whole axis
 
 Axis Around(const Axis& axis, const Axis& whole, double point, double factor) {
     const Axis part{point + (axis.min - point) * factor, point + (axis.max - point) * factor};

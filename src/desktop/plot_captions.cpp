@@ -14,19 +14,11 @@ constexpr double Inset = 2;  // to the graph's edge
 
 QRectF PlaceOf(const controls::Graph::Text& label, const QString& text, const PlotScale& scale,
                const QFontMetricsF& metrics) {
-    const QRectF room = scale.Place().adjusted(Inset, Inset, -Inset, -Inset);
     const QSizeF size(metrics.horizontalAdvance(text), metrics.height());
-    const auto inside = [](double start, double length, double from, double to) {
-        return std::max(from, std::min(start, to - length));
-    };
-    return {
-        {inside(scale.PixelX(label.x) - size.width() / 2, size.width(), room.left(), room.right()),
-         inside(scale.PixelY(label.y) - size.height(), size.height(), room.top(), room.bottom())},
-        size};
-}
-
-bool Shows(const PlotScale& scale, double x) {
-    return scale.Axes().x.min <= x && x <= scale.Axes().x.max;
+    const double lowest = scale.Place().bottom() - Inset - size.height();
+    const double top = std::min(scale.PixelY(label.y) - size.height(), lowest);
+    return {{scale.PixelX(label.x) - size.width() / 2, std::max(top, scale.Place().top() + Inset)},
+            size};
 }
 
 bool Overlap(const std::vector<Caption>& captions, std::size_t every) {
@@ -41,9 +33,9 @@ std::vector<Caption> LayOutCaptions(const std::vector<controls::Graph::Text>& la
                                     const PlotScale& scale, const QFontMetricsF& metrics) {
     std::vector<Caption> all;
     for (const controls::Graph::Text& label : labels) {
-        if (label.text.empty() || !Shows(scale, label.x)) continue;
         const QString text = Shown(label.text);
-        all.push_back({PlaceOf(label, text, scale, metrics), text});
+        const QRectF place = PlaceOf(label, text, scale, metrics);
+        if (!text.isEmpty() && scale.Place().contains(place)) all.push_back({place, text});
     }
     std::stable_sort(all.begin(), all.end(), [](const Caption& a, const Caption& b) {
         return a.place.center().x() < b.place.center().x();
@@ -51,8 +43,7 @@ std::vector<Caption> LayOutCaptions(const std::vector<controls::Graph::Text>& la
     std::size_t every = 1;
     while (Overlap(all, every)) ++every;
     std::vector<Caption> some;
-    for (std::size_t i = 0; i < all.size(); i += every)
-        if (scale.Place().contains(all[i].place)) some.push_back(all[i]);
+    for (std::size_t i = 0; i < all.size(); i += every) some.push_back(all[i]);
     return some;
 }
 

@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QtTest>
 
+#include "desktop/plot_look.h"
 #include "desktop/schemes.h"
 
 namespace kelvra::desktop {
@@ -13,6 +14,21 @@ class ColoursTest : public QObject {
         const QColor back = PaintColour(pair.backPart, pair.back);
         if (pair.stale) return Contrast(StaleTextOn(back), back);
         return Contrast(pair.text ? PaintColour(Part::Text, *pair.text) : TextOn(back), back);
+    }
+
+    static double ContrastOf(const PlotMark& mark) {
+        return Contrast(PlotColour(mark.part), PlotColour(PlotPart::Ground));
+    }
+
+    // The row of a table: what it is, and its contrast in each scheme.
+    template <class Coloured>
+    static QString RowOf(const Coloured& coloured) {
+        QString row = QString("| ") + coloured.what;
+        for (const Scheme scheme : Schemes) {
+            UseScheme(scheme);
+            row += " | " + QString::number(ContrastOf(coloured), 'f', 1);
+        }
+        return row + " |\n";
     }
 
 private slots:
@@ -34,18 +50,21 @@ private slots:
         }
     }
 
+    void LinesOfAGraphAreSeenInEveryScheme() {
+        for (const Scheme scheme : Schemes) {
+            UseScheme(scheme);
+            for (const PlotMark& mark : PlotMarks()) QVERIFY2(ContrastOf(mark) >= 3, mark.what);
+        }
+    }
+
     void TheDocumentHasTheseFigures() {
         QFile file(KELVRA_DOCS "/colours.md");
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString document = QString::fromUtf8(file.readAll());
-        for (const Pair& pair : Pairs()) {
-            QString row = QString("| ") + pair.what;
-            for (const Scheme scheme : Schemes) {
-                UseScheme(scheme);
-                row += " | " + QString::number(ContrastOf(pair), 'f', 1);
-            }
-            QVERIFY2(document.contains(row + " |\n"), qPrintable(row));
-        }
+        for (const Pair& pair : Pairs())
+            QVERIFY2(document.contains(RowOf(pair)), qPrintable(RowOf(pair)));
+        for (const PlotMark& mark : PlotMarks())
+            QVERIFY2(document.contains(RowOf(mark)), qPrintable(RowOf(mark)));
     }
 };
 

@@ -10,6 +10,8 @@ std::unique_ptr<QObject> AccessibilityTests();
 std::unique_ptr<QObject> ColoursTests();
 std::unique_ptr<QObject> ControlsTests();
 std::unique_ptr<QObject> DialogsTests();
+std::unique_ptr<QObject> DisplaysTests();
+std::unique_ptr<QObject> GraphTests();
 std::unique_ptr<QObject> GridTests();
 std::unique_ptr<QObject> ProgramTests();
 std::unique_ptr<QObject> SetupDialogTests();
@@ -21,7 +23,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     int failures = 0;
     for (const auto& make : {AccessibilityTests, ColoursTests, ControlsTests, DialogsTests,
-                             GridTests, ProgramTests, SetupDialogTests})
+                             DisplaysTests, GraphTests, GridTests, ProgramTests, SetupDialogTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }
