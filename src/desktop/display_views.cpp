@@ -2,6 +2,7 @@
 #include "desktop/display_views.h"
 
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -59,6 +60,24 @@ QWidget* MakeCursorChoice(forms::ScopeDisp& form, WidgetMaker& maker) {
     return choice;
 }
 
+// What is shown besides the trace, as a menu: the graph needs the room.
+QWidget* MakeShowMenu(forms::ScopeDisp& form, WidgetMaker& maker) {
+    auto* button = new QPushButton("Sh&ow");
+    button->setToolTip("What is shown besides the trace");
+    auto* menu = new QMenu(button);
+    menu->setToolTipsVisible(true);
+    for (controls::CheckBox* box :
+         {&form.ShowTSlotMarkers, &form.chkAddBoundingBox, &form.ShowPulse})
+        maker.AddEntry(*menu, *box);
+    menu->addSeparator();
+    for (controls::CheckBox* box : {&form.HoldMaximum, &form.HoldMinimum})
+        maker.AddEntry(*menu, *box);
+    for (controls::Button* kept : {&form.KeepReference, &form.DropReference})
+        maker.AddEntry(*menu, *kept);
+    button->setMenu(menu);
+    return button;
+}
+
 // The graph, and what is under the mouse.
 QVBoxLayout* MakeGraph(controls::Graph& graph, const controls::Label& pointed,
                        controls::MenuItem& entries, WidgetMaker& maker, QtDialogs& dialogs) {
@@ -83,11 +102,7 @@ QWidget* MakeTraceView(forms::ScopeDisp& form, WidgetMaker& maker, QtDialogs& di
     zoom->setIconSize({ZoomIcon, ZoomIcon});
     choices->addWidget(zoom);
     choices->addWidget(MakeCursorChoice(form, maker));
-    for (controls::CheckBox* box : {&form.ShowTSlotMarkers, &form.chkAddBoundingBox,
-                                    &form.ShowPulse, &form.HoldMaximum, &form.HoldMinimum})
-        choices->addWidget(maker.Make(*box));
-    for (controls::Button* button : {&form.KeepReference, &form.DropReference})
-        choices->addWidget(maker.Make(*button));
+    choices->addWidget(MakeShowMenu(form, maker));
     column->addLayout(choices);
 
     auto* rest = new QHBoxLayout;

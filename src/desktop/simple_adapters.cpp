@@ -77,6 +77,31 @@ void MenuItemAdapter::Update() {
     if (action_.isCheckable()) action_.setChecked(item_.checked);
 }
 
+template <class Own>
+EntryAdapter<Own>::EntryAdapter(Own& own, QAction& action) : own_(own), action_(action) {
+    constexpr bool isMark = std::is_same_v<Own, controls::CheckBox>;
+    action_.setCheckable(isMark);
+    QObject::connect(&action_, &QAction::triggered, [this] {
+        if constexpr (isMark)
+            own_.Toggle();
+        else
+            own_.Press();
+        Update();  // shows the record's mark: the action has changed its own by itself
+    });
+}
+
+template <class Own>
+void EntryAdapter<Own>::Update() {
+    action_.setText(MarkedText(own_, own_.caption));
+    action_.setToolTip(Shown(own_.tooltip.Get()));
+    action_.setEnabled(own_.enabled);
+    action_.setVisible(own_.visible);
+    if constexpr (std::is_same_v<Own, controls::CheckBox>) action_.setChecked(own_.Checked());
+}
+
+template class EntryAdapter<controls::CheckBox>;
+template class EntryAdapter<controls::Button>;
+
 ListWidget::ListWidget() {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToContents);

@@ -159,6 +159,22 @@ QWidget* WidgetMaker::AddRow(QGridLayout& rows, controls::Control& control, QWid
     return editor;
 }
 
+template <class Own>
+QAction* WidgetMaker::AddOwnEntry(QMenu& menu, Own& own) {
+    QAction* action = menu.addAction(QString());
+    action->setObjectName(QString::fromStdString(own.Name()));
+    mirror_.Add(own, std::make_unique<EntryAdapter<Own>>(own, *action));
+    return action;
+}
+
+QAction* WidgetMaker::AddEntry(QMenu& menu, controls::CheckBox& box) {
+    return AddOwnEntry(menu, box);
+}
+
+QAction* WidgetMaker::AddEntry(QMenu& menu, controls::Button& button) {
+    return AddOwnEntry(menu, button);
+}
+
 QAction* WidgetMaker::AddEntry(QMenu& menu, controls::MenuItem& item) {
     if (item.IsSeparator()) return menu.addSeparator();
     QAction* action = menu.addAction(QString());

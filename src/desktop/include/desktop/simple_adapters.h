@@ -63,6 +63,18 @@ private:
     QAction& action_;
 };
 
+// A check box or a button as an entry of a menu, for a window with little room.
+template <class Own>
+class EntryAdapter final : public Adapter {
+public:
+    EntryAdapter(Own& own, QAction& action);
+    void Update() override;
+
+private:
+    Own& own_;
+    QAction& action_;
+};
+
 // A list as wide as its entries, but no wider than 24 characters: it shows the two ends of a longer
 // entry. The wheel never changes the choice, since the pointer may be over it while the page
 // scrolls.

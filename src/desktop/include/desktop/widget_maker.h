@@ -63,10 +63,14 @@ public:
 
     // Also for a separator.
     QAction* AddEntry(QMenu& menu, controls::MenuItem& item);
+    QAction* AddEntry(QMenu& menu, controls::CheckBox& box);
+    QAction* AddEntry(QMenu& menu, controls::Button& button);
 
     static constexpr int ToolIcon = 28;
 
 private:
+    template <class Own>
+    QAction* AddOwnEntry(QMenu& menu, Own& own);
     template <class Button>
     QList<QAbstractButton*> MakeOptions(controls::OptionGroup& group);
     template <class AdapterKind, class Own, class Widget, class... More>
