@@ -17,9 +17,13 @@ using controls::TrackMode;
 class GraphTest : public QObject {
     Q_OBJECT
 
-    controls::Changes changes_;
-    controls::Window window_{changes_, "W", "", {}};
-    std::unique_ptr<Graph> graph_;
+    struct Record {
+        controls::Changes changes;
+        controls::Window window{changes, "W", "", {}};
+        Graph graph{window, "G"};
+    };
+    std::unique_ptr<Record> record_;
+    Graph* graph_ = nullptr;
     std::unique_ptr<Mirror> mirror_;
     std::unique_ptr<GraphWidget> widget_;
     QStringList events_;
@@ -66,7 +70,8 @@ class GraphTest : public QObject {
 
 private slots:
     void init() {
-        graph_ = std::make_unique<Graph>(window_, "G");
+        record_ = std::make_unique<Record>();
+        graph_ = &record_->graph;
         graph_->SetX({0, 10});
         graph_->SetY({-100, 0});
         graph_->AddCursor({true, 0, -50, true, CursorLook::Level});
@@ -79,7 +84,7 @@ private slots:
         graph_->cursorRelease.Connect(
             [this](int cursor) { events_ << QString("drop %1").arg(cursor); });
         graph_->nudge.Connect([this](int steps) { events_ << QString("nudge %1").arg(steps); });
-        mirror_ = std::make_unique<Mirror>(changes_);
+        mirror_ = std::make_unique<Mirror>(record_->changes);
         widget_ = std::make_unique<GraphWidget>(*graph_);
         mirror_->Add(*graph_, std::make_unique<GraphAdapter>(*graph_, *widget_));
         widget_->resize(600, 400);
@@ -92,7 +97,7 @@ private slots:
         UseScheme(Scheme::Classic);
         mirror_.reset();
         widget_.reset();
-        graph_.reset();
+        record_.reset();
     }
 
     // Of two at the same place, the one that can't be reached elsewhere.
