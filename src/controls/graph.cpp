@@ -107,12 +107,16 @@ void Graph::SetTrack(TrackMode track) {
     ShowPart(std::nullopt);
 }
 
-bool Graph::CanDrag(int index) const {
-    return Has(cursors_, index) && track_ == TrackMode::CursorEvents && CursorAt(index).visible;
+bool Graph::IsShown(int index) const {
+    return Has(cursors_, index) && CursorAt(index).visible;
 }
 
 bool Graph::DragCursor(int index, double x, double y) {
-    if (!CanDrag(index)) return false;
+    return track_ == TrackMode::CursorEvents && MoveCursor(index, x, y);
+}
+
+bool Graph::MoveCursor(int index, double x, double y) {
+    if (!IsShown(index)) return false;
     Cursor cursor = CursorAt(index);
     cursor.x = x;
     cursor.y = y;
@@ -123,21 +127,20 @@ bool Graph::DragCursor(int index, double x, double y) {
 }
 
 bool Graph::ChooseCursor(int index) {
-    if (!Has(cursors_, index) || !CursorAt(index).visible) return false;
+    if (!IsShown(index)) return false;
     if (chosen.Set(index)) choice.Raise();
     return true;
 }
 
 bool Graph::Nudge(int steps) {
-    if (!CanDrag(chosen)) return false;
+    if (!IsShown(chosen)) return false;
     nudge.Raise(steps);
     return true;
 }
 
 bool Graph::ReleaseCursor(int index) {
-    if (!Has(cursors_, index)) return false;
     cursorRelease.Raise(index);
-    return true;
+    return Has(cursors_, index);
 }
 
 bool Graph::Zoom(const Axis& x, const Axis& y) {

@@ -19,7 +19,7 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int ZoomIcon = 18;  // logical pixels
-constexpr int CursorCharacters = 20;
+constexpr int CursorCharacters = 17;
 
 // A frame whose widgets are in sight on a dark background, too.
 QWidget* MakeRoom(QVBoxLayout*& column) {

@@ -22,6 +22,8 @@ void DisplayWindowAdapter::Update() {
     UpdateColours(*window_->widget(), record_);
     if (std::exchange(shown_, record_.place.Get()) != record_.place.Get()) window_->FollowPlace();
     window_->setVisible(record_.visible);
+    if (std::exchange(presented_, record_.presented.Get()) != record_.presented.Get())
+        window_->raise();
     if (onUpdate) onUpdate();
 }
 

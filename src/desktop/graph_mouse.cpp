@@ -85,6 +85,7 @@ void GraphMouse::Begin(const QMouseEvent& event) {
 }
 
 void GraphMouse::Move(const QMouseEvent& event) {
+    if ((event.buttons() & Qt::LeftButton) == 0) End();
     place_ = event.position();
     moved_ = true;
     if (act_ == Act::None) ShowPointer();
@@ -100,6 +101,13 @@ void GraphMouse::Release(const QMouseEvent& event) {
     if (act == Act::Drag && moved_) widget_.Record().ReleaseCursor(cursor_);
     if (act == Act::Rectangle) ZoomIntoRectangle();
     ShowPointer();
+}
+
+// The button is up without a release that was seen, or the graph is hidden.
+void GraphMouse::End() {
+    const Act act = std::exchange(act_, Act::None);
+    if (act == Act::Drag && moved_) widget_.Record().ReleaseCursor(cursor_);
+    if (act == Act::Rectangle) widget_.update();
 }
 
 void GraphMouse::DoubleClick(const QMouseEvent& event) {

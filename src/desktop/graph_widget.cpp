@@ -209,6 +209,11 @@ void GraphWidget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) UpdateLook();
 }
 
+void GraphWidget::hideEvent(QHideEvent* event) {
+    QCustomPlot::hideEvent(event);
+    mouse_.End();
+}
+
 void GraphWidget::leaveEvent(QEvent* event) {
     QCustomPlot::leaveEvent(event);
     mouse_.Leave();

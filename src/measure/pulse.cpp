@@ -60,8 +60,9 @@ double ModeOf(std::span<const Bin, Bins / 2> half) {
 
 std::optional<Levels> FindLevels(const std::vector<Sample>& samples, double least, double most) {
     Histogram histogram{};
-    const double scale = Bins / (most - least);
-    if (!std::isfinite(scale)) return std::nullopt;
+    const double range = most - least;
+    const double scale = Bins / range;
+    if (!std::isfinite(range) || !std::isfinite(scale)) return std::nullopt;
     for (const Sample& sample : samples) {
         const double place = (sample.value - least) * scale;
         Bin& bin = histogram[static_cast<std::size_t>(std::clamp(place, 0.0, Bins - 1.0))];
@@ -179,7 +180,7 @@ PulseReadings ReadPulses(std::span<const double> traceW, double step, const Gate
     if (!levels) return readings;
     readings.top = levels->top;
     readings.base = levels->base;
-    ReadEdges(readings, samples, *levels);
+    if (step > 0) ReadEdges(readings, samples, *levels);
     return readings;
 }
 

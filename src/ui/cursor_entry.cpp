@@ -29,12 +29,13 @@ std::string NameOf(int cursor) {
 CursorEntry::CursorEntry(forms::ScopeDisp& form, const util::NumberForm& numbers)
     : form_(form), graph_(form.Display), numbers_(numbers) {
     form_.CursorSelect.click.Connect([this] { graph_.ChooseCursor(form_.CursorSelect.Data()); });
-    graph_.choice.Connect([this] { Refresh(); });
+    graph_.choice.Connect([this] { Show(); });
     graph_.nudge.Connect([this](int steps) { Nudge(steps); });
     form_.CursorPosition.change.Connect([this] { Typed(); });
     form_.CursorPosition.commit.Connect([this] {
-        if (form_.CursorPosition.fault->empty())
-            Move(ReadTyped(form_.CursorPosition.Text(), Unit(), numbers_).value);
+        if (graph_.chosen < 0 || !form_.CursorPosition.fault->empty()) return;
+        Move(ReadTyped(form_.CursorPosition.Text(), Unit(), numbers_).value);
+        graph_.ReleaseCursor(graph_.chosen);
     });
 }
 
@@ -44,15 +45,19 @@ BoxUnit CursorEntry::Unit() const {
     return {"ms", Quantity::Time, secondsPerMs};
 }
 
-void CursorEntry::Refresh() {
+void CursorEntry::Refresh(double triggerDelay) {
+    triggerDelay_ = triggerDelay;
+    Show();
+}
+
+void CursorEntry::Show() {
     FillList();
     const bool any = graph_.chosen >= 0;
     form_.CursorSelect.enabled = form_.CursorSelect.Count() > 0;
     form_.CursorPosition.enabled = any;
-    if (any)
-        ShowPosition();
-    else
-        form_.CursorPosition.SetText("");
+    if (any) return ShowPosition();
+    form_.CursorPosition.SetText("");
+    form_.CursorPosition.fault = std::string();
 }
 
 // A cursor that is hidden is not chosen any more.
@@ -69,6 +74,7 @@ void CursorEntry::FillList() {
 
 double CursorEntry::Position() const {
     const controls::Graph::Cursor& cursor = graph_.CursorAt(graph_.chosen);
+    if (graph_.chosen == TrigDelayCursor) return triggerDelay_;
     return cursor.horizontal ? cursor.y : cursor.x;
 }
 
@@ -88,7 +94,8 @@ void CursorEntry::Typed() {
         std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
 }
 
-// To the right or up by points of the trace, or by tenths of a dB.
+// To the right or up by points of the trace, or by tenths of a dB. Moves of one cursor are one
+// edit, until something else is edited.
 void CursorEntry::Nudge(int steps) {
     const bool level = graph_.CursorAt(graph_.chosen).horizontal;
     const double step = level ? LevelStep : std::fmax(graph_.Curve().step, LeastStep);
@@ -96,11 +103,9 @@ void CursorEntry::Nudge(int steps) {
 }
 
 void CursorEntry::Move(double position) {
-    const int cursor = graph_.chosen;
-    controls::Graph::Cursor to = graph_.CursorAt(cursor);
-    (to.horizontal ? to.y : to.x) = position;
-    graph_.DragCursor(cursor, to.x, to.y);
-    graph_.ReleaseCursor(cursor);
+    controls::Graph::Cursor to = graph_.CursorAt(graph_.chosen);
+    (to.horizontal ? to.y : to.x) += position - Position();
+    graph_.MoveCursor(graph_.chosen, to.x, to.y);
 }
 
 }  // namespace kelvra::ui

@@ -101,8 +101,9 @@ std::string DisplayData::TraceText() const {
     for (const auto& [which, name] : held) {
         const Graph::Plot& curve = graph.HeldCurve(which);
         if (curve.values.empty()) continue;
-        if (curve.first != trace.first || curve.step != trace.step)
-            columns.push_back({std::string(name) + " time (ms)", TimesOf(curve)});
+        const bool sameTimes = curve.first == trace.first && curve.step == trace.step &&
+                               curve.values.size() <= trace.values.size();
+        if (!sameTimes) columns.push_back({std::string(name) + " time (ms)", TimesOf(curve)});
         columns.push_back({std::string(name) + " (dBm)", curve.values});
     }
     return Text(columns);

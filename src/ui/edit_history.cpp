@@ -55,7 +55,8 @@ void EditHistory::Push(Steps& steps, EditStep step) {
 
 void EditHistory::Add(EditStep step, const controls::Control* gatheredIn) {
     Steps& done = Of(Direction::Undo);
-    if (gatheredIn_ != nullptr && gatheredIn_ == gatheredIn && done.back().sensor == step.sensor) {
+    if (gatheredIn_ != nullptr && gatheredIn_ == gatheredIn && done.back().sensor == step.sensor &&
+        done.back().what == step.what) {
         step = Joined(std::move(done.back()), step);
         done.pop_back();
     }

@@ -12,7 +12,9 @@ using controls::Held;
 HeldTraces::HeldTraces(forms::ScopeDisp& form) : form_(form) {
     form_.HoldMaximum.click.Connect([this] { Extend(Held::Maximum, form_.HoldMaximum.Checked()); });
     form_.HoldMinimum.click.Connect([this] { Extend(Held::Minimum, form_.HoldMinimum.Checked()); });
-    form_.KeepReference.click.Connect([this] { KeepReference(form_.Display.Curve()); });
+    form_.KeepReference.click.Connect([this] {
+        if (!form_.Display.Curve().values.empty()) KeepReference(form_.Display.Curve());
+    });
     form_.DropReference.click.Connect([this] { KeepReference({}); });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main_window.h"
 
+#include <utility>
+
 #include "ui/help.h"
 
 namespace kelvra::ui {
@@ -27,6 +29,14 @@ MainWindow::MainWindow(forms::Forms& forms, measure::MeasureState& state, platfo
     forms_.mdiMain.resize.Connect([this] { ArrangeWindows(); });
     forms_.mdiMain.Show_Settings.click.Connect([this] { ShowSettings(); });
     forms_.mdiMain.SettingAlwaysOnTop.click.Connect([this] { ToggleAlwaysOnTop(); });
+    const std::pair<controls::MenuItem*, controls::Window*> displays[] = {
+        {&forms_.mdiMain.WindowTrace, &forms_.scopeDisp},
+        {&forms_.mdiMain.WindowSlots, &forms_.timeSlotDisp},
+        {&forms_.mdiMain.WindowSlotTable, &forms_.timeSlotTabForm}};
+    for (const auto& [entry, window] : displays) {
+        entry->enabled = false;
+        entry->click.Connect([window = window] { window->Present(); });
+    }
     forms_.mdiMain.Helpfunction.click.Connect([this] { OpenHelp(host_, 0); });
 }
 
@@ -74,6 +84,9 @@ void MainWindow::ArrangeWindows() {
     forms_.scopeDisp.visible = state_.traceModeActive;
     forms_.timeSlotDisp.visible = state_.timeSlotModeActive;
     forms_.timeSlotTabForm.visible = state_.timeSlotModeActive;
+    forms_.mdiMain.WindowTrace.enabled = state_.traceModeActive;
+    forms_.mdiMain.WindowSlots.enabled = state_.timeSlotModeActive;
+    forms_.mdiMain.WindowSlotTable.enabled = state_.timeSlotModeActive;
     PlaceDisplays();
 }
 

@@ -7,6 +7,7 @@
 
 #include "ui/level_axis.h"
 #include "ui/trace_cursors.h"
+#include "util/levels.h"
 #include "util/number_text.h"
 
 namespace kelvra::ui {
@@ -32,7 +33,9 @@ SlotDisplay::SlotDisplay(const Parts& parts)
     graph_.cursorRelease.Connect([this](int) { p_.edits.EndStep(); });
     graph_.pointed.Connect([this](double x, double) { ShowPointed(x); });
     graph_.left.Connect([this] { form_.lblPointed.caption = std::string(); });
-    p_.forms.mdiMain.resize.Connect([this] { Redraw(); });  // which can show the window again
+    // These can show the window again.
+    p_.forms.mdiMain.resize.Connect([this] { Redraw(); });
+    p_.forms.mdiMain.WindowSlots.click.Connect([this] { Redraw(); });
     SayWhatIsAwaited(false);
 }
 
@@ -75,10 +78,10 @@ void SlotDisplay::Draw(int slot) {
 }
 
 void SlotDisplay::DrawStairs(const SensorEntry& entry) {
-    levels_.clear();
-    const std::size_t slots = std::min(entry.slotStats.size(), entry.results.size());
-    for (std::size_t slot = 0; slot < slots && entry.slotStats[slot].Index() >= 0; ++slot)
-        levels_.push_back(entry.slotStats[slot].LastLevel());
+    const auto slots = static_cast<std::size_t>(std::max<int>(entry.settings.TSlotCount, 0));
+    levels_ = entry.results;
+    levels_.resize(std::min(levels_.size(), slots));
+    util::ArrayW2dBm(levels_);
     Graph::Plot stairs{FirstEdge, 1, {}};
     if (!levels_.empty()) stairs.values.push_back(levels_.front());
     stairs.values.insert(stairs.values.end(), levels_.begin(), levels_.end());

@@ -37,7 +37,9 @@ SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsE
     selection.listeners.Add(*this);
     edits.listeners.Add(*this);
     forms.timeSlotDisp.Timeslot_Sensorselect.click.Connect([this] { Refresh(); });
-    forms.mdiMain.resize.Connect([this] { Refresh(); });  // which can show the window again
+    // These can show the window again.
+    forms.mdiMain.resize.Connect([this] { Refresh(); });
+    forms.mdiMain.WindowSlotTable.click.Connect([this] { Refresh(); });
     form_.ResetStat.click.Connect([this] { Reset(); });
 }
 
@@ -68,7 +70,8 @@ void SlotTable::Refresh() {
 void SlotTable::Write(const sensors::SensorEntry& entry) {
     form_.TimeSlots.SetRows(1 + static_cast<int>(entry.slotStats.size()));
     for (int row = 1; const sensors::ReadingRing& ring : entry.slotStats) WriteRow(row++, ring);
-    form_.NumberOfSamples.caption = util::TrimmedNumberText(sensors::ReadingRing::Length);
+    const bool any = !entry.slotStats.empty() && entry.slotStats.front().Index() >= 0;
+    form_.NumberOfSamples.caption = util::TrimmedNumberText(any ? sensors::ReadingRing::Length : 0);
 }
 
 // A slot without a reading is empty. Statistics come with the last reading of the first full ring.

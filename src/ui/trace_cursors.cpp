@@ -36,6 +36,12 @@ Graph::Cursor Vertical(double x, bool visible, CursorLook look) {
     return {false, x, 0, visible, look};
 }
 
+bool Finite(const SensorSettings& s) {
+    return std::isfinite(s.TrigLevel) && std::isfinite(s.TrigDelay) &&
+           std::isfinite(s.ScopeOffset) && std::isfinite(s.TSlotWidth) &&
+           std::isfinite(s.TSlotExclStart) && std::isfinite(s.TSlotExclStop);
+}
+
 double MostExclusion(double width, double other) {
     return std::max(width - other - LeastTime, 0.0);
 }
@@ -81,7 +87,8 @@ void PlaceCursors(Graph& graph, const SensorSettings& settings, bool slots) {
         graph.RemoveCursor(graph.CursorCount() - 1);
 }
 
-SensorSettings AfterDrag(SensorSettings settings, int cursor, double x, double y) {
+SensorSettings AfterDrag(const SensorSettings& before, int cursor, double x, double y) {
+    SensorSettings settings = before;
     constexpr double micro = 1e6;
     constexpr double tenths = 10;
     const double seconds = Rounded(x / MsPerSecond, micro);
@@ -107,7 +114,7 @@ SensorSettings AfterDrag(SensorSettings settings, int cursor, double x, double y
             settings.TSlotWidth = std::max(x / (cursor - TrigDelayCursor) / MsPerSecond, LeastTime);
             FitExclusions(settings);
     }
-    return settings;
+    return Finite(settings) ? settings : before;
 }
 
 CursorValue ValueOf(const SensorSettings& settings, int cursor) {

@@ -28,6 +28,12 @@ auto Drawn(const SensorSettings& s) {
                     s.TSlotExclStart, s.TSlotExclStop, s.TSlotExclDispInSlot);
 }
 
+// Decimals of a time in ms that tell neighbouring points apart, to 1 ns.
+int DecimalsFor(double step) {
+    constexpr double fewest = 3, most = 6;
+    return static_cast<int>(std::clamp(1 - std::floor(std::log10(step)), fewest, most));
+}
+
 // The shown index of a value nearest to x, -1 without one.
 int NearestTo(const Graph::Plot& curve, double x) {
     const double last = static_cast<double>(curve.values.size()) - 1;
@@ -59,9 +65,12 @@ TraceDisplay::TraceDisplay(const Parts& parts)
     form_.Scope_Zoom_Button.click.Connect([this] { ToggleZoom(); });
     graph_.cursorChange.Connect([this](int cursor, double x, double y) { Dragged(cursor, x, y); });
     graph_.cursorRelease.Connect([this](int) { Released(); });
+    graph_.nudge.Connect([this](int) { drag_.reset(); });
     graph_.pointed.Connect([this](double x, double) { ShowPointed(x); });
     graph_.left.Connect([this] { form_.lblPointed.caption = std::string(); });
-    p_.forms.mdiMain.resize.Connect([this] { Redraw(); });  // which can show the window again
+    // These can show the window again.
+    p_.forms.mdiMain.resize.Connect([this] { Redraw(); });
+    p_.forms.mdiMain.WindowTrace.click.Connect([this] { Redraw(); });
     SayWhatIsAwaited(false);
 }
 
@@ -99,8 +108,10 @@ void TraceDisplay::Redraw() {
     if (!form_.visible) return;
     const int slot = Slot();
     if (const std::string sensor = slot < 0 ? "" : p_.table[slot].resourceName;
-        std::exchange(drawnSensor_, sensor) != sensor)
+        std::exchange(drawnSensor_, sensor) != sensor) {
         held_.SensorChanged();
+        if (graph_.Zoomed()) graph_.ZoomOut();
+    }
     if (slot >= 0 && p_.table[slot].newTraceData)
         Draw(slot);
     else
@@ -116,7 +127,7 @@ void TraceDisplay::Clear() {
         hidden.visible = false;
         graph_.SetCursor(cursor, hidden);
     }
-    cursorEntry_.Refresh();
+    cursorEntry_.Refresh(0);
     pulses_.Show({});
 }
 
@@ -131,19 +142,22 @@ void TraceDisplay::Draw(int slot) {
                entry.settings.TSlotWidth);
     ShowBox(entry.settings);
     held_.TraceDrawn();
-    cursorEntry_.Refresh();
+    cursorEntry_.Refresh(entry.settings.TrigDelay * MsPerSecond);
     if (pulses_.Wanted()) ShowPulses(entry);
 }
 
-// The time axis of a zoomed graph stays.
+// The time axis stays while the zoom is on; a part that is shown stays anyway.
 void TraceDisplay::DrawCurve(const SensorEntry& entry) {
     const SensorSettings& settings = entry.settings;
     levels_.assign(entry.results.begin(), entry.results.end());
     util::ArrayW2dBm(levels_);
     const double first = settings.ScopeOffset * MsPerSecond;
     const double points = std::max(static_cast<double>(levels_.size()), 1.0);
-    graph_.SetCurve({first, settings.ScopeTime * MsPerSecond / points, levels_});
-    if (!Zoomed()) graph_.SetX({first, (settings.ScopeTime + settings.ScopeOffset) * MsPerSecond});
+    if (!graph_.SetCurve({first, settings.ScopeTime * MsPerSecond / points, levels_}))
+        graph_.SetCurve({});  // times beyond all measure
+    const Graph::Axis& time = graph_.WholeAxes().x;
+    if (!Zoomed() || graph_.Zoomed() || time.min == time.max)
+        graph_.SetX({first, (settings.ScopeTime + settings.ScopeOffset) * MsPerSecond});
 }
 
 // The scale of the setup dialog is that of the sensor which the dialog shows.
@@ -213,24 +227,25 @@ void TraceDisplay::Dragged(int cursor, double x, double y) {
     const int slot = Slot();
     if (slot < 0) return;
     const SensorSettings& now = p_.table[slot].settings;
-    if (!dragBegan_) dragBegan_ = ValueOf(now, cursor);
+    if (!drag_) drag_ = Drag{p_.table[slot].resourceName, ValueOf(now, cursor)};
+    if (drag_->sensor != p_.table[slot].resourceName) return;
     const SensorSettings after = AfterDrag(now, cursor, x, y);
     if (after == now)
         Redraw();  // the cursor goes back
     else
-        p_.edits.Replace(slot, dragBegan_->what, after, &graph_);
+        p_.edits.Replace(slot, drag_->began.what, after, &graph_);
     ShowDrag(ValueOf(after, cursor));
 }
 
 void TraceDisplay::Released() {
-    dragBegan_.reset();
+    drag_.reset();
     p_.edits.EndStep();
 }
 
 void TraceDisplay::ShowDrag(const CursorValue& now) {
     const util::NumberForm& numbers = p_.host.computer.Numbers();
     constexpr int decimals = 3;
-    const double change = now.value - dragBegan_->value;
+    const double change = now.value - drag_->began.value;
     form_.lblPointed.caption = now.what + " " + util::FixedText(now.value, decimals, numbers) +
                                " " + now.unit + " (" + (change < 0 ? "" : "+") +
                                util::FixedText(change, decimals, numbers) + ")";
@@ -239,11 +254,12 @@ void TraceDisplay::ShowDrag(const CursorValue& now) {
 void TraceDisplay::ShowPointed(double x) {
     const Graph::Plot& curve = graph_.Curve();
     const int nearest = NearestTo(curve, x);
-    if (nearest < 0 || dragBegan_) return;
+    if (nearest < 0 || drag_) return;
     const util::NumberForm& numbers = p_.host.computer.Numbers();
-    constexpr int timeDecimals = 3, levelDecimals = 2;
+    constexpr int levelDecimals = 2;
     form_.lblPointed.caption =
-        util::FixedText(curve.first + nearest * curve.step, timeDecimals, numbers) + " ms: " +
+        util::FixedText(curve.first + nearest * curve.step, DecimalsFor(curve.step), numbers) +
+        " ms: " +
         util::FixedText(curve.values[static_cast<std::size_t>(nearest)], levelDecimals, numbers) +
         " dBm";
 }

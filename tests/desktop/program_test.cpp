@@ -233,7 +233,9 @@ private slots:
         const QTemporaryDir data;
         RunningDesktop running(data);
         auto& form = running.kelvra.forms.mdiMain;
-        for (controls::MenuItem* item : {&form.FileSaveData, &form.EditUndo, &form.EditRedo})
+        for (controls::MenuItem* item :
+             {&form.FileSaveData, &form.EditUndo, &form.EditRedo, &form.WindowTrace,
+              &form.WindowSlots, &form.WindowSlotTable})
             item->enabled = true;
         running.desktop.Painter().Flush();
         QStringList disabled;

@@ -69,6 +69,7 @@ TEST(Pulse, WhatTheTraceDoesNotShowHasNoReading) {
         {"no value", {}, false, false, false, false, false, false},
         {"none is finite", nothing, false, false, false, false, false, false},
         {"one value", {1e-3}, true, false, false, false, false, false},
+        {"an endless range", {-1.7e308, 1.7e308}, true, false, false, false, false, false},
         {"noise", noise, true, false, false, false, false, false},
         {"a rising edge", {all.begin(), all.begin() + 250}, true, true, true, false, false, false},
         {"a falling edge",

@@ -144,7 +144,7 @@ TEST_F(DisplaysTest, ASensorThatGoesOrChangesItsModeLeavesTheDisplayToTheNext) {
         }
         EXPECT_EQ(Trace().Scope_Sensorselect.Text(), "B") << gone;
         EXPECT_EQ(Trace().Display.Curve().values.size(), gone ? 0U : 4U);  // B has moved to slot 0
-        EXPECT_TRUE(Trace().Display.Zoomed());
+        EXPECT_FALSE(Trace().Display.Zoomed());  // into the other sensor's trace
         Trace().Scope_Zoom_Button.Press();
         EXPECT_FALSE(Trace().Display.Zoomed());
     }

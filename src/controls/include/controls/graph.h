@@ -99,7 +99,9 @@ public:
     // The user drags a cursor and lets it go. False as above, and when the mouse could not do it:
     // for a hidden cursor, or any cursor while the mouse draws zoom rectangles.
     bool DragCursor(int index, double x, double y);
-    bool ReleaseCursor(int index);
+    bool ReleaseCursor(int index);  // raises the event also for a cursor that has gone
+    // The same as a drag by other means than the mouse, also while that draws zoom rectangles.
+    bool MoveCursor(int index, double x, double y);
     Event<int, double, double> cursorChange;  // index, x, y
     Event<int> cursorRelease;
 
@@ -121,7 +123,7 @@ public:
     bool ChooseCursor(int index);  // false if there is no such cursor, or it is hidden
     Event<> choice;
     // The user moves the chosen cursor by that many steps, to the right or up if positive. What a
-    // step is, the rules know. False as for a drag.
+    // step is, the rules know. False as for a move.
     bool Nudge(int steps);
     Event<int> nudge;
 
@@ -143,7 +145,7 @@ public:
 private:
     bool SetAxis(Axis& own, const Axis& axis);
     void ShowPart(std::optional<Axes> part);
-    bool CanDrag(int index) const;
+    bool IsShown(int index) const;
     void Mark(bool ChangedParts::*part);
     void MarkCursor(int index);
 

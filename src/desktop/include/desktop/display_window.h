@@ -29,6 +29,7 @@ private:
     controls::Window& record_;
     std::function<ChildWindow&()> make_;
     ChildWindow* window_ = nullptr;
+    int presented_ = 0;  // as the window has seen it
     controls::Geometry shown_{};
 };
 

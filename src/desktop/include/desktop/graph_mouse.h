@@ -25,6 +25,7 @@ public:
     void DoubleClick(const QMouseEvent& event);
     void Wheel(QWheelEvent& event);
     void Leave();
+    void End();
 
     // The rectangle that is being drawn, in pixels.
     std::optional<QRectF> Rectangle() const;

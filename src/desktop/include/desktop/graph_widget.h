@@ -45,6 +45,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override { mouse_.DoubleClick(*event); }
     void wheelEvent(QWheelEvent* event) override { mouse_.Wheel(*event); }
     void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 

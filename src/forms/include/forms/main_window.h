@@ -102,6 +102,19 @@ struct MDIMain : Window {
         "SettingAlwaysOnTop",
         "Settings always on top",
         {.mnemonic = 't', .explanation = "Keeps the settings above the other windows, or not."}};
+    MenuItem WindowTrace{MenueWindow,
+                         "WindowTrace",
+                         "Scope display",
+                         {.mnemonic = 'c', .explanation = "Shows the power over time."}};
+    MenuItem WindowSlots{MenueWindow,
+                         "WindowSlots",
+                         "Time slot display",
+                         {.mnemonic = 'd', .explanation = "Shows the power of each time slot."}};
+    MenuItem WindowSlotTable{
+        MenueWindow,
+        "WindowSlotTable",
+        "Time slot table",
+        {.mnemonic = 'b', .explanation = "Shows the statistics of each time slot."}};
 
     MenuItem MHelp{
         *this, "MHelp", "Help", {.mnemonic = 'H', .explanation = "Help, and about this program."}};

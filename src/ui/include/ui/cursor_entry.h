@@ -14,10 +14,12 @@ class CursorEntry {
 public:
     CursorEntry(forms::ScopeDisp& form, const util::NumberForm& numbers);
 
-    // The cursors have been placed anew. A box in which the user is typing stays as it is.
-    void Refresh();
+    // The cursors have been placed anew. A box in which the user is typing stays as it is. The
+    // trigger's cursor is always at 0 ms; its position in the box is the trigger delay (ms).
+    void Refresh(double triggerDelay);
 
 private:
+    void Show();
     void FillList();
     void ShowPosition();
     void Typed();
@@ -29,6 +31,7 @@ private:
     forms::ScopeDisp& form_;
     controls::Graph& graph_;
     const util::NumberForm& numbers_;
+    double triggerDelay_ = 0;
 };
 
 }  // namespace kelvra::ui

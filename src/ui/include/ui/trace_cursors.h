@@ -29,8 +29,10 @@ controls::Graph::Axis ExclusionZone(const sensors::SensorSettings& settings);
 void PlaceCursors(controls::Graph& graph, const sensors::SensorSettings& settings, bool slots);
 
 // The settings after the cursor has been dragged to a position. Exclusions leave at least 10 us of
-// a slot, and a slot is at least that wide.
-sensors::SensorSettings AfterDrag(sensors::SensorSettings settings, int cursor, double x, double y);
+// a slot, and a slot is at least that wide. A position that gives no finite setting changes
+// nothing.
+sensors::SensorSettings AfterDrag(const sensors::SensorSettings& before, int cursor, double x,
+                                  double y);
 
 // What the cursor sets, and the value that it sets, with the unit: "exclusion start", 1.25, "ms".
 struct CursorValue {

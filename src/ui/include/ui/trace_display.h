@@ -79,7 +79,12 @@ private:
     CursorEntry cursorEntry_;
     std::vector<double> levels_;  // dBm, of the trace that is drawn
     std::string drawnSensor_;     // its resource
-    std::optional<CursorValue> dragBegan_;
+    // A drag goes on with the sensor with which it began.
+    struct Drag {
+        std::string sensor;  // its resource
+        CursorValue began;
+    };
+    std::optional<Drag> drag_;
 };
 
 }  // namespace kelvra::ui
