@@ -112,6 +112,7 @@ QWidget* MakeTraceView(forms::ScopeDisp& form, WidgetMaker& maker, QtDialogs& di
     auto* readings = new QVBoxLayout(pulses);
     readings->setContentsMargins(0, 0, 0, 0);
     GridWidget* table = maker.Make(form.PulseReadings);
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->onNeed = [table] {
         table->setFixedWidth(table->sizeHint().width() +
                              table->verticalScrollBar()->sizeHint().width());
