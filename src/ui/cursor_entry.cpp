@@ -13,7 +13,6 @@ using controls::List;
 
 namespace {
 
-constexpr double LevelStep = 0.1;   // dB
 constexpr double LeastStep = 1e-3;  // ms
 constexpr double Decimals = 1e6;    // of a shown position
 constexpr const char* Names[] = {"Trigger level", "Exclusion start", "Exclusion stop",
@@ -90,8 +89,8 @@ void CursorEntry::ShowPosition() {
 void CursorEntry::Typed() {
     if (graph_.chosen < 0) return;
     const TypedNumber typed = ReadTyped(form_.CursorPosition.Text(), Unit(), numbers_);
-    form_.CursorPosition.fault =
-        std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
+    const bool usable = std::isfinite(typed.value) && typed.fault.empty();
+    form_.CursorPosition.fault = std::string(usable ? "" : "This is no position for a cursor.");
 }
 
 // To the right or up by points of the trace, or by tenths of a dB. Moves of one cursor are one

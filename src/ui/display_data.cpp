@@ -50,8 +50,9 @@ void DisplayData::WithSeparator(std::function<void()> goOn) {
         "Decimal separator of the data (a comma or a point):", host_.computer.Numbers().decimal,
         [this, goOn = std::move(goOn)](const std::optional<std::string>& answer) {
             if (!answer) return;
+            if (*answer != "," && *answer != ".") return WithSeparator(goOn);
             asked_ = true;
-            form_.decimal = std::string(*answer == "," ? "," : ".");
+            form_.decimal = *answer;
             goOn();
         });
 }

@@ -31,6 +31,8 @@ SlotDisplay::SlotDisplay(const Parts& parts)
     form_.Timeslot_Sensorselect.click.Connect([this] { Choose(); });
     graph_.cursorChange.Connect([this](int, double, double level) { Dragged(level); });
     graph_.cursorRelease.Connect([this](int) { p_.edits.EndStep(); });
+    graph_.nudge.Connect(
+        [this](int steps) { graph_.MoveCursor(0, 0, graph_.CursorAt(0).y + steps * LevelStep); });
     graph_.pointed.Connect([this](double x, double) { ShowPointed(x); });
     graph_.left.Connect([this] { form_.lblPointed.caption = std::string(); });
     // These can show the window again.

@@ -10,6 +10,8 @@
 
 namespace kelvra::ui {
 
+constexpr double LevelStep = 0.1;  // dB, by which keys move a level
+
 // Slot marker k (1 .. TSlotCount), at the end of slot k, has the index TrigDelayCursor + k.
 enum TraceCursor : int {
     TrigLevelCursor = 0,
