@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QWindow>
 
 #include "desktop/common.h"
@@ -38,18 +37,9 @@ class ProgramTest : public QObject {
         return stopped;
     }
 
-    static void TypeInto(GridWidget& grid, int row, int column, const char* text) {
-        ClickCell(grid, row, column);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), text);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCoreApplication::processEvents();  // the editor closes later
-    }
-
 private slots:
     void StartShowsReadingsUntilStop() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         const std::function<void()> stops[] = {
             [&] { QTest::keyClick(&running.Main(), Qt::Key_F5, Qt::ShiftModifier); },
             [&] { running.Click("StopIt"); },
@@ -66,21 +56,8 @@ private slots:
         QCOMPARE(running.kelvra.state.starts, 2);
     }
 
-    void AnEditedFormulaIsComputed() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        auto& grid = running.Find<GridWidget>("CalcGrid");
-        TypeInto(grid, 0, 1, "X1dB");
-        QCOMPARE(running.kelvra.forms.mdiMain.CalcGrid.At(1, 1).Text(), "X1dB");
-        QVERIFY(MeasureUntilShown(running, grid, 2, [&] { running.Click("StopIt"); }));
-        running.desktop.Painter().Flush();
-        QCOMPARE(Cell(grid, 0, 1), "X1dB");
-        QCOMPARE(WholeLevel(grid, 0), -9);
-    }
-
     void AFormulaIsCheckedWhileItIsTypedAndTakenBack() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         auto& grid = running.Find<GridWidget>("CalcGrid");
         const auto& record = running.kelvra.forms.mdiMain.CalcGrid;
         const auto key = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
@@ -123,16 +100,6 @@ private slots:
         UseScheme(Scheme::Classic);
     }
 
-    void WithoutASensorStartSaysSo() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
-        for (const int row : {0, 1}) ClickCell(running.Results(), row, 0);
-        running.Click("StartIt");
-        const auto* box = running.Main().findChild<QMessageBox*>();
-        QVERIFY(box != nullptr && box->isVisible());
-        QCOMPARE(box->text(), "No operational sensor selected");
-    }
-
     void TheNextRunKeepsTheZoomOfATable() {
         const QTemporaryDir data;
         for (const int zoom : {1, 2}) {
@@ -144,8 +111,7 @@ private slots:
     }
 
     void TabVisitsTheControlsInReadingOrder() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         running.kelvra.forms.mdiMain.StopIt.enabled = true;
         running.desktop.Painter().Flush();
         running.Start().setFocus();
@@ -194,8 +160,7 @@ private slots:
     }
 
     void ClosingTheWindowEndsAMeasurementInOrder() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         bool exitCameFirst = false;
         QTimer::singleShot(0, &running.Main(), [&] {
             const bool closed =
@@ -211,8 +176,7 @@ private slots:
     }
 
     void AnEdgeDraggedByAPersonStaysAndIsTheRecords() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         auto& inside = running.Find<QMdiSubWindow>("");
         QTest::qWait(1);  // its first size comes later
         const auto& place = running.kelvra.forms.statusForm.place;
@@ -230,8 +194,7 @@ private slots:
     }
 
     void WhatOpensAWindowThatIsNotThereIsDisabledForThisFrontEndOnly() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         auto& form = running.kelvra.forms.mdiMain;
         for (controls::MenuItem* item :
              {&form.FileSaveData, &form.EditUndo, &form.EditRedo, &form.WindowTrace,

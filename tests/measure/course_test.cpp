@@ -120,7 +120,11 @@ TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndAFailedStartSa
     const auto& main = program->forms.mdiMain;
     std::string counted;
     driver.onCall = [&](std::string_view name) {
-        if (name == "psdrv_chan_reset") counted += Notice() + "|";
+        if (name == "psdrv_chan_reset") {
+            EXPECT_EQ(Cell(counted.empty() ? 0 : 1, 3).Text(), "CONF");
+            EXPECT_GT(std::exchange(fake.events.repaints, 0), 0);
+            counted += Notice() + "|";
+        }
         if (name == "psdrv_chans_initiate") {
             EXPECT_FALSE(main.ConnectedFrame.visible);
         }
@@ -200,16 +204,6 @@ TEST_F(CourseTest, StopGetsThroughWithinASecondHoweverManyCallsAreSlow) {
         EXPECT_LT(stopped - *slowSince, seconds(1)) << c.from;
         EXPECT_LT(run.fake.clock.Monotonic() - stopped, milliseconds(200)) << c.from;
     }
-}
-
-TEST_F(CourseTest, TheFrontEndIsAskedToPaintWhileASensorGetsItsSettings) {
-    StartWith(1);
-    std::string seen;
-    driver.onCall = [&](std::string_view name) {
-        if (name == "psdrv_chan_reset" && fake.events.repaints > 0) seen = Cell(0, 3).Text();
-    };
-    Measure(1);
-    EXPECT_EQ(seen, "CONF");
 }
 
 }  // namespace kelvra::measure
