@@ -19,14 +19,13 @@ class ProgramTest : public QObject {
         return item == nullptr ? QString() : item->text();
     }
 
-    // Measures by click until the cell shows a text, and stops by that act. False when the act did
+    // Measures by click until a level is shown, and stops by that act. False when the act did
     // not stop it.
-    static bool MeasureUntilShown(RunningDesktop& running, QTableWidget& table, int column,
-                                  const std::function<void()>& stop) {
+    static bool MeasureUntilShown(RunningDesktop& running, const std::function<void()>& stop) {
         QObject person;
         bool stopped = true;
         const auto shown = [&] {
-            return !running.Start().isEnabled() && !Cell(table, 0, column).isEmpty();
+            return !running.Start().isEnabled() && !Cell(running.Results(), 0, 2).isEmpty();
         };
         When(person, shown, stop);
         QTimer::singleShot(10000, &person, [&] {
@@ -45,7 +44,7 @@ private slots:
             [&] { running.Click("StopIt"); },
         };
         for (const auto& stop : stops) {
-            QVERIFY(MeasureUntilShown(running, running.Results(), 2, stop));
+            QVERIFY(MeasureUntilShown(running, stop));
             QVERIFY(!running.kelvra.state.commandRuns);
             running.desktop.Painter().Flush();
             QVERIFY(running.Start().isEnabled());
@@ -163,8 +162,7 @@ private slots:
         RunningDesktop running;
         bool exitCameFirst = false;
         QTimer::singleShot(0, &running.Main(), [&] {
-            const bool closed =
-                MeasureUntilShown(running, running.Results(), 2, [&] { running.Main().close(); });
+            const bool closed = MeasureUntilShown(running, [&] { running.Main().close(); });
             exitCameFirst = closed && running.kelvra.state.exiting && running.events.HasQuit();
             if (!exitCameFirst) QCoreApplication::exit(1);
         });
