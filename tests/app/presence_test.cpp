@@ -8,9 +8,6 @@ namespace kelvra::app {
 
 class PresenceTest : public testing::Test, public test::WholeKelvra {
 protected:
-    using Items = std::vector<controls::List::Item>;
-
-    const Items& Listed() const { return program->forms.setupForm.SensSelect.Items(); }
     controls::TextBox& NameBox() { return program->forms.setupForm.SensLogicalName; }
     std::string Current() const { return program->table[program->table.currentSensor].logicalName; }
     void Switch(int slot) { program->forms.statusForm.ResultGrid.ClickCell(slot + 1, 0); }
@@ -48,19 +45,6 @@ TEST_F(PresenceTest, TheCurrentSensorStaysTheCurrentOneUntilItHasGone) {
         EXPECT_EQ(program->forms.mdiMain.TimeSensor_select_new.Text(), step.selected) << step.what;
         EXPECT_EQ(NameBox().Text(), step.current) << step.what;
     }
-}
-
-TEST_F(PresenceTest, TheListsFollowSwitchesAndNames) {
-    StartWith(2);
-    Switch(0);
-    Tick();
-    EXPECT_EQ(Listed(), (Items{{"B", 1}}));
-    driver.devices[1].name = "new";
-    Tick();
-    EXPECT_EQ(Listed(), (Items{{"new", 1}}));
-    Switch(0);
-    Tick();
-    EXPECT_EQ(Listed(), (Items{{"A", 0}, {"new", 1}}));
 }
 
 TEST_F(PresenceTest, TheUsersNameLastsAndOneOfSpacesIsNone) {

@@ -116,18 +116,16 @@ class Session(unittest.TestCase):
             if line is not None:
                 self.assertEqual(console.stdout.readline(), line)
 
-    def test_the_end_of_the_input_and_a_termination_run_the_exit_routine(self):
-        for terminates in [False, True]:
+    def test_the_end_of_the_input_a_termination_and_a_failure_run_the_exit_routine(self):
+        for last, status in [(b"", 0), (b"wait passes 1000000000\n", 1), (b"click StartIt\n", 1)]:
             console = self.start(BENCH)
-            console.stdin.write(b"click StartIt\necho measuring\n")
-            if terminates:
-                console.stdin.write(b"wait passes 1000000000\n")
+            console.stdin.write(b"click StartIt\necho measuring\n" + last)
             self.assertEqual(console.stdout.readline(), b"measuring\n")
-            if terminates:
+            if last.startswith(b"wait"):
                 console.send_signal(signal.SIGTERM)  # the input is still open
             else:
                 console.stdin.close()
-            self.assertEqual(console.wait(LONGEST_RUN_S), 1 if terminates else 0)
+            self.assertEqual(console.wait(LONGEST_RUN_S), status)
             settings = self.data / "Kelvra.INI"
             self.assertIn("[PS-101;100001_MODE]", settings.read_text())
             settings.unlink()

@@ -80,8 +80,7 @@ class AccessibilityTest : public QObject {
 
 private slots:
     void TheTreeIsThatOfTheFile() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         QString tree;
         List(QAccessible::queryAccessibleInterface(&running.Main()), "", tree);
         QFile expected(EXPECTED_TREE);
@@ -92,8 +91,7 @@ private slots:
     }
 
     void ARowSaysWhetherItsSensorIsOn() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         auto* table = QAccessible::queryAccessibleInterface(&running.Results())->tableInterface();
         for (const char* said :
              {"off, sensor 2, PS-106 (checkable)", "on, sensor 2, PS-106 (checkable, checked)"}) {

@@ -89,8 +89,7 @@ private slots:
 
     void ZeroingBeginsWithItsBoxAndEndsWithStopOrTheExit() {
         for (const bool exits : {false, true}) {
-            const QTemporaryDir data;
-            RunningDesktop running(data);
+            RunningDesktop running;
             auto& kelvra = running.kelvra;
             test::FakeDriver driver;
             driver.devices = {{"A", "PS-101", "1"}};
@@ -139,8 +138,7 @@ private slots:
     }
 
     void HelpOpensTheGuideBesideTheProgram() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         const QString page = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                              "/../share/doc/kelvra/help/7151.html");
         QVERIFY(QFile::exists(page));
@@ -207,8 +205,7 @@ private slots:
     }
 
     void AnswersAfterTheExitReachNobody() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         int answers = 0;
         platform::Dialogs& dialogs = running.kelvra.host.dialogs;
         dialogs.Prompt("INPUT:", "", [&](const auto&) { ++answers; });
@@ -226,8 +223,7 @@ private slots:
     }
 
     void TheStateOfATransferIsPaintedAtOnce() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         Painted painted(running.Results());
         auto& marks = running.kelvra.windows.marks;
         marks.TransferBegins(0);
@@ -237,8 +233,7 @@ private slots:
     }
 
     void TheFrameIsInTheMiddleOfTheScreenThatIsThere() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         const auto& place = running.kelvra.forms.mdiMain.place.Get();
         QCOMPARE(2 * place.left + place.width, Twips(screen.width()));

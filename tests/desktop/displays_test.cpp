@@ -43,8 +43,7 @@ class DisplaysTest : public QObject {
 
 private slots:
     void ADisplayIsMadeWhenItIsShownAndLeavesTheResultsInSight() {
-        const QTemporaryDir data;
-        RunningDesktop running(data);
+        RunningDesktop running;
         QVERIFY(running.Main().findChild<GraphWidget*>() == nullptr);
         Trace(running).place = controls::Geometry{6000, 60, 7500, 4500};
         Show(running);

@@ -38,6 +38,7 @@ inline app::Kelvra& Started(app::Kelvra& kelvra) {
 
 class RunningDesktop {
 public:
+    RunningDesktop() : RunningDesktop(std::make_unique<QTemporaryDir>()) {}
     explicit RunningDesktop(const QTemporaryDir& data)
         : surroundings_(
               {drivers_.path().toStdString(), data.path().toStdString(), {}, 1, false, {}}, {}),
@@ -66,6 +67,11 @@ public:
     }
 
 private:
+    explicit RunningDesktop(std::unique_ptr<QTemporaryDir> data) : RunningDesktop(*data) {
+        ownData_ = std::move(data);
+    }
+
+    std::unique_ptr<QTemporaryDir> ownData_;  // of a test with one run
     QTemporaryDir drivers_;
     options::Surroundings surroundings_;
     QtDialogs dialogs_;

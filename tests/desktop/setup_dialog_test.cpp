@@ -13,7 +13,9 @@ class SetupDialogTest : public QObject {
 
     // The program with its setup dialog open.
     struct Opened : RunningDesktop {
-        explicit Opened(const QTemporaryDir& data) : RunningDesktop(data) {
+        Opened() { Open(); }
+        explicit Opened(const QTemporaryDir& data) : RunningDesktop(data) { Open(); }
+        void Open() {
             Click("Show_Settings");
             Painted();
         }
@@ -53,8 +55,7 @@ class SetupDialogTest : public QObject {
 
 private slots:
     void TheTabKeyReachesWhateverCanBeUsedOnEachPage() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         for (const std::int32_t mode : {0, 1, 2, 3, 4}) {
             opened.Form().SensMode.Choose(opened.Form().SensMode.IndexOfData(mode));
             for (int page = 0; page < 5; ++page) {
@@ -71,8 +72,7 @@ private slots:
     }
 
     void AScreenReaderHasANameForEachControl() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         for (QWidget* widget : opened.SetupDialog().findChildren<QWidget*>()) {
             const bool entry = qobject_cast<QLineEdit*>(widget) != nullptr ||
                                qobject_cast<QComboBox*>(widget) != nullptr;
@@ -82,8 +82,7 @@ private slots:
     }
 
     void WhatIsTypedIsStoredAndATextThatIsNoNumberGetsASign() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         opened.Form().PageSelect.Select(1);
         opened.Painted();
         auto& box = opened.In<QLineEdit>("SensContAVTime");
@@ -106,8 +105,7 @@ private slots:
     }
 
     void TheUndoKeysTakeBackAnEditAsAWhole() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         opened.Form().PageSelect.Select(1);
         opened.Painted();
         QApplication::setActiveWindow(&opened.SetupDialog());
@@ -126,8 +124,7 @@ private slots:
     }
 
     void AMarkedSensorGetsTheSettings() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         opened.Settings().ContAVAper = 0.5;
         QTest::mouseClick(&opened.In<QPushButton>("cmdCopySettings"), Qt::LeftButton);
         opened.Painted();
@@ -142,8 +139,7 @@ private slots:
     }
 
     void TheWheelChangesNothing() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         const sensors::SensorSettings before = opened.Settings();
         for (QWidget* widget : opened.SetupDialog().findChildren<QWidget*>()) {
             widget->setFocus();
@@ -177,8 +173,7 @@ private slots:
     }
 
     void TheMenuLetsTheDialogStayOnTopOrNot() {
-        const QTemporaryDir data;
-        Opened opened(data);
+        Opened opened;
         const QPoint place = opened.SetupDialog().pos();
         for (const bool onTop : {true, false, true}) {
             const QWindow* window = opened.SetupDialog().windowHandle();

@@ -2,8 +2,8 @@
 #include "driver/transfer.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
-#include <sstream>
 
 #include "driver/driver_fixture.h"
 
@@ -46,10 +46,20 @@ protected:
         lines_.back() += errors.substr(label, words - label);
     }
 
-    static std::string Expected(const std::string& file) {
-        std::ostringstream text;
-        text << std::ifstream(EXPECTED_FOLDER "/" + file).rdbuf();
-        return text.str();
+    // "lines 2 to 5" are those of continuous.txt.
+    static Lines Expected(const std::string& file) {
+        Lines lines;
+        std::ifstream text(EXPECTED_FOLDER "/" + file);
+        for (std::string line; std::getline(text, line);) {
+            int first = 0, last = 0;
+            if (std::sscanf(line.c_str(), "lines %d to %d", &first, &last) != 2) {
+                lines.push_back(line);
+                continue;
+            }
+            const Lines same = Expected("continuous.txt");
+            lines.insert(lines.end(), same.begin() + first - 1, same.begin() + last);
+        }
+        return lines;
     }
 
     Lines lines_;
@@ -78,7 +88,8 @@ TEST_F(TransferTest, SendsTheSettingsOfEachModeInOrderAndReportsErrorsUnderTheir
     for (const auto& [file, change] : cases) {
         SensorSettings settings = sensors::DefaultSettings();
         change(settings);
-        EXPECT_EQ(Sent(settings), Expected(file)) << file;
+        Sent(settings);
+        EXPECT_EQ(lines_, Expected(file)) << file;
     }
 }
 

@@ -48,11 +48,17 @@ TEST_F(CourseTest, AFailingCallIsItsSensorsErrorUntilTheSameCallIsGood) {
 TEST_F(CourseTest, AnErrorIsNotTakenBackByAnotherSensorsCleanTransfer) {
     StartWith(2);
     driver.status = [](std::string_view name, int n) {
-        return name == "psdrv_trigger_setCount" && n == 1 ? 7 : 0;
+        const bool refused = name == "psdrv_trigger_setCount" || name == "psdrv_trigger_setLevel";
+        return refused && n == 1 ? 7 : 0;
     };
     Measure(2);
     EXPECT_EQ(driver.Count("psdrv_trigger_setCount"), 2);
-    EXPECT_EQ(Strip(), "A: Trigger Count\r\n  bad value\r\n  queue empty");
+    const std::string words = "\r\n  bad value\r\n  queue empty";
+    EXPECT_EQ(Strip(), "A: Trigger Count" + words + "\r\nTrigger Level" + words);
+    EXPECT_EQ(Notice(), Strip());
+    Measure(1);  // sends them anew
+    EXPECT_EQ(Strip(), "");
+    EXPECT_FALSE(program->forms.mdiMain.ConnectedFrame.visible);
 }
 
 TEST_F(CourseTest, SettingsLoadedWhilePassesGoOnReachTheSensorBeforeTheirModeDoes) {
@@ -120,7 +126,11 @@ TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndAFailedStartSa
     const auto& main = program->forms.mdiMain;
     std::string counted;
     driver.onCall = [&](std::string_view name) {
-        if (name == "psdrv_chan_reset") counted += Notice() + "|";
+        if (name == "psdrv_chan_reset") {
+            EXPECT_EQ(Cell(counted.empty() ? 0 : 1, 3).Text(), "CONF");
+            EXPECT_GT(std::exchange(fake.events.repaints, 0), 0);
+            counted += Notice() + "|";
+        }
         if (name == "psdrv_chans_initiate") {
             EXPECT_FALSE(main.ConnectedFrame.visible);
         }
@@ -129,9 +139,12 @@ TEST_F(CourseTest, TheNoticeCountsTheSensorsThatStartConfiguresAndAFailedStartSa
     EXPECT_EQ(counted, "Configuring 1 of 2|Configuring 2 of 2|");
     for (int slot : {0, 1, 2}) program->table[slot].enabled = false;
     PressStart();
-    EXPECT_TRUE(main.NotMeasuring.visible);
-    PressStop();
-    EXPECT_FALSE(main.NotMeasuring.visible);
+    for (const bool failed : {true, false}) {
+        EXPECT_EQ(main.NotMeasuring.visible, failed);
+        EXPECT_EQ(main.StartIt.enabled, !failed);
+        EXPECT_EQ(main.StopIt.enabled, failed);
+        PressStop();
+    }
 }
 
 TEST_F(CourseTest, TheSpeedCountsWholePassesWithoutPausesAndThePictureMovesAllTheTime) {
@@ -200,16 +213,6 @@ TEST_F(CourseTest, StopGetsThroughWithinASecondHoweverManyCallsAreSlow) {
         EXPECT_LT(stopped - *slowSince, seconds(1)) << c.from;
         EXPECT_LT(run.fake.clock.Monotonic() - stopped, milliseconds(200)) << c.from;
     }
-}
-
-TEST_F(CourseTest, TheFrontEndIsAskedToPaintWhileASensorGetsItsSettings) {
-    StartWith(1);
-    std::string seen;
-    driver.onCall = [&](std::string_view name) {
-        if (name == "psdrv_chan_reset" && fake.events.repaints > 0) seen = Cell(0, 3).Text();
-    };
-    Measure(1);
-    EXPECT_EQ(seen, "CONF");
 }
 
 }  // namespace kelvra::measure

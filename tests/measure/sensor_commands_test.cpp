@@ -274,36 +274,17 @@ TEST(SensorCommands, TheLogHasTheirCallsInOrder) {
     }
 }
 
-TEST(SensorCommands, InSimulationTheyDoNothing) {
-    test::WholeKelvra k;
-    k.Start();
-    for (const auto button : {CommandsKelvra::Zero, CommandsKelvra::ZeroAll,
-                              CommandsKelvra::SelfTest, CommandsKelvra::Information})
-        (k.program->forms.setupForm.*button).Press();
-    EXPECT_EQ(k.driver.Count("psdrv_init"), 0);
-    EXPECT_TRUE(k.fake.dialogs.messages.empty());
-    EXPECT_FALSE(k.program->forms.sensInfoForm.visible);
-}
-
-TEST(SensorCommands, InformationIsShownCopiedAndSaved) {
+TEST(SensorCommands, WhatIsSavedIsTheInformationThatWasShownWhenTheFileWasAskedFor) {
     CommandsKelvra k(1);
     auto& form = k.program->forms.sensInfoForm;
     k.Press(CommandsKelvra::Information);
-    EXPECT_TRUE(form.visible);
-    EXPECT_EQ(form.lblInfoSensor.caption.Get(), "Information of sensor 2 (B)");
     using Items = std::vector<controls::List::Item>;
-    EXPECT_EQ(form.InfoHeader.Items(), (Items{{"Type", 0}, {"Made", 0}, {"Limits", 0}}));
     EXPECT_EQ(form.InfoValue.Items(), (Items{{"PS-101", 0}, {"", 0}, {" -60:20", 0}}));
-    form.InfoHeader.Choose(2);
-    EXPECT_EQ(form.InfoValue.Index(), 2);
-    form.cmdInfoCopy.Press();
-    EXPECT_EQ(k.fake.dialogs.copied.back(), "Type\tPS-101\nMade\t\nLimits\t-60:20\n");
     platform::Dialogs::Answer answer;
     k.fake.dialogs.onFileQuestion = [&](auto given) { answer = std::move(given); };
     form.cmdInfoSave.Press();
     k.driver.averagingCount = 0;
-    k.Press(CommandsKelvra::Information);  // the window shows something else by now
-    EXPECT_EQ(form.InfoHeader.Count(), 0);
+    k.Press(CommandsKelvra::Information);
     EXPECT_FALSE(form.cmdInfoSave.enabled);
     answer(k.folder.Path("info.txt"));
     EXPECT_EQ(k.folder.Get("info.txt"), "Type: PS-101\r\nMade: \r\nLimits: -60:20\r\n");

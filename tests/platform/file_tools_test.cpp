@@ -122,6 +122,17 @@ TEST_F(FileToolsTest, AFileAboveTheLimitIsNeitherReadNorMade) {
     EXPECT_EQ(fs::file_size(path_), LargestFile);
 }
 
+TEST_F(FileToolsTest, AProfileThatIsNotThereIsMadeByAWriteOnly) {
+    ProfileFile profile(files_, path_);
+    EXPECT_FALSE(profile.LoadError());
+    profile.Text().DeleteKey("s", "k");
+    EXPECT_FALSE(profile.Save());
+    EXPECT_EQ(folder_.Names(), Names());
+    profile.Text().Write("s", "k", "v");
+    EXPECT_FALSE(profile.Save());
+    EXPECT_EQ(folder_.Get("f"), "[s]\r\nk=v\r\n");
+}
+
 TEST_F(FileToolsTest, AppendingMakesTheFileAndContinuesAShortWrite) {
     EXPECT_FALSE(AppendToFile(files_, path_, "one,"));
     faulty_.Plan(2, Fault::Short);

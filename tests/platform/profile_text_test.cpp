@@ -25,6 +25,16 @@ TEST(ProfileText, ReadsWhatTheFirstKeyOfTheFirstSectionSays) {
     };
     for (const auto& [bytes, section, key, value] : cases)
         EXPECT_EQ(ProfileText(bytes).Read(section, key, "none"), value) << bytes;
+    const std::string longest(ProfileText::BufferSize - 1, 'x');
+    EXPECT_EQ(ProfileText("[s]\nk=" + longest + 'x').Read("s", "k", ""), longest);
+}
+
+TEST(ProfileText, TheFallbackLosesBlanksAtItsEndAndItsQuotes) {
+    const struct { std::string fallback, value; } cases[] = {
+        {" none ", " none"}, {"\" v \" ", " v "}, {"'v", "'v"}, {"''", ""}, {"\xE9", "\xE9"},
+    };
+    for (const auto& [fallback, value] : cases)
+        EXPECT_EQ(ProfileText("[s]\n k \n").Read("s", "k", fallback), value);
 }
 
 TEST(ProfileText, WritesInPlaceAndLeavesTheRest) {

@@ -75,25 +75,6 @@ TEST(EnableStates, FieldsGoByModeAndModel) {
     }
 }
 
-TEST(EnableStates, APageCanBeUsedIfItsSettingsAreSent) {
-    const struct {
-        const char* type;
-        bool trigger, advanced;
-    } cases[] = {{"PS-101", true, true},
-                 {"PS-102", false, false},
-                 {"PS-103", true, true},
-                 {"new", true, true}};
-    for (const auto& c : cases) {
-        Situation situation = AtStart();
-        situation.takesTrigger = driver::TakesTriggerAndMode(c.type);
-        situation.takesAdvanced = driver::TakesAdvanced(c.type);
-        const EnableStates states = FindEnableStates(situation);
-        EXPECT_EQ(states.triggerPage, c.trigger) << c.type;
-        EXPECT_EQ(states.triggerLevel, c.trigger) << c.type;
-        EXPECT_EQ(states.advancedPage, c.advanced) << c.type;
-    }
-}
-
 TEST(EnableStates, SwitchesAndTriggerSourceRuleOverTheirOwnFields) {
     Situation situation = AtStart();
     situation.settings.Mode = sensors::TimeSlot;

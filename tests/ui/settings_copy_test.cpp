@@ -117,21 +117,4 @@ TEST_F(SettingsCopyTest, TheWindowFollowsTheSensorsAndMarksBelongToThem) {
     EXPECT_FALSE(Form().visible);
 }
 
-TEST_F(SettingsCopyTest, ACopyWhileMeasuringIsSentInTheNextPass) {
-    fake.events.onRound = [this](int round) {
-        if (round == 5) {
-            Form().cmdCopyAll.Press();
-            Form().cmdCopy.Press();
-            EXPECT_TRUE(program->table[3].settingsChanged);
-        }
-        if (round == 30) {
-            EXPECT_FALSE(program->table[3].settingsChanged);
-            EXPECT_TRUE(program->state.measuring);
-            PressStop();
-        }
-    };
-    PressStart();
-    EXPECT_EQ(Settings(3).Mode, sensors::TimeSlot);
-}
-
 }  // namespace kelvra::ui

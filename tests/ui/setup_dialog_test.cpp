@@ -38,6 +38,8 @@ protected:
 };
 
 TEST_F(SetupDialogTest, EachFieldStoresItsOwnSettingAndNoOther) {
+    // The two that decide what is displayed have no field.
+    EXPECT_EQ(std::size(SetupRows()) + 2, std::size(sensors::SettingsFields()));
     for (const SetupRow& row : SetupRows()) {
         const bool always = row.rule == SetupRule::AlwaysChecked;
         Settings() = sensors::DefaultSettings();

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace kelvra::ui {
 namespace {
 
@@ -16,26 +14,6 @@ protected:
     forms::SetupForm form_{changes_};
     sensors::SensorSettings settings_ = sensors::DefaultSettings();
 };
-
-const controls::Control* FieldOf(const forms::SetupForm& form, const SetupRow& row) {
-    return std::visit([&](auto field) -> const controls::Control* { return &(form.*field); },
-                      row.field);
-}
-
-// The two that decide what is displayed have no control.
-TEST_F(SetupRowsTest, EverySettingButTwoHasOneFieldOfItsOwn) {
-    std::vector<const controls::Control*> fields;
-    for (const SetupRow& row : SetupRows()) fields.push_back(FieldOf(form_, row));
-    std::sort(fields.begin(), fields.end());
-    EXPECT_EQ(std::adjacent_find(fields.begin(), fields.end()), fields.end());
-    for (const sensors::SettingsField& setting : sensors::SettingsFields()) {
-        const std::string_view name = setting.name;
-        const auto rows =
-            std::count_if(SetupRows().begin(), SetupRows().end(),
-                          [&](const SetupRow& row) { return row.member == setting.member; });
-        EXPECT_EQ(rows, name == "TSlotGraph" || name == "TSlotTable" ? 0 : 1) << name;
-    }
-}
 
 TEST_F(SetupRowsTest, NumbersAreShownInTheUnitOfTheDialog) {
     settings_.ContAVAper = 0.0123;
