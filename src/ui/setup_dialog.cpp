@@ -246,6 +246,7 @@ void SetupDialog::StoreLimit(const ScaleBox& row) {
     if (std::isfinite(typed.value)) Scaling().*row.limit = typed.value;
     box.fault = std::isfinite(typed.value) ? typed.fault : std::string("This is out of range.");
     JudgeLimits();
+    p_.edits.listeners.Tell(&SettingsListener::ScaleEdited, int{p_.table.currentSensor});
 }
 
 void SetupDialog::JudgeLimits() {
@@ -267,6 +268,7 @@ void SetupDialog::StoreAutomatic() {
     if (filling_ || Current() == nullptr) return;
     Scaling().autoScaleScope = p_.form.chkAutoScaleScope.Checked();
     Scaling().autoScaleTime = p_.form.chkAutoScaleTime.Checked();
+    p_.edits.listeners.Tell(&SettingsListener::ScaleEdited, int{p_.table.currentSensor});
 }
 
 bool SetupDialog::TraceScaleShown() const {

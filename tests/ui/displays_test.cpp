@@ -87,6 +87,20 @@ TEST_F(DisplaysTest, ADragIsOneEditAlsoWhileTracesCome) {
     EXPECT_DOUBLE_EQ(Trace().Display.CursorAt(4).x, 1);
 }
 
+TEST_F(DisplaysTest, AnEditedScaleIsSeenAtOnce) {
+    for (const bool trace : {true, false}) {
+        driver.devices.clear();
+        Begin(trace ? sensors::Trace : sensors::TimeSlot);
+        Measure(1);
+        forms::SetupForm& dialog = program->forms.setupForm;
+        const controls::Graph& graph = trace ? Trace().Display : Slots().Display;
+        (trace ? dialog.txtMaxScope : dialog.txtMaxTime).Type("12");
+        EXPECT_EQ(graph.ShownAxes().y.max, 12) << trace;
+        (trace ? dialog.chkAutoScaleScope : dialog.chkAutoScaleTime).Toggle();
+        EXPECT_NEAR(graph.ShownAxes().y.max, 10.02, 0.01) << trace;  // the highest is 6.02 dBm
+    }
+}
+
 TEST_F(DisplaysTest, KeysAndTypedTextsMoveTheChosenCursor) {
     Begin(sensors::Trace);
     Measure(1);

@@ -22,6 +22,8 @@ public:
     virtual void SettingsEdited(int /*slot*/, const sensors::SensorSettings& /*before*/) {}
     // The slot's sensor has got other settings, from elsewhere than the dialog.
     virtual void SettingsReplaced(int /*slot*/) {}
+    // The scale of the slot's displays has been edited.
+    virtual void ScaleEdited(int /*slot*/) {}
 };
 
 class SettingsEdits {

@@ -43,6 +43,9 @@ public:
     void ListedChanged() override { Redraw(); }
     // Redraws if the trigger has been edited.
     void SettingsEdited(int slot, const sensors::SensorSettings& before) override;
+    void ScaleEdited(int slot) override {
+        if (slot == Slot()) Redraw();
+    }
 
 private:
     int Slot() const;  // -1: none

@@ -52,6 +52,9 @@ public:
     void ListedChanged() override { Redraw(); }
     // Redraws if what has been edited is drawn.
     void SettingsEdited(int slot, const sensors::SensorSettings& before) override;
+    void ScaleEdited(int slot) override {
+        if (slot == Slot()) Redraw();
+    }
 
 private:
     int Slot() const;  // -1: none
