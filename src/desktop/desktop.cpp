@@ -53,7 +53,7 @@ void Desktop::Recolour() {
 
 // Dialogs are made when they are first shown: many runs never show them.
 void Desktop::AddDialog(controls::Window& record,
-                        std::function<QWidget*(WidgetMaker& maker)> makeContent) {
+                        const std::function<QWidget*(WidgetMaker& maker)>& makeContent) {
     const auto make = [this, &record, makeContent]() -> DialogWindow& {
         WidgetMaker maker(mirror_);
         dialogs_.push_back(

@@ -27,7 +27,7 @@ void DisplayWindowAdapter::Update() {
     if (onUpdate) onUpdate();
 }
 
-DisplayWindows::DisplayWindows(const Parts& parts) : p_(parts) {
+DisplayWindows::DisplayWindows(Parts parts) : p_(std::move(parts)) {
     forms::Forms& forms = p_.forms;
     Add(forms.scopeDisp, [this](WidgetMaker& maker) {
         return MakeTraceView(p_.forms.scopeDisp, maker, p_.dialogs);

@@ -250,7 +250,7 @@ void SetupDialog::StoreLimit(const ScaleBox& row) {
 }
 
 void SetupDialog::JudgeLimits() {
-    static const std::string crossed = "The maximum must be above the minimum.";
+    const std::string crossed = "The maximum must be above the minimum.";
     const sensors::DisplayScaling& scaling = Scaling();
     const struct {
         controls::TextBox &least, &most;

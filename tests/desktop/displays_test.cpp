@@ -28,7 +28,7 @@ class DisplaysTest : public QObject {
 
     // The entry of the graph's menu, with the name that is typed then.
     static void SavePicture(RunningDesktop& running, const QString& path) {
-        GraphWidget& graph = running.Find<GraphWidget>("Display");
+        auto& graph = running.Find<GraphWidget>("Display");
         QContextMenuEvent asks(QContextMenuEvent::Mouse, {}, graph.mapToGlobal(QPoint()));
         QCoreApplication::sendEvent(&graph, &asks);
         auto* menu = graph.findChild<QMenu*>();

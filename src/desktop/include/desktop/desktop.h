@@ -36,7 +36,7 @@ public:
 private:
     void Recolour();
     void AddDialog(controls::Window& record,
-                   std::function<QWidget*(WidgetMaker& maker)> makeContent);
+                   const std::function<QWidget*(WidgetMaker& maker)>& makeContent);
     void KeepLook();
 
     QtEvents& events_;

@@ -45,7 +45,7 @@ public:
         std::function<void(bool beside, bool below)> onShown;
     };
 
-    explicit DisplayWindows(const Parts& parts);
+    explicit DisplayWindows(Parts parts);
 
     // Keeps the places that the user has given, for the next run.
     void KeepPlaces();
