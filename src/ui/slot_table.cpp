@@ -76,9 +76,9 @@ void SlotTable::Write(const sensors::SensorEntry& entry) {
 
 // A slot without a reading is empty. Statistics come with the last reading of the first full ring.
 void SlotTable::WriteRow(int row, const sensors::ReadingRing& ring) {
-    const auto statistics = ring.Statistics().value_or(sensors::LevelStatistics{});
     form_.TimeSlots.SetCell(row, 0, util::CountFigure(row, numbers_), Plain);
     if (ring.Index() < 0) return ClearRow(row);
+    const auto statistics = ring.Statistics().value_or(sensors::LevelStatistics{});
     const double values[] = {ring.LastLevel(), statistics.max, statistics.min, statistics.mean,
                              statistics.sigma};
     for (int column = 1; const double value : values)

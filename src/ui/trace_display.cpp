@@ -31,6 +31,7 @@ auto Drawn(const SensorSettings& s) {
 // Decimals of a time in ms that tell neighbouring points apart, to 1 ns.
 int DecimalsFor(double step) {
     constexpr double fewest = 3, most = 6;
+    if (!(step > 0)) return static_cast<int>(fewest);
     return static_cast<int>(std::clamp(1 - std::floor(std::log10(step)), fewest, most));
 }
 
