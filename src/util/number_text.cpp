@@ -173,7 +173,7 @@ std::string GroupedText(double value, const NumberForm& form) {
 
 std::string GeneralText(double value, const NumberForm& form) {
     if (!std::isfinite(value)) return std::string(NotFinite(value));
-    return Compose(Split(value, SignificantDigits), {form.decimal, "0", -5});
+    return Compose(Split(value, SignificantDigits), {form.decimal, "0", -4});
 }
 
 }  // namespace kelvra::util

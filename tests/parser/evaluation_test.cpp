@@ -40,7 +40,7 @@ TEST(Evaluation, FailureNamesTheOperationAndItsPlace) {
     const struct { std::string_view text, message; } cases[] = {
         {"sqr(-4)", "Evaluation error <sqr(-4)> at pos: 4"},
         {"2+Root(2;0)", "Evaluation error <Root(2 , 0)> at pos: 9"},
-        {"1><.00001", "Evaluation error <1 >< 0.00001> at pos: 3"},
+        {"1><.00001", "Evaluation error <1 >< 1E-05> at pos: 3"},
         {"1/(1/3-1/3)", "Evaluation error <1 / 0> at pos: 2"},
         {"(1/3)%0", "Evaluation error <0.333333333333333 % 0> at pos: 6"},
     };

@@ -52,8 +52,8 @@ TEST(FixedPatterns, AreThePatternsInAnyLocale) {
         {GroupedText(1234567890.5, english), "1,234,567,890.500"},
         {GroupedText(43200, {".", ""}), "00043200.000"},
         {GroupedText(1, wide), "00\xD9\xAC" "000\xD9\xAC" "001\xD9\xAB" "000"},
-        {GeneralText(-1.5, german), "-1,5"}, {GeneralText(0.00001, english), "0.00001"},
-        {GeneralText(0.000001, english), "1E-06"}, {GeneralText(1e15, german), "1E+15"},
+        {GeneralText(-1.5, german), "-1,5"}, {GeneralText(0.0001, english), "0.0001"},
+        {GeneralText(0.00001, english), "1E-05"}, {GeneralText(1e15, german), "1E+15"},
     };
     for (const auto& [text, expected] : cases) EXPECT_EQ(text, expected);
 }

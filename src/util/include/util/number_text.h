@@ -48,7 +48,7 @@ std::string ScientificText(double value, const NumberForm& form);
 std::string GroupedText(double value, const NumberForm& form);
 
 // General form: up to 15 significant digits, a zero before the point, the locale's decimal
-// separator, "E" form outside 1E-05 .. 1E+15.
+// separator, "E" form below 1E-04 and from 1E+15 on.
 std::string GeneralText(double value, const NumberForm& form);
 
 }  // namespace kelvra::util
