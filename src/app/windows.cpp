@@ -29,9 +29,9 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
       setupDialog(
           {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
-      traceDisplay({forms, table, edits, setupDialog, selection, host}),
-      slotDisplay({forms, table, edits, setupDialog, selection, host}),
-      slotTable(forms, table, edits, selection, host.computer),
+      traceDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
+      slotDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
+      slotTable(forms, table, edits, displayLists, selection, host.computer),
       displayData(forms, table, notice, host),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {

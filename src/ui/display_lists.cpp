@@ -22,9 +22,16 @@ void DisplayLists::ModesChanged() {
     for (const sensors::Mode mode : {sensors::TimeSlot, sensors::Trace}) Fill(mode);
 }
 
-controls::List& DisplayLists::ListOf(sensors::Mode mode) {
+controls::List& DisplayLists::ListOf(sensors::Mode mode) const {
     return mode == sensors::TimeSlot ? forms_.timeSlotDisp.Timeslot_Sensorselect
                                      : forms_.scopeDisp.Scope_Sensorselect;
+}
+
+int DisplayLists::Slot(sensors::Mode mode) const {
+    const int slot = ListOf(mode).Data();
+    const bool measures =
+        slot >= 0 && slot < table_.Slots() && sensors::MeasuresIn(table_[slot], mode);
+    return measures ? slot : -1;
 }
 
 void DisplayLists::Select(sensors::Mode mode, int slot) {

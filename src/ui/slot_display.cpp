@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "ui/level_axis.h"
 #include "ui/trace_cursors.h"
@@ -41,13 +43,6 @@ SlotDisplay::SlotDisplay(const Parts& parts)
     SayWhatIsAwaited(false);
 }
 
-int SlotDisplay::Slot() const {
-    const int slot = form_.Timeslot_Sensorselect.Data();
-    const bool measures = slot >= 0 && slot < p_.table.Slots() &&
-                          sensors::MeasuresIn(p_.table[slot], sensors::TimeSlot);
-    return measures ? slot : -1;
-}
-
 // The sensor that the user chooses here becomes the current one.
 void SlotDisplay::Choose() {
     p_.selection.Select(Slot());
@@ -81,14 +76,14 @@ void SlotDisplay::Draw(int slot) {
 
 void SlotDisplay::DrawStairs(const SensorEntry& entry) {
     const auto slots = static_cast<std::size_t>(std::max<int>(entry.settings.TSlotCount, 0));
-    levels_ = entry.results;
-    levels_.resize(std::min(levels_.size(), slots));
-    util::ArrayW2dBm(levels_);
+    std::vector<double> levels = entry.results;
+    levels.resize(std::min(levels.size(), slots));
+    util::ArrayW2dBm(levels);
     Graph::Plot stairs{FirstEdge, 1, {}};
-    if (!levels_.empty()) stairs.values.push_back(levels_.front());
-    stairs.values.insert(stairs.values.end(), levels_.begin(), levels_.end());
+    if (!levels.empty()) stairs.values.push_back(levels.front());
+    stairs.values.insert(stairs.values.end(), levels.begin(), levels.end());
     graph_.SetCurve(std::move(stairs));
-    const double end = static_cast<double>(levels_.size()) + FirstEdge;
+    const double end = static_cast<double>(levels.size()) + FirstEdge;
     graph_.SetX({FirstEdge - Room, end + Room});
 }
 
@@ -105,10 +100,7 @@ void SlotDisplay::PlaceLevel(SensorEntry* entry) {
 void SlotDisplay::Rescale(int slot) {
     if (slot != p_.table.currentSensor || !p_.dialog.TimeSlotScaleShown()) return;
     const sensors::DisplayScaling& scaling = p_.table.scaling[static_cast<std::size_t>(slot)];
-    if (!scaling.autoScaleTime)
-        graph_.SetY({scaling.minTime, scaling.maxTime});
-    else if (const auto highest = HighestOf(levels_))
-        graph_.SetY(AutomaticAxis(*highest));
+    SetLevelAxis(graph_, scaling.autoScaleTime, {scaling.minTime, scaling.maxTime});
 }
 
 void SlotDisplay::Dragged(double level) {
@@ -128,15 +120,14 @@ void SlotDisplay::Dragged(double level) {
 
 void SlotDisplay::ShowPointed(double x) {
     const double number = std::nearbyint(x);
-    const bool isSlot = number >= 1 && number <= static_cast<double>(levels_.size()) &&
-                        !graph_.Curve().values.empty();
+    const std::vector<double>& stairs = graph_.Curve().values;  // the first slot has two values
+    const bool isSlot = number >= 1 && number < static_cast<double>(stairs.size());
     const util::NumberForm& numbers = p_.host.computer.Numbers();
     constexpr int decimals = 3;
     form_.lblPointed.caption =
         !isSlot ? std::string()
                 : "Slot " + util::FixedText(number, 0, numbers) + ": " +
-                      util::FixedText(levels_[static_cast<std::size_t>(number) - 1], decimals,
-                                      numbers) +
+                      util::FixedText(stairs[static_cast<std::size_t>(number)], decimals, numbers) +
                       " dBm";
 }
 

@@ -20,11 +20,9 @@ constexpr controls::Grid::Look Plain{};
 }  // namespace
 
 SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsEdits& edits,
-                     SensorSelection& selection, platform::Computer& computer)
-    : form_(forms.timeSlotTabForm),
-      sensors_(forms.timeSlotDisp.Timeslot_Sensorselect),
-      table_(table),
-      numbers_(computer.Numbers()) {
+                     const DisplayLists& lists, SensorSelection& selection,
+                     platform::Computer& computer)
+    : form_(forms.timeSlotTabForm), lists_(lists), table_(table), numbers_(computer.Numbers()) {
     controls::Grid& grid = form_.TimeSlots;
     controls::Grid::Look bold;
     bold.bold = true;
@@ -41,13 +39,6 @@ SlotTable::SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsE
     forms.mdiMain.resize.Connect([this] { Refresh(); });
     forms.mdiMain.WindowSlotTable.click.Connect([this] { Refresh(); });
     form_.ResetStat.click.Connect([this] { Reset(); });
-}
-
-int SlotTable::Slot() const {
-    const int slot = sensors_.Data();
-    const bool measures =
-        slot >= 0 && slot < table_.Slots() && sensors::MeasuresIn(table_[slot], sensors::TimeSlot);
-    return measures ? slot : -1;
 }
 
 void SlotTable::ArrayArrived(int slot) {

@@ -84,13 +84,6 @@ int TraceDisplay::ShownIndex(TraceCursor cursor) const {
     return index < graph_.CursorCount() && graph_.CursorAt(index).visible ? index : -1;
 }
 
-int TraceDisplay::Slot() const {
-    const int slot = form_.Scope_Sensorselect.Data();
-    const bool measures =
-        slot >= 0 && slot < p_.table.Slots() && sensors::MeasuresIn(p_.table[slot], sensors::Trace);
-    return measures ? slot : -1;
-}
-
 // The sensor that the user chooses here becomes the current one.
 void TraceDisplay::Choose() {
     p_.selection.Select(Slot());
@@ -150,11 +143,11 @@ void TraceDisplay::Draw(int slot) {
 // The time axis stays while the zoom is on; a part that is shown stays anyway.
 void TraceDisplay::DrawCurve(const SensorEntry& entry) {
     const SensorSettings& settings = entry.settings;
-    levels_.assign(entry.results.begin(), entry.results.end());
-    util::ArrayW2dBm(levels_);
+    std::vector<double> levels = entry.results;
+    util::ArrayW2dBm(levels);
     const double first = settings.ScopeOffset * MsPerSecond;
-    const double points = std::max(static_cast<double>(levels_.size()), 1.0);
-    if (!graph_.SetCurve({first, settings.ScopeTime * MsPerSecond / points, levels_}))
+    const double points = std::max(static_cast<double>(levels.size()), 1.0);
+    if (!graph_.SetCurve({first, settings.ScopeTime * MsPerSecond / points, std::move(levels)}))
         graph_.SetCurve({});  // times beyond all measure
     const Graph::Axis& time = graph_.WholeAxes().x;
     if (!Zoomed() || graph_.Zoomed() || time.min == time.max)
@@ -165,10 +158,7 @@ void TraceDisplay::DrawCurve(const SensorEntry& entry) {
 void TraceDisplay::Rescale(int slot) {
     if (slot != p_.table.currentSensor || !p_.dialog.TraceScaleShown()) return;
     const sensors::DisplayScaling& scaling = p_.table.scaling[static_cast<std::size_t>(slot)];
-    if (!scaling.autoScaleScope)
-        graph_.SetY({scaling.minScope, scaling.maxScope});
-    else if (const auto highest = HighestOf(levels_))
-        graph_.SetY(AutomaticAxis(*highest));
+    SetLevelAxis(graph_, scaling.autoScaleScope, {scaling.minScope, scaling.maxScope});
 }
 
 // A caption in the middle of each slot, at the upper end of the level axis.

@@ -71,11 +71,11 @@ class SlotListener {
 public:
     virtual ~SlotListener() = default;
 
-    virtual void SlotStarted(int slot) = 0;
-    virtual void SlotComplete(int slot) = 0;
+    virtual void SlotStarted(int /*slot*/) {}
+    virtual void SlotComplete(int /*slot*/) {}
     // The sensor's entry has a new scalar reading, or a new array.
-    virtual void ReadingArrived(int slot) = 0;
-    virtual void ArrayArrived(int slot) = 0;
+    virtual void ReadingArrived(int /*slot*/) {}
+    virtual void ArrayArrived(int /*slot*/) {}
 };
 
 struct News {

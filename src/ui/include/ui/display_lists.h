@@ -19,11 +19,13 @@ public:
     // A selected sensor that is still listed stays selected.
     void ModesChanged() override;
     void ListedChanged() override { ModesChanged(); }
+    // The slot of the sensor that the mode's display shows; -1: none.
+    int Slot(sensors::Mode mode) const;
     // Selects the slot in the list of that mode's display, if it is listed there.
     void Select(sensors::Mode mode, int slot);
 
 private:
-    controls::List& ListOf(sensors::Mode mode);
+    controls::List& ListOf(sensors::Mode mode) const;
     void Fill(sensors::Mode mode);
 
     forms::Forms& forms_;

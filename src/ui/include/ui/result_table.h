@@ -38,8 +38,6 @@ public:
     void Started() override;
     void ModesChanged() override;
     void SwitchedOff(int slot) override { PaintName(slot); }
-    void SlotStarted(int /*slot*/) override {}
-    void SlotComplete(int /*slot*/) override {}
     // Cells for scalar results are white; they are grey where arrays arrive.
     void ReadingArrived(int slot) override;
     void ArrayArrived(int slot) override;

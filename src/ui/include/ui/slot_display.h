@@ -4,12 +4,10 @@
 // hidden it draws nothing; it catches up when it is shown.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "forms/forms.h"
 #include "measure/listener.h"
 #include "platform/host.h"
+#include "ui/display_lists.h"
 #include "ui/sensor_selection.h"
 #include "ui/settings_edits.h"
 #include "ui/setup_dialog.h"
@@ -26,6 +24,7 @@ public:
         sensors::SensorTable& table;
         SettingsEdits& edits;
         const SetupDialog& dialog;
+        const DisplayLists& lists;
         SensorSelection& selection;
         platform::Host& host;
     };
@@ -35,9 +34,6 @@ public:
     void Started() override { SayWhatIsAwaited(true); }
     void Stopped() override { SayWhatIsAwaited(false); }
     void ModesChanged() override { Redraw(); }
-    void SlotStarted(int /*slot*/) override {}
-    void SlotComplete(int /*slot*/) override {}
-    void ReadingArrived(int /*slot*/) override {}
     void ArrayArrived(int slot) override;
     void CurrentSensorChanged() override { Redraw(); }
     void ListedChanged() override { Redraw(); }
@@ -48,7 +44,7 @@ public:
     }
 
 private:
-    int Slot() const;  // -1: none
+    int Slot() const { return p_.lists.Slot(sensors::TimeSlot); }  // -1: none
     void Choose();
     void Redraw();
     void Draw(int slot);
@@ -62,7 +58,6 @@ private:
     Parts p_;
     forms::TimeSlotDisp& form_;
     controls::Graph& graph_;
-    std::vector<double> levels_;  // dBm, of the slots that are drawn
 };
 
 }  // namespace kelvra::ui

@@ -8,6 +8,7 @@
 #include "measure/listener.h"
 #include "platform/computer.h"
 #include "sensors/sensor_table.h"
+#include "ui/display_lists.h"
 #include "ui/sensor_selection.h"
 #include "ui/settings_edits.h"
 
@@ -19,12 +20,9 @@ class SlotTable final : public measure::MeasurementListener,
                         public SettingsListener {
 public:
     SlotTable(forms::Forms& forms, sensors::SensorTable& table, SettingsEdits& edits,
-              SensorSelection& selection, platform::Computer& computer);
+              const DisplayLists& lists, SensorSelection& selection, platform::Computer& computer);
 
     void ModesChanged() override { Refresh(); }
-    void SlotStarted(int /*slot*/) override {}
-    void SlotComplete(int /*slot*/) override {}
-    void ReadingArrived(int /*slot*/) override {}
     void ArrayArrived(int slot) override;
     void CurrentSensorChanged() override { Refresh(); }
     void ListedChanged() override { Refresh(); }
@@ -32,7 +30,7 @@ public:
     void SettingsEdited(int slot, const sensors::SensorSettings& before) override;
 
 private:
-    int Slot() const;  // -1: none
+    int Slot() const { return lists_.Slot(sensors::TimeSlot); }  // -1: none
     void Refresh();
     void Write(const sensors::SensorEntry& entry);
     void WriteRow(int row, const sensors::ReadingRing& ring);
@@ -41,7 +39,7 @@ private:
     void Reset();
 
     forms::TimeSlotTabForm& form_;
-    const controls::List& sensors_;
+    const DisplayLists& lists_;
     sensors::SensorTable& table_;
     const util::NumberForm& numbers_;
 };

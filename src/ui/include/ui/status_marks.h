@@ -24,8 +24,6 @@ public:
     // The bar ends with a point while the sensor is waited for.
     void SlotStarted(int slot) override { ShowActivity(slot, true); }
     void SlotComplete(int slot) override { ShowActivity(slot, false); }
-    void ReadingArrived(int /*slot*/) override {}
-    void ArrayArrived(int /*slot*/) override {}
 
     void TransferBegins(int slot) override;
     void TransferEnds(int slot) override { ShowNoState(slot); }

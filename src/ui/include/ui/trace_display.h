@@ -12,6 +12,7 @@
 #include "measure/listener.h"
 #include "platform/host.h"
 #include "ui/cursor_entry.h"
+#include "ui/display_lists.h"
 #include "ui/held_traces.h"
 #include "ui/pulse_table.h"
 #include "ui/sensor_selection.h"
@@ -30,6 +31,7 @@ public:
         sensors::SensorTable& table;
         SettingsEdits& edits;
         const SetupDialog& dialog;
+        const DisplayLists& lists;
         SensorSelection& selection;
         platform::Host& host;
     };
@@ -44,9 +46,6 @@ public:
     void Started() override { SayWhatIsAwaited(true); }
     void Stopped() override { SayWhatIsAwaited(false); }
     void ModesChanged() override { Redraw(); }
-    void SlotStarted(int /*slot*/) override {}
-    void SlotComplete(int /*slot*/) override {}
-    void ReadingArrived(int /*slot*/) override {}
     void ArrayArrived(int slot) override;
     void CurrentSensorChanged() override { Redraw(); }
     void ListedChanged() override { Redraw(); }
@@ -57,7 +56,7 @@ public:
     }
 
 private:
-    int Slot() const;  // -1: none
+    int Slot() const { return p_.lists.Slot(sensors::Trace); }  // -1: none
     void Choose();
     void Redraw();
     void Clear();
@@ -80,8 +79,7 @@ private:
     HeldTraces held_;
     PulseTable pulses_;
     CursorEntry cursorEntry_;
-    std::vector<double> levels_;  // dBm, of the trace that is drawn
-    std::string drawnSensor_;     // its resource
+    std::string drawnSensor_;  // its resource
     // A drag goes on with the sensor with which it began.
     struct Drag {
         std::string sensor;  // its resource
