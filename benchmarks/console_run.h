@@ -37,6 +37,7 @@ private:
 class SleeplessClock final : public platform::Clock {
 public:
     platform::LocalTime Now() override { return inner_->Now(); }
+    platform::LocalTime At(platform::Duration moment) override { return inner_->At(moment); }
     platform::Duration Monotonic() override { return inner_->Monotonic(); }
     void Sleep(platform::Duration) override {}
 

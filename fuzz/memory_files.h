@@ -62,6 +62,11 @@ public:
         if (file == bytes.end()) return std::nullopt;
         return file->second.size();
     }
+    std::error_code Resize(const std::string& path, std::uint64_t size) override {
+        bytes[path].resize(size);
+        return {};
+    }
+    std::optional<std::uint64_t> FreeSpace(const std::string&) override { return std::nullopt; }
     std::string ResolveLinks(const std::string& path) override { return path; }
     bool Exists(const std::string& path) override { return bytes.contains(path); }
     bool Writable(const std::string&) override { return true; }

@@ -60,4 +60,8 @@ void ScriptDialogs::OpenHelp(const platform::HelpPage& page) {
     Write("help", page.compiledFile, std::to_string(page.topic));
 }
 
+void ScriptDialogs::OpenAddress(const std::string& address) {
+    output_.Line("open: " + OneLine(address));
+}
+
 }  // namespace kelvra::console

@@ -166,4 +166,10 @@ void QtDialogs::OpenHelp(const platform::HelpPage& page) {
                 platform::MessageIcon::Exclamation);
 }
 
+void QtDialogs::OpenAddress(const std::string& address) {
+    if (!QDesktopServices::openUrl(QUrl(Shown(address))))
+        Message({}, "No program could be started to open this address:\n" + address,
+                platform::MessageIcon::Exclamation);
+}
+
 }  // namespace kelvra::desktop

@@ -93,6 +93,8 @@ public:
         helpTopics.push_back(page.topic);
         helpPage = page;
     }
+    std::vector<std::string> opened;
+    void OpenAddress(Text address) override { opened.push_back(address); }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files that hand every operation on to others, but let the n-th one fail, be short, or be the last
 // one of the process, as a power cut would have it. Only operations that can fail count; questions
-// (Exists, Writable, ResolveLinks, Size, ModifiedAt) don't.
+// (Exists, Writable, ResolveLinks, Size, FreeSpace, ModifiedAt) don't.
 #pragma once
 
 #include <cstdlib>
@@ -23,6 +23,8 @@ public:
     using Path = const std::string&;
 
     explicit FaultyFiles(Files& inner) : inner_(inner) {}
+
+    std::optional<std::uint64_t> freeSpace;  // instead of the disk's
 
     // At the operation of this number, counted from 1 and from now.
     void Plan(int operation, Fault fault,
@@ -68,6 +70,12 @@ public:
     Error Remove(Path path) override { return Run([&] { return inner_.Remove(path); }); }
     Error MakeFolders(Path path) override { return Run([&] { return inner_.MakeFolders(path); }); }
     // clang-format on
+    Error Resize(Path path, std::uint64_t size) override {
+        return Run([&] { return inner_.Resize(path, size); });
+    }
+    std::optional<std::uint64_t> FreeSpace(Path path) override {
+        return freeSpace ? freeSpace : inner_.FreeSpace(path);
+    }
     std::optional<std::uint64_t> Size(Path path) override { return inner_.Size(path); }
     std::string ResolveLinks(Path path) override { return inner_.ResolveLinks(path); }
     bool Exists(Path path) override { return inner_.Exists(path); }

@@ -17,6 +17,7 @@ std::optional<LocalTime> LocalTimeOf(const std::timespec& moment) {
     time.minute = parts.tm_min;
     time.second = std::min(parts.tm_sec, 59);  // a leap second counts as the one before it
     time.ms = static_cast<int>(moment.tv_nsec / 1'000'000);
+    time.utcOffset = static_cast<int>(parts.tm_gmtoff / 60);
     return time;
 }
 

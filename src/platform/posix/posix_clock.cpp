@@ -8,16 +8,34 @@
 
 namespace kelvra::platform {
 
+namespace {
+
+Duration Read(clockid_t clock) {
+    std::timespec moment{};
+    ::clock_gettime(clock, &moment);
+    return std::chrono::seconds(moment.tv_sec) + std::chrono::nanoseconds(moment.tv_nsec);
+}
+
+}  // namespace
+
 LocalTime PosixClock::Now() {
     std::timespec moment{};
     ::clock_gettime(CLOCK_REALTIME, &moment);
     return LocalTimeOf(moment).value_or(LocalTime{});
 }
 
+LocalTime PosixClock::At(Duration monotonic) {
+    using namespace std::chrono;
+    const Duration moment = Read(CLOCK_REALTIME) - (Read(CLOCK_MONOTONIC) - monotonic);
+    const auto whole = floor<seconds>(moment);
+    std::timespec parts{};
+    parts.tv_sec = whole.count();
+    parts.tv_nsec = (moment - whole).count();
+    return LocalTimeOf(parts).value_or(LocalTime{});
+}
+
 Duration PosixClock::Monotonic() {
-    std::timespec moment{};
-    ::clock_gettime(CLOCK_MONOTONIC, &moment);
-    return std::chrono::seconds(moment.tv_sec) + std::chrono::nanoseconds(moment.tv_nsec);
+    return Read(CLOCK_MONOTONIC);
 }
 
 void PosixClock::Sleep(Duration duration) {

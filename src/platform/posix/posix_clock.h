@@ -9,6 +9,7 @@ namespace kelvra::platform {
 class PosixClock final : public Clock {
 public:
     LocalTime Now() override;
+    LocalTime At(Duration monotonic) override;
     Duration Monotonic() override;
     // Continues after signals; returns at once for a zero or negative duration.
     void Sleep(Duration duration) override;

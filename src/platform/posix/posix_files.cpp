@@ -161,6 +161,19 @@ std::optional<std::uint64_t> PosixFiles::Size(const std::string& path) {
     return static_cast<std::uint64_t>(file.st_size);
 }
 
+std::error_code PosixFiles::Resize(const std::string& path, std::uint64_t size) {
+    std::error_code error;
+    fs::resize_file(path, size, error);
+    return error;
+}
+
+std::optional<std::uint64_t> PosixFiles::FreeSpace(const std::string& path) {
+    std::error_code error;
+    const fs::space_info space = fs::space(path, error);
+    if (error) return std::nullopt;
+    return space.available;
+}
+
 std::optional<LocalTime> PosixFiles::ModifiedAt(const std::string& path) {
     struct stat file {};
     if (::stat(path.c_str(), &file) != 0) return std::nullopt;

@@ -26,6 +26,8 @@ public:
     bool Writable(const std::string& path) override;
     std::error_code MakeFolders(const std::string& path) override;
     std::optional<std::uint64_t> Size(const std::string& path) override;
+    std::error_code Resize(const std::string& path, std::uint64_t size) override;
+    std::optional<std::uint64_t> FreeSpace(const std::string& path) override;
     std::optional<LocalTime> ModifiedAt(const std::string& path) override;
 };
 

@@ -29,6 +29,7 @@ public:
     void AskFile(const platform::FileQuestion& question, Answer answer) override;
     void CopyText(const std::string& text) override;
     void OpenHelp(const platform::HelpPage& page) override;
+    void OpenAddress(const std::string& address) override;
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 

@@ -37,6 +37,7 @@ public:
     void CopyText(const std::string& text) override;
     // In the system's browser, or in its viewer for compiled help.
     void OpenHelp(const platform::HelpPage& page) override;
+    void OpenAddress(const std::string& address) override;
     platform::ScreenSize Screen() override;
 
 private:

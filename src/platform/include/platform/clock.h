@@ -4,6 +4,7 @@
 #pragma once
 
 #include <chrono>
+#include <string>
 
 #include "platform/files.h"
 
@@ -11,22 +12,28 @@ namespace kelvra::platform {
 
 using Duration = std::chrono::nanoseconds;
 
+// ISO 8601 with milliseconds and the offset from UTC: "2005-03-07T12:00:00.000+01:00".
+std::string IsoText(const LocalTime& time);
+
 class Clock {
 public:
     virtual ~Clock() = default;
 
     virtual LocalTime Now() = 0;
+    // The local time at a moment of the monotonic clock, by what the wall clock says now.
+    virtual LocalTime At(Duration monotonic) = 0;
     // Time since some fixed moment; never goes back.
     virtual Duration Monotonic() = 0;
     virtual void Sleep(Duration duration) = 0;
 };
 
-// Starts at a given local time; days have 24 hours (no summer time).
+// Starts at a given local time, which counts as UTC; days have 24 hours (no summer time).
 class SetClock final : public Clock {
 public:
     explicit SetClock(const LocalTime& start);
 
-    LocalTime Now() override;
+    LocalTime Now() override { return At(elapsed_); }
+    LocalTime At(Duration monotonic) override;
     Duration Monotonic() override { return elapsed_; }
     void Sleep(Duration duration) override { Advance(duration); }
 

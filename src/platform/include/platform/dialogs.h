@@ -56,6 +56,10 @@ public:
 
     virtual void OpenHelp(const HelpPage& page) = 0;
 
+    // Opens a page ("https:"), a new mail ("mailto:") or a folder ("file:") in the program that the
+    // system has for it. A failure gives a message.
+    virtual void OpenAddress(const std::string& address) = 0;
+
     // Of the screen on which the main window opens.
     virtual ScreenSize Screen() = 0;
 };

@@ -16,6 +16,7 @@ namespace kelvra::platform {
 struct LocalTime {
     int year = 1970, month = 1, day = 1;  // month and day from 1
     int hour = 0, minute = 0, second = 0, ms = 0;
+    int utcOffset = 0;  // minutes east of UTC, summer time included
 
     double SecondsSinceMidnight() const {
         return hour * 3600.0 + minute * 60.0 + second + ms / 1000.0;
@@ -64,6 +65,10 @@ public:
     virtual std::error_code MakeFolders(const std::string& path) = 0;
     // In bytes; nothing for a missing file.
     virtual std::optional<std::uint64_t> Size(const std::string& path) = 0;
+    // Cuts the file to that size; a smaller file grows.
+    virtual std::error_code Resize(const std::string& path, std::uint64_t size) = 0;
+    // Bytes that this user can still write on the volume of the path; nothing if it can't be asked.
+    virtual std::optional<std::uint64_t> FreeSpace(const std::string& path) = 0;
     // Local time of the last change; nothing for a missing file.
     virtual std::optional<LocalTime> ModifiedAt(const std::string& path) = 0;
 };
