@@ -15,8 +15,10 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
       sensorCommands({table, state, host, driverSession, news}),
-      windows(forms, table, state, cycle, sensorCommands, modes, host),
+      trendCollector(trend, table, host.clock),
+      windows(forms, table, state, cycle, sensorCommands, modes, trend, host),
       store(host.files, log, windows.notice),
+      limitsStore(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
       settingsCommands_(forms, table, windows.edits, windows.notice, host) {
     Subscribe();
@@ -24,10 +26,18 @@ Kelvra::Kelvra(platform::Host& hostToUse)
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
 }
 
-// The recovery comes last, after the windows have shown the error that it acts on.
+// The trend has the readings before its window shows them. The recovery comes last, after the
+// windows have shown the error that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
     windows.edits.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
+    news.measurement.Add(trendCollector);
+    news.pass.Add(trendCollector);
+    news.slot.Add(trendCollector);
+    windows.limits.load = [this](const std::string& key) { return limitsStore.Read(key); };
+    windows.limits.save = [this](const std::string& key, const ui::LevelLimits& limits) {
+        limitsStore.Save(key, limits);
+    };
     windows.Subscribe(news, sessionNews);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);

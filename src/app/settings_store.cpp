@@ -15,16 +15,14 @@ namespace {
 
 constexpr auto QuietTime = std::chrono::seconds(3);
 
-// The sensor's name in section names. Characters of a serial number that would end the name are
-// replaced.
-std::string Stem(std::string sensorId) {
+}  // namespace
+
+std::string SectionStem(std::string sensorId) {
     std::replace_if(
         sensorId.begin(), sensorId.end(), [](char c) { return c == ']' || c == '\r' || c == '\n'; },
         '_');
     return sensorId;
 }
-
-}  // namespace
 
 void SettingsStore::Open(platform::Computer& computer) {
     folder_ = computer.ProgramFolder();
@@ -70,7 +68,7 @@ void SettingsStore::Read(const std::vector<sensors::SensorEntry*>& entries) {
     for (sensors::SensorEntry* entry : entries) {
         Kept& kept = kept_[entry->sensorId];
         if (!kept.unsaved && !file.LoadError()) {
-            sensors::TransferSettings(kept.inFile, file.Text(), Stem(entry->sensorId),
+            sensors::TransferSettings(kept.inFile, file.Text(), SectionStem(entry->sensorId),
                                       Transfer::Read);
             kept.read = true;
         }
@@ -135,7 +133,7 @@ std::error_code SettingsStore::Write() {
     loadFailure_.clear();
     for (const auto& [sensorId, kept] : kept_)
         if (kept.unsaved && kept.read)
-            sensors::WriteChanges(*kept.unsaved, kept.inFile, file.Text(), Stem(sensorId));
+            sensors::WriteChanges(*kept.unsaved, kept.inFile, file.Text(), SectionStem(sensorId));
     return file.Save();
 }
 

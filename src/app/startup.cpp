@@ -36,6 +36,7 @@ void Kelvra::Start() {
     library.Load(host.computer, log);
     forms.mdiMain.caption = Title();
     store.Open(host.computer);
+    limitsStore.Open(host.computer);
     host.events.StartTimer(SearchInterval, [this] {
         discovery.Search();
         if (!state.fetching && !state.exiting)

@@ -9,13 +9,14 @@ namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
                  measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-                 platform::Host& host)
+                 measure::TrendStore& trend, platform::Host& host)
     : notice(forms.mdiMain, table, host.clock),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
       lists(forms, table, selection),
       readingAge(forms.statusForm, table, host.clock),
-      results(forms.statusForm, table, selection, readingAge, host.computer),
+      limits(forms.statusForm.ResultGrid, table, host.computer.Numbers()),
+      results(forms.statusForm, table, selection, readingAge, limits, host.computer),
       marks(forms.statusForm, table, host.events),
       calcGrid(forms.mdiMain, table, history, host),
       speed(forms.mdiMain, host),
@@ -32,7 +33,10 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       traceDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
       slotDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
       slotTable(forms, table, edits, displayLists, selection, host.computer),
-      displayData(forms, table, notice, host),
+      trendWindow({forms, trend, table, limits, selection, host}),
+      dataForm(host),
+      displayData(forms, table, dataForm, notice, host),
+      trendData(forms.trendForm, trendWindow, dataForm, notice, host),
       settingsCopy({forms, table, edits, selection, notice}),
       sensorCommands({forms, table, commands, notice, host}) {
     ui::ConnectHelp(forms.timeForm, host);
@@ -45,12 +49,12 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
 void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
-             &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
-             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy,
-             &traceDisplay, &slotDisplay, &slotTable})
+             &enabling, &sensorName, &lists, &limits, &results, &readingAge, &errorStrip,
+             &displayLists, &mainWindow, &speed, &notice, &recordMenu, &startMessages,
+             &settingsCopy, &traceDisplay, &slotDisplay, &slotTable, &trendWindow})
         news.measurement.Add(*listener);
     for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
-             &speed, &calcGrid, &notice, &recordMenu, &readingAge})
+             &speed, &calcGrid, &notice, &recordMenu, &readingAge, &trendWindow})
         news.pass.Add(*listener);
     news.slot.Add(marks);
     for (measure::SlotListener* listener : std::initializer_list<measure::SlotListener*>{

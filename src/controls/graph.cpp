@@ -40,6 +40,17 @@ bool Graph::SetHeld(Held which, Plot curve) {
     return true;
 }
 
+void Graph::SetSeries(std::vector<Series> series) {
+    series_ = std::move(series);
+    Mark(&ChangedParts::series);
+}
+
+bool Graph::SetLimits(const Band& limits) {
+    if (!Finite(limits.low.value_or(0), limits.high.value_or(0))) return false;
+    if (std::exchange(limits_, limits) != limits) Mark(&ChangedParts::limits);
+    return true;
+}
+
 bool Graph::SetBox(const std::optional<Axes>& box) {
     if (box && !(Rises(box->x) && Finite(box->y.min, box->y.max))) return false;
     if (std::exchange(box_, box) != box) Mark(&ChangedParts::box);

@@ -7,12 +7,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/common.h"
-#include "desktop/elided_label.h"
+#include "desktop/display_parts.h"
 #include "desktop/flow_layout.h"
-#include "desktop/focus_ring.h"
 #include "desktop/form_rows.h"
-#include "desktop/graph_menu.h"
-#include "desktop/graph_widget.h"
 
 namespace kelvra::desktop {
 
@@ -20,31 +17,6 @@ namespace {
 
 constexpr int ZoomIcon = 18;  // logical pixels
 constexpr int CursorCharacters = 17;
-
-// A frame whose widgets are in sight on a dark background, too.
-QWidget* MakeRoom(QVBoxLayout*& column) {
-    auto* all = new QWidget;
-    column = new QVBoxLayout(all);
-    column->setContentsMargins(Margin, Margin / 2, Margin, Margin / 2);
-    column->setSpacing(Margin / 2);
-    new FocusRing(all);
-    return all;
-}
-
-// Widgets that belong together and stay on one line.
-QWidget* Together(std::initializer_list<QWidget*> widgets) {
-    auto* group = new QWidget;
-    auto* row = new QHBoxLayout(group);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Margin / 2);
-    for (QWidget* widget : widgets) row->addWidget(widget);
-    return group;
-}
-
-QWidget* Captioned(QLabel* caption, QWidget* widget) {
-    caption->setBuddy(widget);
-    return Together({caption, widget});
-}
 
 // As wide as the longest entries, so that nothing moves when they change.
 QWidget* MakeCursorChoice(forms::ScopeDisp& form, WidgetMaker& maker) {
@@ -76,19 +48,6 @@ QWidget* MakeShowMenu(forms::ScopeDisp& form, WidgetMaker& maker) {
         maker.AddEntry(*menu, *kept);
     button->setMenu(menu);
     return button;
-}
-
-// The graph, and what is under the mouse.
-QVBoxLayout* MakeGraph(controls::Graph& graph, const controls::Label& pointed,
-                       controls::MenuItem& entries, WidgetMaker& maker, QtDialogs& dialogs) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(0);
-    GraphWidget* widget = maker.Make(graph);
-    GiveGraphMenu(*widget, entries, dialogs);
-    column->addWidget(widget, 1);
-    column->addSpacing(Margin / 2);
-    column->addWidget(maker.Make(pointed, new ElidedLabel(1)));
-    return column;
 }
 
 }  // namespace

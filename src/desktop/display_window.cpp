@@ -7,6 +7,7 @@
 #include "desktop/display_views.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
+#include "desktop/trend_view.h"
 
 namespace kelvra::desktop {
 
@@ -37,6 +38,9 @@ DisplayWindows::DisplayWindows(Parts parts) : p_(std::move(parts)) {
     });
     Add(forms.timeSlotTabForm,
         [this](WidgetMaker& maker) { return MakeSlotTableView(p_.forms.timeSlotTabForm, maker); });
+    Add(forms.trendForm, [this](WidgetMaker& maker) {
+        return MakeTrendView(p_.forms.trendForm, maker, p_.dialogs);
+    });
 }
 
 void DisplayWindows::Add(controls::Window& record, const MakeContent& makeContent) {
@@ -44,7 +48,8 @@ void DisplayWindows::Add(controls::Window& record, const MakeContent& makeConten
         record,
         [this, &record, makeContent]() -> ChildWindow& { return Make(record, makeContent); });
     adapter->onUpdate = [this] {
-        p_.onShown(p_.forms.scopeDisp.visible || p_.forms.timeSlotDisp.visible,
+        p_.onShown(p_.forms.scopeDisp.visible || p_.forms.timeSlotDisp.visible ||
+                       p_.forms.trendForm.visible,
                    p_.forms.timeSlotTabForm.visible);
     };
     p_.mirror.Add(record, std::move(adapter));

@@ -6,7 +6,7 @@
 
 #include "desktop/graph_keys.h"
 #include "desktop/plot_drawing.h"
-#include "desktop/plot_legend.h"
+#include "desktop/plot_tickers.h"
 #include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
@@ -20,6 +20,7 @@ constexpr int Padding = 3;
 constexpr int TickLength = 4;
 // Tick labels up to this one never move the graph.
 constexpr const char* WidestTick = "-0000.0";
+constexpr const char* WidestTime = "0000-00-00";
 constexpr int LeastWidth = 16;  // characters
 constexpr int LeastHeight = 7;  // lines
 
@@ -60,12 +61,13 @@ protected:
         painter->drawText(place.left(), all.top(), place.width(), all.height(),
                           Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
                           Shown(parts.xTitle));
-        DrawLegend(*painter, LegendParts(widget_.Record()),
+        DrawLegend(*painter, LegendOf(widget_.Record()),
                    {place.left(), all.top(), place.width(), place.top()});
         painter->translate(Padding, place.center().y());
         painter->rotate(-90);
         painter->drawText(-place.height() / 2, 0, place.height(), all.width(),
-                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip, Shown(parts.yTitle));
+                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip,
+                          Shown(widget_.Record().yTitle.Get()));
     }
 
 private:
@@ -90,7 +92,7 @@ bool Note(Value& known, const Value& now) {
 GraphWidget::GraphWidget(Graph& record) : record_(record) {
     setFocusPolicy(Qt::StrongFocus);
     removeLayer(layer("overlay"));
-    compared_ = AddBuffer("compared", {DrawHeldCurves, DrawBox});
+    compared_ = AddBuffer("compared", {DrawHeldCurves, DrawBox, DrawLimits});
     cursors_ = AddBuffer("cursors", {DrawCursors});
     curve_ = AddBuffer("curve", {DrawCurve, DrawCaptions, DrawEmptyText});
     SetUpAxes();
@@ -119,6 +121,9 @@ void GraphWidget::SetUpAxes() {
         whole->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
         xAxis->setTicker(whole);
     }
+    if (record_.Parts().timeAxis) xAxis->setTicker(QSharedPointer<QCPAxisTicker>(new TimeTicker));
+    numbers_ = yAxis->ticker();
+    prefixed_.reset(new PrefixTicker);
     new Titles(*this);
 }
 
@@ -150,6 +155,9 @@ void GraphWidget::UpdateMargins() {
     axisRect()->setAutoMargins(QCP::msNone);
     const int left = title + label + ticks, right = label / 2;
     const int above = LegendHeight(drawnLegend_, width() - left - right, metrics);
+    if (record_.Parts().timeAxis)
+        xAxis->ticker()->setTickCount(std::max(
+            (width() - left - right) / (metrics.horizontalAdvance(WidestTime) * 5 / 4), 2));
     axisRect()->setMargins(
         {left, above + metrics.height() / 2 + Padding, right, title + metrics.height() + ticks});
 }
@@ -165,24 +173,39 @@ bool GraphWidget::CursorsChanged(const Graph::ChangedParts& changed) {
     return others || chosen || !changed.cursors.empty();
 }
 
+bool GraphWidget::Compares() const {
+    const bool limits = record_.Limits() != Graph::Band();
+    bool held = false;
+    for (const auto which :
+         {controls::Held::Maximum, controls::Held::Minimum, controls::Held::Reference})
+        held = held || !record_.HeldCurve(which).values.empty();
+    return held || limits || record_.Box().has_value();
+}
+
+bool GraphWidget::TitleChanged() {
+    yAxis->setTicker(record_.prefixes ? prefixed_ : numbers_);
+    return Note(drawnTitle_, record_.yTitle.Get());
+}
+
 void GraphWidget::TakeIn() {
     const Graph::ChangedParts changed = record_.TakeChangedParts();
     const bool cursors = CursorsChanged(changed);
     const bool empty = std::exchange(drawnEmptyText_, record_.emptyText.Get()) != drawnEmptyText_;
-    const bool otherLegend = changed.held && Note(drawnLegend_, LegendParts(record_));
+    const bool otherLegend =
+        (changed.held || changed.series) && Note(drawnLegend_, LegendOf(record_));
     if (otherLegend) UpdateMargins();
-    const bool compares = !drawnLegend_.empty() || record_.Box().has_value();
-    const bool other = Note(compares_, compares);
-    if (other) compared_->setMode(compares ? QCPLayer::lmBuffered : QCPLayer::lmLogical);
-    if (std::exchange(stale_, false) || changed.axes || otherLegend || other) {
+    const bool other = Note(compares_, Compares());
+    if (other) compared_->setMode(compares_ ? QCPLayer::lmBuffered : QCPLayer::lmLogical);
+    const bool otherTitle = TitleChanged();
+    if (std::exchange(stale_, false) || changed.axes || otherLegend || other || otherTitle) {
         xAxis->setRange(RangeOf(record_.ShownAxes().x));
         yAxis->setRange(RangeOf(record_.ShownAxes().y));
         replot(rpQueuedRefresh);
         return;
     }
-    if (changed.held || changed.box) compared_->replot();
+    if (changed.held || changed.box || changed.limits) compared_->replot();
     if (cursors) cursors_->replot();
-    if (changed.curve || changed.labels || empty) curve_->replot();
+    if (changed.curve || changed.series || changed.labels || empty) curve_->replot();
 }
 
 void GraphWidget::paintEvent(QPaintEvent* event) {

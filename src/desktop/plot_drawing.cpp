@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "desktop/plot_captions.h"
+#include "desktop/plot_line.h"
 #include "desktop/plot_look.h"
 #include "desktop/qt_text.h"
 
@@ -17,58 +18,6 @@ using controls::Held;
 constexpr Held AllHeld[] = {Held::Maximum, Held::Minimum, Held::Reference};
 constexpr int ShineThrough =
     200;  // of 255: how little of the lines is seen through a text's ground
-
-// One stretch of finite values, drawn when it is complete.
-class Stretch {
-public:
-    Stretch(QCPPainter& painter, qsizetype most) : painter_(painter) { points_.reserve(most); }
-
-    void Add(const QPointF& point) { points_ << point; }
-    void End() {
-        if (points_.size() == 1)
-            painter_.drawEllipse(points_.front(), 1, 1);
-        else if (points_.size() > 1)
-            painter_.drawPolyline(points_);
-        points_.resize(0);
-    }
-    bool Empty() const { return points_.isEmpty(); }
-
-private:
-    QCPPainter& painter_;
-    QPolygonF points_;
-};
-
-struct Range {
-    std::size_t from = 0, to = 0;
-};
-
-// The values in sight, and one more on each side.
-Range InSight(const Graph::Plot& plot, const Graph::Axis& x) {
-    const auto count = static_cast<double>(plot.values.size());
-    if (plot.step <= 0) return {0, plot.values.size()};
-    const double first = std::floor((x.min - plot.first) / plot.step);
-    const double last = std::ceil((x.max - plot.first) / plot.step) + 1;
-    return {static_cast<std::size_t>(std::clamp(first, 0.0, count)),
-            static_cast<std::size_t>(std::clamp(last, 0.0, count))};
-}
-
-void DrawPlot(QCPPainter& painter, const PlotScale& scale, const Graph::Plot& plot, bool stairs) {
-    const Range range = InSight(plot, scale.Axes().x);
-    Stretch stretch(painter, 2 * static_cast<qsizetype>(range.to - range.from));
-    const auto pixelX = [&](std::size_t i) {
-        return scale.PixelX(plot.first + static_cast<double>(i) * plot.step);
-    };
-    for (std::size_t i = range.from; i < range.to; ++i) {
-        if (!std::isfinite(plot.values[i])) {
-            stretch.End();
-            continue;
-        }
-        const double y = scale.PixelY(plot.values[i]);
-        if (stairs && i > 0) stretch.Add({pixelX(i - 1), y});
-        stretch.Add({pixelX(i), y});
-    }
-    stretch.End();
-}
 
 // Sharp lines of one pixel are drawn in its middle.
 double Sharp(double pixel) {
@@ -89,6 +38,23 @@ void DrawCursor(QCPPainter& painter, const PlotScale& scale, const Graph::Cursor
     }
 }
 
+// The ranges are behind all lines, the series in front is before the others.
+void DrawSeries(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
+                const std::vector<Graph::Series>& all) {
+    painter.setPen(Qt::NoPen);
+    for (const Graph::Series& series : all) {
+        painter.setBrush(PlotTint(PartOf(series)));
+        DrawArea(painter, scale, x, series.low, series.high);
+    }
+    painter.setBrush(Qt::NoBrush);
+    for (const bool front : {false, true})
+        for (const Graph::Series& series : all) {
+            if (series.front != front) continue;
+            painter.setPen(PlotPen(PartOf(series), front));
+            DrawLine(painter, scale, x, series.values, false);
+        }
+}
+
 void DrawTextGround(QCPPainter& painter, const QRectF& place) {
     QColor ground = PlotColour(PlotPart::Ground);
     ground.setAlpha(ShineThrough);
@@ -99,15 +65,19 @@ void DrawTextGround(QCPPainter& painter, const QRectF& place) {
 
 void DrawCurve(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
     painter.setAntialiasing(!graph.Parts().stairs);
+    const Graph::Plot& curve = graph.Curve();
+    const PlotSteps x{curve.first, curve.step};
+    if (!graph.AllSeries().empty()) return DrawSeries(painter, scale, x, graph.AllSeries());
     painter.setPen(PlotPen(PlotPart::Curve));
-    DrawPlot(painter, scale, graph.Curve(), graph.Parts().stairs);
+    DrawLine(painter, scale, x, curve.values, graph.Parts().stairs);
 }
 
 void DrawHeldCurves(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
     painter.setAntialiasing(!graph.Parts().stairs);
     for (const Held which : AllHeld) {
         painter.setPen(PlotPen(PartOf(which)));
-        DrawPlot(painter, scale, graph.HeldCurve(which), graph.Parts().stairs);
+        const Graph::Plot& curve = graph.HeldCurve(which);
+        DrawLine(painter, scale, {curve.first, curve.step}, curve.values, graph.Parts().stairs);
     }
 }
 
@@ -119,6 +89,22 @@ void DrawBox(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
     painter.drawRect(
         QRectF(QPointF(Sharp(scale.PixelX(box->x.min)), Sharp(scale.PixelY(box->y.max))),
                QPointF(Sharp(scale.PixelX(box->x.max)), Sharp(scale.PixelY(box->y.min)))));
+}
+
+void DrawLimits(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
+    const QRectF& place = scale.Place();
+    painter.setAntialiasing(false);
+    const auto draw = [&](const std::optional<double>& limit, qreal edge) {
+        if (!limit) return;
+        const double y = Sharp(std::clamp(scale.PixelY(*limit), place.top(), place.bottom()));
+        painter.fillRect(
+            QRectF(QPointF(place.left(), y), QPointF(place.right(), edge)).normalized(),
+            PlotTint(PlotPart::Limit));
+        painter.setPen(PlotPen(PlotPart::Limit));
+        painter.drawLine(QLineF(place.left(), y, place.right(), y));
+    };
+    draw(graph.Limits().low, place.bottom());
+    draw(graph.Limits().high, place.top());
 }
 
 void DrawCursors(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
@@ -140,7 +126,8 @@ void DrawCaptions(QCPPainter& painter, const PlotScale& scale, const Graph& grap
 }
 
 void DrawEmptyText(QCPPainter& painter, const PlotScale& scale, const Graph& graph) {
-    if (!graph.Curve().values.empty() || graph.emptyText->empty()) return;
+    if (!graph.Curve().values.empty() || !graph.AllSeries().empty() || graph.emptyText->empty())
+        return;
     constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
     const QString text = Shown(graph.emptyText.Get());
     DrawTextGround(painter, painter.boundingRect(scale.Place(), flags, text));

@@ -2,7 +2,8 @@
 #include "desktop/plot_legend.h"
 
 #include <algorithm>
-#include <iterator>
+
+#include "desktop/qt_text.h"
 
 namespace kelvra::desktop {
 
@@ -10,63 +11,61 @@ namespace {
 
 constexpr int Sample = 28;  // logical pixels: length of a line
 constexpr int Gap = 6;
+constexpr int MostCharacters = 20;
 
-constexpr struct {
-    PlotPart part{};
-    const char* name = "";
-} Names[] = {
-    {PlotPart::Curve, "Now"},
-    {PlotPart::Maximum, "Maximum"},
-    {PlotPart::Minimum, "Minimum"},
-    {PlotPart::Reference, "Reference"},
-};
-
-const char* NameOf(PlotPart part) {
-    return std::find_if(std::begin(Names), std::end(Names),
-                        [part](const auto& each) { return each.part == part; })
-        ->name;
+int MostWidth(const QFontMetrics& metrics) {
+    return MostCharacters * metrics.averageCharWidth();
 }
 
-int EntryWidth(const QFontMetrics& metrics) {
+int EntryWidth(const std::vector<LegendEntry>& entries, const QFontMetrics& metrics) {
     int widest = 0;
-    for (const auto& each : Names) widest = std::max(widest, metrics.horizontalAdvance(each.name));
-    return Sample + widest + 3 * Gap;
+    for (const LegendEntry& entry : entries)
+        widest = std::max(widest, metrics.horizontalAdvance(Shown(entry.name)));
+    return Sample + std::min(widest, MostWidth(metrics)) + 3 * Gap;
 }
 
-int Columns(int width, const QFontMetrics& metrics) {
-    return std::max(width / EntryWidth(metrics), 1);
+int Columns(const std::vector<LegendEntry>& entries, int width, const QFontMetrics& metrics) {
+    return std::max(width / EntryWidth(entries, metrics), 1);
 }
 
 }  // namespace
 
-std::vector<PlotPart> LegendParts(const controls::Graph& graph) {
+std::vector<LegendEntry> LegendOf(const controls::Graph& graph) {
     using controls::Held;
-    std::vector<PlotPart> parts;
-    for (const Held which : {Held::Maximum, Held::Minimum, Held::Reference})
-        if (!graph.HeldCurve(which).values.empty()) parts.push_back(PartOf(which));
-    if (!parts.empty()) parts.insert(parts.begin(), PlotPart::Curve);
-    return parts;
+    std::vector<LegendEntry> entries;
+    for (const controls::Graph::Series& series : graph.AllSeries())
+        entries.push_back({PartOf(series), series.name, series.front});
+    constexpr std::pair<Held, const char*> held[] = {
+        {Held::Maximum, "Maximum"}, {Held::Minimum, "Minimum"}, {Held::Reference, "Reference"}};
+    for (const auto& [which, name] : held) {
+        if (graph.HeldCurve(which).values.empty()) continue;
+        if (entries.empty()) entries.push_back({PlotPart::Curve, "Now"});
+        entries.push_back({PartOf(which), name});
+    }
+    return entries;
 }
 
-int LegendHeight(const std::vector<PlotPart>& parts, int width, const QFontMetrics& metrics) {
-    const int columns = Columns(width, metrics);
-    return (static_cast<int>(parts.size()) + columns - 1) / columns * metrics.height();
+int LegendHeight(const std::vector<LegendEntry>& entries, int width, const QFontMetrics& metrics) {
+    const int columns = Columns(entries, width, metrics);
+    return (static_cast<int>(entries.size()) + columns - 1) / columns * metrics.height();
 }
 
-void DrawLegend(QCPPainter& painter, const std::vector<PlotPart>& parts, const QRect& room) {
+void DrawLegend(QCPPainter& painter, const std::vector<LegendEntry>& entries, const QRect& room) {
     const QFontMetrics metrics(painter.font());
-    const int columns = Columns(room.width(), metrics);
+    const int columns = Columns(entries, room.width(), metrics);
+    const int width = EntryWidth(entries, metrics);
     const int line = metrics.height();
     painter.setAntialiasing(false);
-    for (int i = 0; const PlotPart part : parts) {
-        const QPoint corner =
-            room.topLeft() + QPoint(i % columns * EntryWidth(metrics), i / columns * line);
+    for (int i = 0; const LegendEntry& entry : entries) {
+        const QPoint corner = room.topLeft() + QPoint(i % columns * width, i / columns * line);
         ++i;
-        painter.setPen(PlotPen(part));
+        painter.setPen(PlotPen(entry.part, entry.chosen));
         painter.drawLine(QLineF(corner + QPoint(0, line / 2), corner + QPoint(Sample, line / 2)));
         painter.setPen(PlotColour(PlotPart::Text));
-        painter.drawText(QRect(corner + QPoint(Sample + Gap, 0), QSize(EntryWidth(metrics), line)),
-                         Qt::AlignVCenter | Qt::AlignLeft, NameOf(part));
+        painter.drawText(
+            QRect(corner + QPoint(Sample + Gap, 0), QSize(width, line)),
+            Qt::AlignVCenter | Qt::AlignLeft,
+            metrics.elidedText(Shown(entry.name), Qt::ElideMiddle, MostWidth(metrics)));
     }
 }
 

@@ -6,11 +6,14 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr qreal ChosenWidth = 3;
+constexpr int TintAlpha = 60;  // of 255
+constexpr int Looks = 8;
 
 struct Row {
     PlotPart part{};
     QRgb shades[3]{};  // classic, calm, dark
     Qt::PenStyle line = Qt::SolidLine;
+    qreal dashes[4]{};  // of a line of its own: drawn and left out, in pixels
 };
 
 // In the order of PlotPart.
@@ -28,13 +31,23 @@ constexpr Row Table[] = {
     {PlotPart::ZoneStart, {0x00FFFF, 0x00707E, 0x5AD1E0}, Qt::DashLine},
     {PlotPart::ZoneStop, {0xFFB040, 0x9A5200, 0xFFC947}, Qt::DashDotDotLine},
     {PlotPart::Division, {0xA0A0A0, 0x767C84, 0x8A939D}, Qt::DotLine},
+    {PlotPart::Limit, {0xFF6060, 0xB3261E, 0xFF8A80}, Qt::DashLine},
+    // Also people who see fewer colours tell the series apart.
+    {PlotPart::Series1, {0x40FF40, 0x0B57D0, 0x8AB4F8}},
+    {PlotPart::Series2, {0x60A8F0, 0xC07860, 0xF0C078}, Qt::DashLine},
+    {PlotPart::Series3, {0xF0C0A8, 0x900090, 0xF04878}, Qt::DotLine},
+    {PlotPart::Series4, {0xF04860, 0x607800, 0x30F0C0}, Qt::DashDotLine},
+    {PlotPart::Series5, {0xD8F090, 0xD81878, 0xD8F030}, Qt::DashDotDotLine},
+    {PlotPart::Series6, {0x7860F0, 0xA878C0, 0xC030A8}, Qt::CustomDashLine, {12, 3, 12, 3}},
+    {PlotPart::Series7, {0x907800, 0x780000, 0xF01800}, Qt::CustomDashLine, {12, 3, 1, 3}},
+    {PlotPart::Series8, {0xC048A8, 0x480030, 0xA830F0}, Qt::CustomDashLine, {2, 5, 2, 5}},
 };
 
 constexpr bool InOrder() {
     int place = 0;
     for (const Row& row : Table)
         if (static_cast<int>(row.part) != place++) return false;
-    return place == static_cast<int>(PlotPart::Division) + 1;
+    return place == static_cast<int>(PlotPart::Series8) + 1;
 }
 static_assert(InOrder());
 
@@ -50,6 +63,15 @@ constexpr PlotMark Marks[] = {
     {PlotPart::ZoneStart, "graph, start of an exclusion"},
     {PlotPart::ZoneStop, "graph, end of an exclusion"},
     {PlotPart::Division, "graph, end of a time slot"},
+    {PlotPart::Limit, "graph, limit"},
+    {PlotPart::Series1, "graph, first sensor"},
+    {PlotPart::Series2, "graph, second sensor"},
+    {PlotPart::Series3, "graph, third sensor"},
+    {PlotPart::Series4, "graph, fourth sensor"},
+    {PlotPart::Series5, "graph, fifth sensor"},
+    {PlotPart::Series6, "graph, sixth sensor"},
+    {PlotPart::Series7, "graph, seventh sensor"},
+    {PlotPart::Series8, "graph, eighth sensor"},
 };
 
 const Row& RowOf(PlotPart part) {
@@ -63,7 +85,17 @@ QColor PlotColour(PlotPart part) {
 }
 
 QPen PlotPen(PlotPart part, bool chosen) {
-    return {PlotColour(part), chosen ? ChosenWidth : 1, RowOf(part).line};
+    const Row& row = RowOf(part);
+    QPen pen(PlotColour(part), chosen ? ChosenWidth : 1, row.line);
+    if (row.line == Qt::CustomDashLine)
+        pen.setDashPattern({std::begin(row.dashes), std::end(row.dashes)});
+    return pen;
+}
+
+QColor PlotTint(PlotPart part) {
+    QColor colour = PlotColour(part);
+    colour.setAlpha(TintAlpha);
+    return colour;
 }
 
 PlotPart PartOf(controls::Held which) {
@@ -92,6 +124,10 @@ PlotPart PartOf(controls::CursorLook look) {
             break;
     }
     return PlotPart::Division;
+}
+
+PlotPart PartOf(const controls::Graph::Series& series) {
+    return static_cast<PlotPart>(static_cast<int>(PlotPart::Series1) + series.look % Looks);
 }
 
 std::span<const PlotMark> PlotMarks() {

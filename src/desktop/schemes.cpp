@@ -40,6 +40,7 @@ constexpr Row Table[] = {
     {Part::Cell, controls::Green, 0xCDEBD3, 0x1F5130},        // on
     {Part::Cell, controls::Yellow, 0xFFE58A, 0x6B5A12},       // gets its settings
     {Part::Cell, controls::Orange, 0xFFCB94, 0x73440F},       // is zeroed or tested
+    {Part::Cell, controls::Rose, 0xFFD3CF, 0x6E2B2B},         // a reading outside its limits
     {Part::Heading, controls::DarkCyan, 0xE1E6EC, 0x2A3037},
     {Part::Text, controls::Red, 0xB3261E, 0xFF8A80},
     {Part::Text, controls::Green, 0x1A6B2F, 0x7BD88F},
@@ -74,6 +75,7 @@ constexpr Pair AllPairs[] = {
     {"sensor that is off", Part::Cell, controls::Grey, {}},
     {"CONF", Part::Cell, controls::Yellow, {}},
     {"ZERO, TEST", Part::Cell, controls::Orange, {}},
+    {"reading outside its limits", Part::Cell, controls::Rose, {}},
 };
 
 QPalette PaletteOf(Scheme scheme) {

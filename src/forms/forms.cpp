@@ -19,8 +19,8 @@ void Search(controls::Control& control, std::string_view name, Found& found) {
 }  // namespace
 
 std::vector<controls::Window*> Forms::Windows() {
-    return {&mdiMain,         &statusForm, &setupForm, &scopeDisp,    &timeSlotDisp,
-            &timeSlotTabForm, &timeForm,   &aboutForm, &sensInfoForm, &copyForm};
+    return {&mdiMain,   &statusForm, &setupForm, &scopeDisp,    &timeSlotDisp, &timeSlotTabForm,
+            &trendForm, &timeForm,   &aboutForm, &sensInfoForm, &copyForm};
 }
 
 controls::Window* Forms::FindFormByName(std::string_view name) {

@@ -15,8 +15,6 @@ using controls::Held;
 
 namespace {
 
-constexpr const char* LineEnd = "\r\n";
-
 std::vector<double> TimesOf(const Graph::Plot& curve) {
     std::vector<double> times;
     for (std::size_t i = 0; i < curve.values.size(); ++i)
@@ -28,13 +26,9 @@ constexpr double None = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 
-DisplayData::DisplayData(forms::Forms& forms, const sensors::SensorTable& table, Notice& notice,
-                         platform::Host& host)
-    : forms_(forms),
-      table_(table),
-      host_(host),
-      saver_(notice, host),
-      asked_(host.computer.Numbers().decimal == ".") {
+DisplayData::DisplayData(forms::Forms& forms, const sensors::SensorTable& table, DataForm& dataForm,
+                         Notice& notice, platform::Host& host)
+    : forms_(forms), table_(table), host_(host), form_(dataForm), saver_(notice, host) {
     forms_.scopeDisp.CopyTraceData.click.Connect([this] { Copy(&DisplayData::TraceText); });
     forms_.timeSlotDisp.CopySlotData.click.Connect([this] { Copy(&DisplayData::SlotText); });
     forms_.scopeDisp.SaveTraceData.click.Connect(
@@ -44,28 +38,15 @@ DisplayData::DisplayData(forms::Forms& forms, const sensors::SensorTable& table,
     });
 }
 
-void DisplayData::WithSeparator(std::function<void()> goOn) {
-    if (asked_) return goOn();
-    host_.dialogs.Prompt(
-        "Decimal separator of the data (a comma or a point):", host_.computer.Numbers().decimal,
-        [this, goOn = std::move(goOn)](const std::optional<std::string>& answer) {
-            if (!answer) return;
-            if (*answer != "," && *answer != ".") return WithSeparator(goOn);
-            asked_ = true;
-            form_.decimal = *answer;
-            goOn();
-        });
-}
-
 void DisplayData::Copy(Maker make) {
-    WithSeparator([this, make] { host_.dialogs.CopyText((this->*make)()); });
+    form_.Ask([this, make] { host_.dialogs.CopyText((this->*make)()); });
 }
 
 void DisplayData::Save(const controls::List& sensors, const char* what, Maker make) {
     const int slot = sensors.Data();
     const std::string sensor =
         slot >= 0 && slot < table_.Slots() ? SensorText(table_, slot) : std::string("no sensor");
-    WithSeparator([this, make, what, sensor] {
+    form_.Ask([this, make, what, sensor] {
         saver_.Save({"Data of ", sensor, (this->*make)(), "Save data",
                      "Comma-separated (*.csv)|*.csv", std::string(what) + ".csv"});
     });
@@ -73,21 +54,21 @@ void DisplayData::Save(const controls::List& sensors, const char* what, Maker ma
 
 // A value that is not finite, or is missing, is empty.
 std::string DisplayData::Text(const std::vector<Column>& columns) const {
-    const char* separator = form_.decimal == "," ? ";" : ",";
+    const char* separator = form_.Separator();
     std::string text;
     std::size_t rows = 0;
     for (const Column& column : columns) {
         text.append(&column == &columns.front() ? "" : separator).append(column.heading);
         rows = std::max(rows, column.values.size());
     }
-    text += LineEnd;
+    text += DataForm::LineEnd;
     for (std::size_t row = 0; row < rows; ++row) {
         for (const Column& column : columns) {
             if (&column != &columns.front()) text += separator;
             const double value = row < column.values.size() ? column.values[row] : None;
-            if (std::isfinite(value)) text += util::GeneralText(value, form_);
+            text += form_.Number(value);
         }
-        text += LineEnd;
+        text += DataForm::LineEnd;
     }
     return text;
 }

@@ -37,6 +37,7 @@ MainWindow::MainWindow(forms::Forms& forms, measure::MeasureState& state, platfo
         entry->enabled = false;
         entry->click.Connect([window = window] { window->Present(); });
     }
+    forms_.mdiMain.WindowTrend.click.Connect([this] { forms_.trendForm.Present(); });
     forms_.mdiMain.Helpfunction.click.Connect([this] { OpenHelp(host_, 0); });
 }
 
@@ -47,14 +48,15 @@ void MainWindow::ApplyColourScheme() {
              &main.MainTools})
         control->back = controls::DarkBlue;
     for (controls::Grid* grid :
-         {&main.CalcGrid, &forms_.statusForm.ResultGrid, &forms_.timeSlotTabForm.TimeSlots}) {
+         {&main.CalcGrid, &forms_.statusForm.ResultGrid, &forms_.timeSlotTabForm.TimeSlots,
+          &forms_.trendForm.TrendValues}) {
         grid->back = controls::Cyan;
         grid->fixedBack = controls::DarkCyan;
         grid->emptyBack = controls::Blue;
     }
     for (controls::Control* control : std::initializer_list<controls::Control*>{
              &forms_.statusForm.SensorFrame, &forms_.scopeDisp, &forms_.timeSlotDisp,
-             &forms_.timeSlotTabForm})
+             &forms_.timeSlotTabForm, &forms_.trendForm})
         control->back = controls::Blue;
 }
 
@@ -73,6 +75,7 @@ void MainWindow::PlaceWindows() {
     const int width = main.width - table.width - WidthMargins;
     Place(forms_.scopeDisp, {left, Margin, width, height});
     Place(forms_.timeSlotDisp, {left, height + Step, width, height});
+    Place(forms_.trendForm, {left, Margin, width, 2 * height + Step});
     controls::Window& slots = forms_.timeSlotTabForm;
     Place(slots, {Margin, table.height + Step, table.width, slots.place->height});
     for (controls::Window* display :
@@ -98,6 +101,7 @@ void MainWindow::PlaceDisplays() {
     const int free = main.height - forms_.mdiMain.MainTools.place->height - HeightMargins;
     const bool both = state_.traceModeActive && state_.timeSlotModeActive;
     const int height = both ? free / 2 : free;
+    Place(forms_.trendForm, {left, Margin, width, free});
     if (state_.traceModeActive) Place(forms_.scopeDisp, {left, Margin, width, height});
     if (state_.timeSlotModeActive) {
         Place(forms_.timeSlotDisp, {left, both ? height + Step : Margin, width, height});

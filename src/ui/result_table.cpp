@@ -32,11 +32,13 @@ std::string IdentityOf(const sensors::SensorEntry& entry, int slot, const char* 
 }  // namespace
 
 ResultTable::ResultTable(forms::StatusForm& form, sensors::SensorTable& table,
-                         SensorSelection& selection, ReadingAge& age, platform::Computer& computer)
+                         SensorSelection& selection, ReadingAge& age, TrendLimits& limits,
+                         platform::Computer& computer)
     : grid_(form.ResultGrid),
       table_(table),
       selection_(selection),
       age_(age),
+      limits_(limits),
       computer_(computer),
       numbers_(computer.Numbers()) {
     grid_.mouseDown.Connect([this](int row, int column) { PressCell(row, column); });
@@ -113,6 +115,7 @@ std::string ResultTable::ZeroText(int slot) const {
 void ResultTable::PaintPresence(int slot) {
     PaintName(slot);
     if (table_[slot].present) return;
+    limits_.Forget(slot);
     for (const ResultColumn column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false, controls::Cyan);
     grid_.SetCellTooltip(RowOf(slot), StatusColumn, "");
@@ -138,17 +141,20 @@ void ResultTable::ModesChanged() {
 }
 
 void ResultTable::ArrayArrived(int slot) {
+    limits_.Forget(slot);
     for (const ResultColumn column : ArrayColumns)
         grid_.SetLook(RowOf(slot), column, {Align::Left, false, false, controls::Grey});
 }
 
 void ResultTable::ReadingArrived(int slot) {
     const sensors::SensorEntry& entry = table_[slot];
-    const auto show = [&](ResultColumn column, const util::Figure& figure, Align align) {
-        SetGridCell(grid_, RowOf(slot), column, figure, align, false, false, controls::White);
+    const auto show = [&](ResultColumn column, const util::Figure& figure, Align align,
+                          controls::Colour back = controls::White) {
+        SetGridCell(grid_, RowOf(slot), column, figure, align, false, false, back);
     };
-    show(WattColumn, util::ScientificFigure(entry.lastReading, numbers_), Align::Left);
-    show(DbmColumn, util::FixedFigure(entry.history.LastLevel(), numbers_), Align::Left);
+    const controls::Colour judged = limits_.Judge(slot);
+    show(WattColumn, util::ScientificFigure(entry.lastReading, numbers_), Align::Left, judged);
+    show(DbmColumn, util::FixedFigure(entry.history.LastLevel(), numbers_), Align::Left, judged);
     show(CountColumn, util::CountFigure(entry.avgCountRead, numbers_), Align::Centre);
     if (const auto sigma = entry.history.Sigma())
         show(SigmaColumn, util::FixedFigure(*sigma, numbers_), Align::Centre);

@@ -19,7 +19,7 @@ void ExpectNewNames(const controls::Control& control, std::set<std::string>& nam
 
 TEST(Forms, WindowsStartHiddenWithUniqueNamesAndTwoCloseByRule) {
     Forms forms;
-    EXPECT_EQ(forms.Windows().size(), 10U);
+    EXPECT_EQ(forms.Windows().size(), 11U);
     for (controls::Window* window : forms.Windows()) {
         EXPECT_FALSE(window->visible) << window->Name();
         const bool byRule = window == &forms.mdiMain || window == &forms.statusForm;

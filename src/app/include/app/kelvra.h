@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/discovery.h"
+#include "app/limits_store.h"
 #include "app/settings_commands.h"
 #include "app/settings_store.h"
 #include "app/windows.h"
@@ -19,6 +20,8 @@
 #include "measure/sensor_commands.h"
 #include "measure/session_recovery.h"
 #include "measure/state.h"
+#include "measure/trend_collector.h"
+#include "measure/trend_store.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 
@@ -47,6 +50,7 @@ public:
     driver::SessionState session;
     measure::MeasureState state;
     measure::News news;
+    measure::TrendStore trend;
 
     // Rooms, each after those that it needs
     driver::DebugLog log;
@@ -60,8 +64,10 @@ public:
     measure::Cycle cycle;
     measure::SessionRecovery recovery;
     measure::SensorCommands sensorCommands;
+    measure::TrendCollector trendCollector;
     Windows windows;
     SettingsStore store;
+    LimitsStore limitsStore;
     Discovery discovery;
 
 private:

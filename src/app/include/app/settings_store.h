@@ -24,6 +24,10 @@
 
 namespace kelvra::app {
 
+// The sensor's name in section names. Characters of a serial number that would end the name are
+// replaced.
+std::string SectionStem(std::string sensorId);
+
 class SettingsStore {
 public:
     SettingsStore(platform::Files& files, driver::DebugLog& log, ui::Notice& notice)

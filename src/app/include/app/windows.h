@@ -10,6 +10,7 @@
 #include "measure/listener.h"
 #include "measure/modes.h"
 #include "measure/sensor_commands.h"
+#include "measure/trend_store.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
 #include "ui/calc_grid.h"
@@ -37,19 +38,23 @@
 #include "ui/start_messages.h"
 #include "ui/status_marks.h"
 #include "ui/trace_display.h"
+#include "ui/trend_data.h"
+#include "ui/trend_limits.h"
+#include "ui/trend_window.h"
 
 namespace kelvra::app {
 
 struct Windows {
     Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
             measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-            platform::Host& host);
+            measure::TrendStore& trend, platform::Host& host);
 
     ui::Notice notice;
     ui::ErrorStrip errorStrip;
     ui::SensorSelection selection;
     ui::SelectionLists lists;
     ui::ReadingAge readingAge;
+    ui::TrendLimits limits;
     ui::ResultTable results;
     ui::StatusMarks marks;
     ui::EditHistory history;
@@ -67,7 +72,10 @@ struct Windows {
     ui::TraceDisplay traceDisplay;
     ui::SlotDisplay slotDisplay;
     ui::SlotTable slotTable;
+    ui::TrendWindow trendWindow;
+    ui::DataForm dataForm;
     ui::DisplayData displayData;
+    ui::TrendData trendData;
     ui::SettingsCopy settingsCopy;
     ui::SensorCommands sensorCommands;
 

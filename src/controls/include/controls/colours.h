@@ -18,5 +18,6 @@ constexpr Colour Cyan = 0xFFFF00;
 constexpr Colour DarkCyan = 0xC0C000;
 constexpr Colour Yellow = 0x00FFFF;
 constexpr Colour Orange = 0x0080FF;
+constexpr Colour Rose = 0xB0B0FF;
 
 }  // namespace kelvra::controls

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A graph of a curve over an even x axis, with curves that it is compared with, movable cursors,
-// and texts at positions. It records which of its parts have changed, so that a painter draws only
-// those.
+// A graph of a curve over an even x axis, with curves that it is compared with, or as one of
+// several series; with movable cursors, and texts at positions. It records which of its parts have
+// changed, so that a painter draws only those.
 //
 // The program sets the axes of the whole graph; the user may zoom into a part of it. Axes that the
 // program sets during a zoom are shown when the zoom ends.
@@ -33,6 +33,8 @@ struct GraphParts {
     std::string xTitle{};  // with the unit
     std::string yTitle{};
     bool stairs = false;  // a value is drawn as a line from the x of the one before it to its own
+    // The x is a local time, in seconds since 1970-01-01 00:00 on the same wall clock.
+    bool timeAxis = false;
     std::string name{};
 };
 
@@ -65,13 +67,33 @@ public:
         bool operator==(const Text&) const = default;
     };
 
+    // One of several curves over the x of the graph's own curve, which is one of them.
+    struct Series {
+        std::string name;
+        int look = 0;        // which colour and line it has, from 0
+        bool front = false;  // it is drawn in front of the others
+        std::vector<double> values;
+        std::vector<double> low, high;  // the range of each value; empty if there are no ranges
+        bool operator==(const Series&) const = default;
+    };
+    // What is below and above is drawn as being outside.
+    struct Band {
+        std::optional<double> low, high;
+        bool operator==(const Band&) const = default;
+    };
+
     Graph(Control& parent, std::string name, const GraphParts& parts = {})
-        : Focusable(Kind::Graph, parent, std::move(name), {.name = parts.name}), parts_(parts) {}
+        : Focusable(Kind::Graph, parent, std::move(name), {.name = parts.name}),
+          yTitle(*this, parts.yTitle),
+          parts_(parts) {}
 
     const GraphParts& Parts() const { return parts_; }
     const Plot& Curve() const { return curve_; }
     // Has no values if it is not shown.
     const Plot& HeldCurve(Held which) const { return held_[static_cast<std::size_t>(which)]; }
+    // Without series, the curve is alone.
+    const std::vector<Series>& AllSeries() const { return series_; }
+    const Band& Limits() const { return limits_; }
     const std::optional<Axes>& Box() const { return box_; }
     const Axes& WholeAxes() const { return whole_; }
     const Axes& ShownAxes() const { return part_ ? *part_ : whole_; }
@@ -86,6 +108,8 @@ public:
     bool SetCurve(Plot curve);
     bool SetHeld(Held which, Plot curve);
     bool SetBox(const std::optional<Axes>& box);  // a rectangle around a part of the curve
+    void SetSeries(std::vector<Series> series);
+    bool SetLimits(const Band& limits);
     bool SetX(const Axis& axis) { return SetAxis(whole_.x, axis); }
     bool SetY(const Axis& axis) { return SetAxis(whole_.y, axis); }
     bool AddCursor(const Cursor& cursor);  // becomes the last one
@@ -127,12 +151,18 @@ public:
     bool Nudge(int steps);
     Event<int> nudge;
 
+    Property<std::string> yTitle;  // at first that of the declaration
+    // The numbers at the y axis are written with the prefixes of the SI: "150 u" for 0.00015.
+    Property<bool> prefixes{*this, false};
+
     // Says what a graph without a curve waits for.
     Property<std::string> emptyText{*this, {}};
 
     struct ChangedParts {
         bool curve = false;
         bool held = false;
+        bool series = false;
+        bool limits = false;
         bool box = false;
         bool axes = false;  // the shown ones
         bool labels = false;
@@ -152,6 +182,8 @@ private:
     const GraphParts parts_;
     Plot curve_;
     std::array<Plot, HeldCount> held_;
+    std::vector<Series> series_;
+    Band limits_;
     std::optional<Axes> box_;
     Axes whole_;
     std::optional<Axes> part_;

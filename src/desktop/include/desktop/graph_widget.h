@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "desktop/graph_mouse.h"
-#include "desktop/plot_look.h"
+#include "desktop/plot_legend.h"
 #include "desktop/plot_scale.h"
 
 namespace kelvra::desktop {
@@ -54,6 +54,8 @@ private:
     void SetUpAxes();
     void ColourAxis(QCPAxis& axis);
     void UpdateMargins();
+    bool Compares() const;
+    bool TitleChanged();
     bool CursorsChanged(const controls::Graph::ChangedParts& changed);
 
     controls::Graph& record_;
@@ -65,8 +67,10 @@ private:
     int drawnCursors_ = 0;
     int drawnChosen_ = -1;
     std::string drawnEmptyText_;
-    std::vector<PlotPart> drawnLegend_;
-    bool compares_ = true;  // there are held curves, or the box
+    std::vector<LegendEntry> drawnLegend_;
+    std::string drawnTitle_;                            // of the y axis
+    QSharedPointer<QCPAxisTicker> numbers_, prefixed_;  // of the y axis
+    bool compares_ = true;                              // there are held curves, the box or limits
 };
 
 }  // namespace kelvra::desktop

@@ -8,8 +8,11 @@
 
 namespace kelvra::desktop {
 
+// The curve, or the series.
 void DrawCurve(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
 void DrawHeldCurves(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
+// The lines of the limits, and what is outside them.
+void DrawLimits(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
 void DrawBox(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);
 // The chosen one is thicker, and in front of the others.
 void DrawCursors(QCPPainter& painter, const PlotScale& scale, const controls::Graph& graph);

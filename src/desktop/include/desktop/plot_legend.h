@@ -5,17 +5,25 @@
 
 #include <qcustomplot.h>
 
+#include <string>
 #include <vector>
 
 #include "desktop/plot_look.h"
 
 namespace kelvra::desktop {
 
-// Empty if there is only one curve.
-std::vector<PlotPart> LegendParts(const controls::Graph& graph);
+struct LegendEntry {
+    PlotPart part{};
+    std::string name;
+    bool chosen = false;
+    bool operator==(const LegendEntry&) const = default;
+};
 
-// In logical pixels; 0 without parts.
-int LegendHeight(const std::vector<PlotPart>& parts, int width, const QFontMetrics& metrics);
-void DrawLegend(QCPPainter& painter, const std::vector<PlotPart>& parts, const QRect& room);
+// The series, or the curve and what it is compared with; empty if there is only one curve.
+std::vector<LegendEntry> LegendOf(const controls::Graph& graph);
+
+// In logical pixels; 0 without entries.
+int LegendHeight(const std::vector<LegendEntry>& entries, int width, const QFontMetrics& metrics);
+void DrawLegend(QCPPainter& painter, const std::vector<LegendEntry>& entries, const QRect& room);
 
 }  // namespace kelvra::desktop

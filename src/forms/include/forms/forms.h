@@ -13,6 +13,7 @@
 #include "forms/main_window.h"
 #include "forms/setup_form.h"
 #include "forms/status_form.h"
+#include "forms/trend.h"
 
 namespace kelvra::forms {
 
@@ -33,6 +34,7 @@ struct Forms {
     ScopeDisp scopeDisp{changes};
     TimeSlotDisp timeSlotDisp{changes};
     TimeSlotTabForm timeSlotTabForm{changes};
+    TrendForm trendForm{changes};
     TimeForm timeForm{changes};
     AboutForm aboutForm{changes};
     SensInfoForm sensInfoForm{changes};

@@ -115,6 +115,11 @@ struct MDIMain : Window {
         "WindowSlotTable",
         "Time slot table",
         {.mnemonic = 'b', .explanation = "Shows the statistics of each time slot."}};
+    MenuItem WindowTrend{
+        MenueWindow,
+        "WindowTrend",
+        "Trend",
+        {.mnemonic = 'e', .explanation = "Shows the readings of all sensors over time."}};
 
     MenuItem MHelp{
         *this, "MHelp", "Help", {.mnemonic = 'H', .explanation = "Help, and about this program."}};

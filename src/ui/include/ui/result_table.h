@@ -12,6 +12,7 @@
 #include "sensors/sensor_table.h"
 #include "ui/reading_age.h"
 #include "ui/sensor_selection.h"
+#include "ui/trend_limits.h"
 #include "util/number_text.h"
 
 namespace kelvra::ui {
@@ -21,7 +22,7 @@ class ResultTable final : public measure::MeasurementListener,
                           public measure::CommandListener {
 public:
     ResultTable(forms::StatusForm& form, sensors::SensorTable& table, SensorSelection& selection,
-                ReadingAge& age, platform::Computer& computer);
+                ReadingAge& age, TrendLimits& limits, platform::Computer& computer);
 
     // Heading, column widths, and a numbered row for each slot.
     void LayOut();
@@ -38,7 +39,8 @@ public:
     void Started() override;
     void ModesChanged() override;
     void SwitchedOff(int slot) override { PaintName(slot); }
-    // Cells for scalar results are white; they are grey where arrays arrive.
+    // Cells for scalar results are white, but for readings outside their limits; they are grey
+    // where arrays arrive.
     void ReadingArrived(int slot) override;
     void ArrayArrived(int slot) override;
     void SensorBegins(measure::SensorCommand /*command*/, int slot, int /*number*/,
@@ -61,6 +63,7 @@ private:
     sensors::SensorTable& table_;
     SensorSelection& selection_;
     ReadingAge& age_;
+    TrendLimits& limits_;
     platform::Computer& computer_;
     const util::NumberForm& numbers_;
 };

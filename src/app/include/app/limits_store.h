@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The limits of the sensors' levels in the application INI file, a section for each sensor. They
+// are written when they are edited. Simulated sensors are not written. A failure is reported in
+// the notice and the log until the file could be read or written.
+#pragma once
+
+#include <string>
+#include <system_error>
+
+#include "driver/debug_log.h"
+#include "platform/computer.h"
+#include "platform/files.h"
+#include "ui/notice.h"
+#include "ui/trend_limits.h"
+
+namespace kelvra::app {
+
+class LimitsStore {
+public:
+    LimitsStore(platform::Files& files, driver::DebugLog& log, ui::Notice& notice)
+        : files_(files), log_(log), notice_(notice) {}
+
+    // Call first.
+    void Open(platform::Computer& computer);
+
+    // A value that is no level counts as none, and so do limits that exclude each other.
+    ui::LevelLimits Read(const std::string& sensorId);
+    // Writes only this sensor's section: another Kelvra may have changed the others.
+    void Save(const std::string& sensorId, const ui::LevelLimits& limits);
+
+private:
+    std::error_code Write(const std::string& section, const ui::LevelLimits& limits);
+    void Report(const std::string& what, const std::error_code& error);
+
+    platform::Files& files_;
+    driver::DebugLog& log_;
+    ui::Notice& notice_;
+    std::string folder_;
+    std::string iniPath_;
+};
+
+}  // namespace kelvra::app

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Draws values over an even x axis as lines and as areas. A value that is not finite leaves a gap;
+// a value between two gaps is a point.
+#pragma once
+
+#include <qcustomplot.h>
+
+#include <vector>
+
+#include "desktop/plot_scale.h"
+
+namespace kelvra::desktop {
+
+// The x of the values.
+struct PlotSteps {
+    double first = 0, step = 0;
+};
+
+// With stairs, a value is a line from the x of the one before it to its own.
+void DrawLine(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
+              const std::vector<double>& values, bool stairs);
+
+// Fills what is between the two, which are as many, with the painter's brush.
+void DrawArea(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
+              const std::vector<double>& low, const std::vector<double>& high);
+
+}  // namespace kelvra::desktop

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/trend_limits.h"
+
+#include "ui/result_columns.h"
+#include "util/number_text.h"
+
+namespace kelvra::ui {
+
+namespace {
+constexpr ResultColumn ReadingColumns[] = {WattColumn, DbmColumn};
+}  // namespace
+
+TrendLimits::Sensor& TrendLimits::Kept(const std::string& key) {
+    const auto [place, added] = sensors_.try_emplace(key);
+    if (added && load) place->second.limits = load(key);
+    return place->second;
+}
+
+// Cells with a reading are judged again, which counts nothing.
+void TrendLimits::Set(const std::string& key, const LevelLimits& limits) {
+    Sensor& sensor = Kept(key);
+    if (sensor.limits == limits) return;
+    sensor.limits = limits;
+    if (save) save(key, limits);
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (ShowsReadingOf(slot, sensor)) JudgeAgain(slot);
+}
+
+// Not if another sensor has come into the slot since the measurement.
+bool TrendLimits::ShowsReadingOf(int slot, const Sensor& sensor) const {
+    const auto index = static_cast<std::size_t>(slot);
+    if (index >= slots_.size() || slots_[index].sensor != &sensor) return false;
+    return slots_[index].verdict != Verdict::None && table_[slot].history.Index() >= 0;
+}
+
+void TrendLimits::JudgeAgain(int slot) {
+    const Slot& own = slots_[static_cast<std::size_t>(slot)];
+    Show(slot, VerdictOf(own.sensor->limits, table_[slot].history.LastLevel()));
+    for (const ResultColumn column : ReadingColumns) {
+        controls::Grid::Look look = grid_.At(RowOf(slot), column).look;
+        look.back = ColourOf(own.verdict);
+        grid_.SetLook(RowOf(slot), column, look);
+    }
+}
+
+void TrendLimits::ResetCounts() {
+    for (auto& [key, sensor] : sensors_) sensor.outside = 0;
+}
+
+// The enabled sensors have their slots for this measurement.
+void TrendLimits::Started() {
+    for (int slot = 0; slot < static_cast<int>(slots_.size()); ++slot) Forget(slot);
+    slots_.assign(static_cast<std::size_t>(table_.Slots()), {});
+    for (int slot = 0; slot < table_.Slots(); ++slot)
+        if (table_[slot].present && table_[slot].enabled)
+            slots_[static_cast<std::size_t>(slot)].sensor = &Kept(sensors::KeyOf(table_[slot]));
+}
+
+TrendLimits::Verdict TrendLimits::VerdictOf(const LevelLimits& limits, double level) {
+    if (limits.low && level < *limits.low) return Verdict::Below;
+    if (limits.high && level > *limits.high) return Verdict::Above;
+    return Verdict::Inside;
+}
+
+controls::Colour TrendLimits::ColourOf(Verdict verdict) {
+    return verdict == Verdict::Below || verdict == Verdict::Above ? controls::Rose
+                                                                  : controls::White;
+}
+
+controls::Colour TrendLimits::Judge(int slot) {
+    const auto index = static_cast<std::size_t>(slot);
+    const sensors::SensorEntry& entry = table_[slot];
+    if (index >= slots_.size() || slots_[index].sensor == nullptr) return controls::White;
+    Verdict verdict = Verdict::None;
+    if (entry.fetchError.empty()) {
+        Sensor& sensor = *slots_[index].sensor;
+        verdict = VerdictOf(sensor.limits, entry.history.LastLevel());
+        if (verdict != Verdict::Inside) ++sensor.outside;
+    }
+    if (slots_[index].verdict != verdict) Show(slot, verdict);
+    return ColourOf(verdict);
+}
+
+void TrendLimits::Forget(int slot) {
+    const auto index = static_cast<std::size_t>(slot);
+    if (index < slots_.size() && slots_[index].verdict != Verdict::None) Show(slot, Verdict::None);
+}
+
+void TrendLimits::Show(int slot, Verdict verdict) {
+    slots_[static_cast<std::size_t>(slot)].verdict = verdict;
+    const std::string text = TextOf(slot);
+    for (const ResultColumn column : ReadingColumns) {
+        grid_.SetFaulty(RowOf(slot), column, !text.empty());
+        grid_.SetCellTooltip(RowOf(slot), column, text);
+    }
+}
+
+std::string TrendLimits::TextOf(int slot) const {
+    const Slot& own = slots_[static_cast<std::size_t>(slot)];
+    const bool below = own.verdict == Verdict::Below;
+    if (!below && own.verdict != Verdict::Above) return {};
+    const double limit = below ? *own.sensor->limits.low : *own.sensor->limits.high;
+    return std::string(below ? "Below the low" : "Above the high") + " limit of " +
+           util::GeneralText(limit, numbers_) + " dBm";
+}
+
+}  // namespace kelvra::ui
