@@ -41,17 +41,12 @@ void DrawCursor(QCPPainter& painter, const PlotScale& scale, const Graph::Cursor
 // The ranges are behind all lines, the series in front is before the others.
 void DrawSeries(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
                 const std::vector<Graph::Series>& all) {
-    painter.setPen(Qt::NoPen);
-    for (const Graph::Series& series : all) {
-        painter.setBrush(PlotTint(PartOf(series)));
-        DrawArea(painter, scale, x, series.low, series.high);
-    }
-    painter.setBrush(Qt::NoBrush);
+    for (const Graph::Series& series : all)
+        DrawArea(painter, scale, x, series.low, series.high, PlotTint(PartOf(series)));
     for (const bool front : {false, true})
         for (const Graph::Series& series : all) {
             if (series.front != front) continue;
-            painter.setPen(PlotPen(PartOf(series), front));
-            DrawLine(painter, scale, x, series.values, false);
+            DrawManyLines(painter, scale, x, series.values, PlotPen(PartOf(series), front));
         }
 }
 

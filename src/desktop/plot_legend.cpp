@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Sample = 28;  // logical pixels: length of a line
 constexpr int Gap = 6;
-constexpr int MostCharacters = 20;
+constexpr int MostCharacters = 14;
 
 int MostWidth(const QFontMetrics& metrics) {
     return MostCharacters * metrics.averageCharWidth();

@@ -63,22 +63,42 @@ void DrawLine(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
     stretch.End();
 }
 
+void DrawManyLines(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
+                   const std::vector<double>& values, QPen pen) {
+    const double pixel = 1 / painter.device()->devicePixelRatioF();
+    const int lines = std::max(qRound(pen.widthF() / pixel), 1);
+    pen.setWidthF(1);
+    pen.setCosmetic(true);
+    painter.setPen(pen);
+    painter.translate(0, -pixel * (lines - 1) / 2);
+    for (int line = 0; line < lines; ++line) {
+        DrawLine(painter, scale, x, values, false);
+        painter.translate(0, pixel);
+    }
+    painter.translate(0, -pixel * (lines + 1) / 2);
+}
+
+// As upright strips of whole pixels: a polygon with so many corners is slow to fill.
 void DrawArea(QCPPainter& painter, const PlotScale& scale, const PlotSteps& x,
-              const std::vector<double>& low, const std::vector<double>& high) {
+              const std::vector<double>& low, const std::vector<double>& high,
+              const QColor& colour) {
     const Range range = InSight(x, low.size(), scale.Axes().x);
-    const auto pixelX = [&](std::size_t i) {
-        return scale.PixelX(x.first + static_cast<double>(i) * x.step);
+    const auto edge = [&](std::size_t i) {  // between two values
+        constexpr double half = 0.5;
+        return std::round(scale.PixelX(x.first + (static_cast<double>(i) - half) * x.step));
     };
-    const auto finite = [&](std::size_t i) {
-        return std::isfinite(low[i]) && std::isfinite(high[i]);
-    };
+    double top = scale.Place().bottom(), bottom = scale.Place().top();
+    const double empty[] = {top, bottom};
     for (std::size_t i = range.from; i < range.to; ++i) {
-        QPolygonF area;
-        const std::size_t begin = i;
-        for (; i < range.to && finite(i); ++i) area << QPointF(pixelX(i), scale.PixelY(high[i]));
-        for (std::size_t back = i; back-- > begin;)
-            area << QPointF(pixelX(back), scale.PixelY(low[back]));
-        if (area.size() > 2) painter.drawPolygon(area);
+        if (std::isfinite(low[i]) && std::isfinite(high[i])) {
+            top = std::min(top, scale.PixelY(high[i]));
+            bottom = std::max(bottom, scale.PixelY(low[i]));
+        }
+        const double left = edge(i), right = edge(i + 1);
+        if (left == right) continue;
+        if (top < bottom) painter.fillRect(QRectF(left, top, right - left, bottom - top), colour);
+        top = empty[0];
+        bottom = empty[1];
     }
 }
 

@@ -56,7 +56,7 @@ QString PrefixTicker::getTickLabel(double tick, const QLocale& locale, QChar, in
     const int prefix =
         std::clamp(static_cast<int>(power) + unit, 0, static_cast<int>(std::size(prefixes)) - 1);
     const double shown = tick / std::pow(10, perPrefix * (prefix - unit));
-    return locale.toString(shown, 'g', digits) + " " + prefixes[prefix];
+    return (locale.toString(shown, 'g', digits) + " " + prefixes[prefix]).trimmed();
 }
 
 }  // namespace kelvra::desktop

@@ -28,13 +28,14 @@ QWidget* MakeLimit(controls::TextField& field, WidgetMaker& maker) {
 // As high as its rows, up to a few; it scrolls for the others.
 QWidget* MakeValues(controls::Grid& values, WidgetMaker& maker) {
     GridWidget* table = maker.Make(values);
-    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->onNeed = [table] {
+    const auto fit = [table] {
         int height = table->horizontalHeader()->height();
         for (int row = 0; row < std::min(table->rowCount(), MostRows); ++row)
             height += table->rowHeight(row);
         table->setFixedHeight(height);
     };
+    fit();
+    table->onNeed = fit;
     return table;
 }
 

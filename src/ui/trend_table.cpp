@@ -15,17 +15,22 @@ enum Column { NameColumn, LastColumn, MinColumn, MaxColumn, MeanColumn, OutsideC
 constexpr struct {
     const char* heading;
     const char* tooltip;
-    int width;  // twips
+    int width;           // twips
+    const char* sample;  // empty: by the unit
 } Columns[] = {
-    {"Sensor", "", 1200},
-    {"Last", "The newest reading", 900},
-    {"Min", "The smallest reading of the shown time", 900},
-    {"Max", "The largest reading of the shown time", 900},
-    {"Mean", "The mean power of the shown time", 900},
-    {"Outside", "Readings outside the limits, since the counts were reset", 900},
+    {"Sensor", "", 1200, "Sensor at port 2"},
+    {"Last", "The newest reading", 900, ""},
+    {"Min", "The smallest reading of the shown time", 900, ""},
+    {"Max", "The largest reading of the shown time", 900, ""},
+    {"Mean", "The mean power of the shown time", 900, ""},
+    {"Outside", "Readings outside the limits, since the counts were reset", 900, "1000000"},
 };
 
 constexpr controls::Grid::Look Plain{};
+
+std::int32_t Counted(std::int64_t readings) {
+    return static_cast<std::int32_t>(std::min<std::int64_t>(readings, INT32_MAX));
+}
 
 }  // namespace
 
@@ -33,6 +38,7 @@ TrendTable::TrendTable(controls::Grid& grid, TrendLimits& limits, const util::Nu
     : grid_(grid), limits_(limits), numbers_(numbers) {
     for (int column = 0; const auto& each : Columns) {
         grid_.SetWidth(column, each.width);
+        grid_.SetSample(column, each.sample);
         grid_.SetCellTooltip(0, column++, each.tooltip);
     }
     WriteHeading(TrendUnit::Dbm);
@@ -45,7 +51,7 @@ void TrendTable::WriteHeading(TrendUnit unit) {
     for (int column = 0; const auto& each : Columns) {
         std::string text = each.heading;
         const bool isPower = column >= LastColumn && column <= MeanColumn;
-        if (isPower) text += watts ? " [W]" : " [dBm]";
+        if (isPower) text += watts ? "\r\n[W]" : "\r\n[dBm]";
         grid_.SetCell(0, column, text, bold);
         if (isPower) grid_.SetSample(column, watts ? "0.0000E+00" : "-970.000");
         ++column;
@@ -71,7 +77,7 @@ void TrendTable::WriteRow(int row, const TrendPicture::Sensor& sensor, TrendUnit
     WritePower(row, MeanColumn, of(&TrendPicture::Statistics::mean), unit);
     const std::int64_t outside = limits_.Outside(sensor.key);
     if (outside > 0 || limits_.Of(sensor.key).Any())
-        grid_.SetCell(row, OutsideColumn, util::TrimmedNumberText(outside), Plain);
+        grid_.SetCell(row, OutsideColumn, util::CountFigure(Counted(outside), numbers_), Plain);
     else
         grid_.SetCell(row, OutsideColumn, "", Plain);
 }

@@ -262,19 +262,20 @@ void TrendWindow::ShowAll() {
         Redraw();
 }
 
-// The column of the mouse, and for each sensor the nearest one with readings.
+// The column of the mouse, and for each sensor the nearest one with readings: the chosen one first.
 void TrendWindow::ShowPointed(double x) {
     const std::int64_t column = (TimeOf(x) - picture_.from) / picture_.width;
     const platform::LocalTime time = p_.host.clock.At(TimeOf(x));
     const bool fine = picture_.width < std::chrono::seconds(1);
-    std::string text = DayText(time) + " " + ClockText(time, fine);
-    for (const TrendPicture::Sensor& sensor : picture_.sensors)
-        if (const auto near = TrendPicture::NearestTo(column, sensor, PointerReach))
-            text.append("   ")
-                .append(sensor.name)
-                .append(" ")
-                .append(ColumnText(sensor.columns[*near]));
-    form_.lblPointed.caption = text;
+    std::string text;
+    for (int i = 0; const TrendPicture::Sensor& sensor : picture_.sensors) {
+        const auto near = TrendPicture::NearestTo(column, sensor, PointerReach);
+        const bool chosen = i++ == Chosen();
+        if (!near) continue;
+        const std::string own = "; " + sensor.name + " " + ColumnText(sensor.columns[*near]);
+        text = chosen ? own + text : text + own;
+    }
+    form_.lblPointed.caption = DayText(time) + " " + ClockText(time, fine) + text;
 }
 
 // "-10.02 dBm", and the range of several readings.

@@ -7,6 +7,7 @@
 #include "desktop/graph_picture.h"
 #include "desktop/mirror.h"
 #include "desktop/plot_captions.h"
+#include "desktop/plot_tickers.h"
 
 namespace kelvra::desktop {
 
@@ -249,6 +250,77 @@ private slots:
                 QVERIFY(
                     !lit({widget_->axisRect()->left() + x, At(0, -25).y()}));  // no line up there
         }
+    }
+
+    void SeriesHaveTheirOwnColoursWithRangesBehindAndLimitsAround() {
+        constexpr double none = std::numeric_limits<double>::quiet_NaN();
+        while (graph_->CursorCount() > 0) graph_->RemoveCursor(0);
+        const int top = widget_->axisRect()->top();
+        graph_->SetCurve({0.5, 1, std::vector<double>(10, -40)});
+        graph_->SetSeries({{"A", 0, true, std::vector<double>(10, -40), {}, {}},
+                           {"B",
+                            8 + 3,
+                            false,
+                            {-60, -60, -60, none, none, none, -60, -60, -60, -60},
+                            std::vector<double>(10, -80),
+                            std::vector<double>(10, -55)}});
+        graph_->SetLimits({std::nullopt, -20});
+        Paint();
+        const QImage picture = widget_->grab().toImage();
+        const auto has = [&](const QPoint& at, const QColor& colour) {
+            for (int x = -8; x < 8; ++x)  // a dash is somewhere
+                for (const int y : {-1, 0, 1}) {
+                    const QColor pixel = picture.pixelColor(at + QPoint(x, y));
+                    const int distance = abs(pixel.red() - colour.red()) +
+                                         abs(pixel.green() - colour.green()) +
+                                         abs(pixel.blue() - colour.blue());
+                    if (distance < 60) return true;
+                }
+            return false;
+        };
+        QVERIFY(widget_->axisRect()->top() > top);  // under the legend
+        QVERIFY(has(At(1.5, -40), PlotColour(PlotPart::Series1)));
+        QVERIFY(has(At(1.5, -60), PlotColour(PlotPart::Series4)));
+        QVERIFY(!has(At(4.5, -60), PlotColour(PlotPart::Series4)));
+        QVERIFY(has(At(1.5, -20), PlotColour(PlotPart::Limit)));
+        const QColor plain = PlotColour(PlotPart::Ground);
+        QVERIFY(picture.pixelColor(At(1.7, -70)) != plain);
+        QVERIFY(picture.pixelColor(At(1.7, -10)) != plain);
+        QCOMPARE(picture.pixelColor(At(1.7, -30)), plain);
+    }
+
+    void NumbersAtTheAxesAreTimesAndPrefixes() {
+        const auto labels = [](QCPAxisTicker& ticker, int ticks, QCPRange range) {
+            ticker.setTickCount(ticks);
+            QVector<double> places;
+            QVector<QString> texts;
+            ticker.generate(range, QLocale::c(), 'g', 6, places, nullptr, &texts);
+            return texts.join(", ").replace("\n", " ");
+        };
+        constexpr double noon = 1'110'196'800, day = 86'400;  // 2005-03-07 12:00
+        TimeTicker times;
+        PrefixTicker powers;
+        const struct {
+            QCPAxisTicker& ticker;
+            int ticks;
+            QCPRange range;
+            const char* labels;
+        } cases[] = {
+            {times, 3, {noon - 1, noon + 45}, "12:00:00 2005-03-07, 12:00:15, 12:00:30, 12:00:45"},
+            {times, 3, {noon, noon + 0.05}, "12:00:00.000 2005-03-07, 12:00:00.020, 12:00:00.040"},
+            {times,
+             4,
+             {noon, noon + day},
+             "12:00 2005-03-07, 18:00, 00:00 2005-03-08, 06:00, 12:00"},
+            {times,
+             3,
+             {noon, noon + 5 * day},
+             "00:00 2005-03-08, 00:00 2005-03-10, 00:00 2005-03-12"},
+            {powers, 4, {0, 2e-4}, "0, 50 \u00B5, 100 \u00B5, 150 \u00B5, 200 \u00B5"},
+            {powers, 3, {0, 3}, "0, 1, 2, 3"},
+            {powers, 2, {-1e-19, 1e-19}, "-0.0001 f, -5e-05 f, 0, 5e-05 f, 0.0001 f"},
+        };
+        for (const auto& c : cases) QCOMPARE(labels(c.ticker, c.ticks, c.range), c.labels);
     }
 
     void AHiddenGraphDrawsNothingUntilItIsShown() {
