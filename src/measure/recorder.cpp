@@ -13,10 +13,13 @@ std::error_code Recorder::Begin(const std::string& path, std::int32_t interval,
                                 std::unique_ptr<RecordFormat> format) {
     End();
     torn_.reset();
-    progress_ = {path, host_.clock.Monotonic(), {}, 0, 0};
+    const Progress before = std::exchange(progress_, {path, host_.clock.Monotonic(), {}, 0, 0});
     format_ = std::move(format);
     heading_ = format_->Heading(Slots());
-    if (const auto error = StartFile(heading_)) return error;
+    if (const auto error = StartFile(heading_)) {
+        progress_ = before;
+        return error;
+    }
     gap_ = 0;
     runBegins_ = true;
     state_.recording = true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/record_menu.h"
 
+#include <string_view>
 #include <utility>
 
 #include "ui/typed_number.h"
@@ -58,14 +59,20 @@ void RecordMenu::AskFile() {
     question.title = "Record Data";
     question.filter = Filter;
     question.filterIndex = CsvFilter;
-    question.proposed = recorder_.Latest().path;
-    if (question.proposed.empty())
-        question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), "Readings.csv");
+    question.proposed = Proposed();
     question.save = true;
     host_.dialogs.AskFile(question, [this](const std::optional<platform::ChosenFile>& file) {
         asking_ = false;
         if (file && !file->path.empty()) Begin(*file);
     });
+}
+
+// The last file again, by the name that it has in the form that is preselected.
+std::string RecordMenu::Proposed() const {
+    const std::string& last = recorder_.Latest().path;
+    if (last.empty()) return host_.computer.Join(host_.computer.ProgramFolder(), "Readings.csv");
+    constexpr std::string_view analysis = ".analysis.csv";
+    return last.ends_with(analysis) ? last.substr(0, last.size() - analysis.size()) + ".csv" : last;
 }
 
 // A recording that is not wanted any more has been ended in the menu before.

@@ -63,11 +63,14 @@ TEST_F(RecorderTest, AFaultCostsTheLineThatIsBeingWrittenAndIsReportedOnce) {
 TEST_F(RecorderTest, AFileThatHasGoneIsNotMadeAnewAndGoesOnWhenItIsBack) {
     StartWith(1);
     Record("a.csv", MakeAnalysisFormat());
+    files.freeSpace = std::uint64_t{5} << 20;
     std::string away;
     fake.events.onRound = [&](int) {
         const auto passes = program->state.passes;
         if (passes == 2 && away.empty()) {
             away = folder.Get("a.csv");
+            EXPECT_TRUE(program->forms.mdiMain.lblRecord.caption->starts_with(
+                "Disk has only 5 MB left; 2 lines in 0:00:0"));
             files.Remove(folder.Path("a.csv"));
         }
         if (passes == 4 && !files.Exists(folder.Path("a.csv"))) folder.Put("a.csv", away);

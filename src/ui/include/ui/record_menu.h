@@ -4,6 +4,8 @@
 // can't be made gives a message, and no recording begins.
 #pragma once
 
+#include <string>
+
 #include "forms/forms.h"
 #include "measure/listener.h"
 #include "measure/recorder.h"
@@ -23,6 +25,7 @@ public:
 private:
     void StartOrStop();
     void AskFile();
+    std::string Proposed() const;
     void Begin(const platform::ChosenFile& file);
     void Judge();
 
