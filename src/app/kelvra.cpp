@@ -16,7 +16,8 @@ Kelvra::Kelvra(platform::Host& hostToUse)
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
       sensorCommands({table, state, host, driverSession, news}),
       trendCollector(trend, table, host.clock),
-      windows(forms, table, state, cycle, sensorCommands, modes, trend, host),
+      recorder(table, state, host),
+      windows({forms, table, state, cycle, sensorCommands, modes, recorder, trend, host}),
       store(host.files, log, windows.notice),
       limitsStore(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
@@ -26,8 +27,9 @@ Kelvra::Kelvra(platform::Host& hostToUse)
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
 }
 
-// The trend has the readings before its window shows them. The recovery comes last, after the
-// windows have shown the error that it acts on.
+// The trend has the readings before its window shows them. The recorder comes after the windows:
+// its line is the end of a pass. The recovery comes last, after the windows have shown the error
+// that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
     windows.edits.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
@@ -39,6 +41,9 @@ void Kelvra::Subscribe() {
         limitsStore.Save(key, limits);
     };
     windows.Subscribe(news, sessionNews);
+    news.measurement.Add(recorder);
+    news.pass.Add(recorder);
+    news.slot.Add(recorder);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);
 }

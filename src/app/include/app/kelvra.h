@@ -17,6 +17,7 @@
 #include "measure/cycle.h"
 #include "measure/listener.h"
 #include "measure/readings.h"
+#include "measure/recorder.h"
 #include "measure/sensor_commands.h"
 #include "measure/session_recovery.h"
 #include "measure/state.h"
@@ -65,6 +66,7 @@ public:
     measure::SessionRecovery recovery;
     measure::SensorCommands sensorCommands;
     measure::TrendCollector trendCollector;
+    measure::Recorder recorder;
     Windows windows;
     SettingsStore store;
     LimitsStore limitsStore;

@@ -36,6 +36,7 @@ private:
     QWidget* BuildStrip();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();
+    QWidget* BuildRecording();
     QHBoxLayout* BuildConnection();
     QWidget* BuildFormulas();
     void KeepResultsInSight();
