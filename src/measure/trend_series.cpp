@@ -110,14 +110,17 @@ void TrendSeries::Add(Duration at, double powerW) {
     const double power = std::min(std::abs(powerW), double{std::numeric_limits<float>::max()});
     newest_ = std::max(newest_, at);
     readings_.Add({newest_, static_cast<float>(power), broken_});
-    Put(0, {newest_, {}, power, power, power, 1, broken_});
+    // Nearly always the bucket is the same as before: that must cost little.
+    if (Piece& open = tiers_.front().open; open.count > 0 && newest_ < open.at + open.width)
+        Merge(open, power, power, power, 1);
+    else
+        Put(0, {newest_, {}, power, power, power, 1, broken_});
     broken_ = false;
 }
 
 // A bucket is complete when a piece for a later one comes; then it is one piece of the next tier.
 void TrendSeries::Put(std::size_t tier, const Piece& piece) {
     Piece& open = tiers_[tier].open;
-    // Most pieces are in the same bucket as the one before; that needs no division.
     if (open.count == 0 || piece.at >= open.at + open.width) {
         const Duration width = TrendTiers[tier].width;
         const Piece complete = std::exchange(

@@ -8,6 +8,16 @@ namespace kelvra::ui {
 
 namespace {
 constexpr ResultColumn ReadingColumns[] = {WattColumn, DbmColumn};
+
+// Cells that have their text already.
+void ColourCells(controls::Grid& grid, int slot, controls::Colour colour) {
+    for (const ResultColumn column : ReadingColumns) {
+        controls::Grid::Look look = grid.At(RowOf(slot), column).look;
+        look.back = colour;
+        grid.SetLook(RowOf(slot), column, look);
+    }
+}
+
 }  // namespace
 
 TrendLimits::Sensor& TrendLimits::Kept(const std::string& key) {
@@ -36,11 +46,7 @@ bool TrendLimits::ShowsReadingOf(int slot, const Sensor& sensor) const {
 void TrendLimits::JudgeAgain(int slot) {
     const Slot& own = slots_[static_cast<std::size_t>(slot)];
     Show(slot, VerdictOf(own.sensor->limits, table_[slot].history.LastLevel()));
-    for (const ResultColumn column : ReadingColumns) {
-        controls::Grid::Look look = grid_.At(RowOf(slot), column).look;
-        look.back = ColourOf(own.verdict);
-        grid_.SetLook(RowOf(slot), column, look);
-    }
+    ColourCells(grid_, slot, ColourOf(own.verdict));
 }
 
 void TrendLimits::ResetCounts() {
@@ -83,7 +89,9 @@ controls::Colour TrendLimits::Judge(int slot) {
 
 void TrendLimits::Forget(int slot) {
     const auto index = static_cast<std::size_t>(slot);
-    if (index < slots_.size() && slots_[index].verdict != Verdict::None) Show(slot, Verdict::None);
+    if (index >= slots_.size() || slots_[index].verdict == Verdict::None) return;
+    Show(slot, Verdict::None);
+    ColourCells(grid_, slot, controls::White);
 }
 
 void TrendLimits::Show(int slot, Verdict verdict) {

@@ -17,6 +17,9 @@ namespace {
 constexpr double None = std::numeric_limits<double>::quiet_NaN();
 constexpr double MostDecibels = 150;  // from the top of an axis to its bottom
 constexpr double LeastDecibels = 0.1;
+// A limit that is farther from all readings would leave them no room.
+constexpr double FarLimit = 50;  // dB
+constexpr double FarFactor = 10;
 // A smaller axis in W would show the rounding of the numbers.
 constexpr double LeastShare = 1e-3;  // of the power
 constexpr double LeastWatts = 1e-15;
@@ -108,12 +111,15 @@ std::optional<Graph::Axis> AxisAround(const std::vector<Graph::Series>& series,
         for (const std::vector<double>* values : {&each.values, &each.low, &each.high})
             std::for_each(values->begin(), values->end(), include);
     if (low > high) return std::nullopt;
-    if (limits.low) include(*limits.low);
-    if (limits.high) include(*limits.high);
-    if (unit == TrendUnit::Dbm) low = std::max(low, high - MostDecibels);
-    const double least =
-        unit == TrendUnit::Dbm ? LeastDecibels : std::max(std::abs(high) * LeastShare, LeastWatts);
-    const double step = RoundStep(std::max(high - low, least));
+    const bool decibels = unit == TrendUnit::Dbm;
+    const double least = decibels ? low - FarLimit : 0;
+    const double most = decibels ? high + FarLimit : high * FarFactor;
+    for (const std::optional<double>& limit : {limits.low, limits.high})
+        if (limit && *limit >= least && *limit <= most) include(*limit);
+    if (decibels) low = std::max(low, high - MostDecibels);
+    const double narrowest =
+        decibels ? LeastDecibels : std::max(std::abs(high) * LeastShare, LeastWatts);
+    const double step = RoundStep(std::max(high - low, narrowest));
     return Graph::Axis{(std::floor(low / step) - (low == high ? 1 : 0)) * step,
                        (std::ceil(high / step) + (low == high ? 1 : 0)) * step};
 }

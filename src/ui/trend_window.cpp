@@ -99,9 +99,7 @@ void TrendWindow::Stopped() {
 }
 
 void TrendWindow::Awaited(int /*slot*/, const std::string& /*complaint*/) {
-    if (!form_.visible || form_.TrendPause.Checked()) return;
-    MoveTo(p_.host.clock.Monotonic());
-    Redraw();
+    if (form_.visible) PassSeen(p_.host.clock.Monotonic(), {});
 }
 
 // Slow spans need no fast drawing.

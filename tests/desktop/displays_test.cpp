@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -56,6 +57,30 @@ private slots:
         QVERIFY(!window.isVisible());
         QTRY_COMPARE(running.desktop.Results().Window().size(),
                      running.desktop.Main().Area().viewport()->size());
+    }
+
+    void TheTrendHasRoomForItsGraphBesideTheResultsAndIsReachedByKeys() {
+        RunningDesktop running;
+        running.kelvra.forms.mdiMain.WindowTrend.Press();
+        running.desktop.Painter().Flush();
+        QCoreApplication::processEvents();
+        auto& graph = running.Find<GraphWidget>("TrendGraph");
+        QVERIFY(graph.height() > 200);
+        const auto& table = running.Find<GridWidget>("TrendValues");
+        QVERIFY(table.geometry().bottom() < table.parentWidget()->height());
+        QTRY_VERIFY(running.desktop.Results().Window().geometry().right() <
+                    graph.mapTo(&running.desktop.Main().Area(), QPoint()).x());
+        QStringList reached;
+        QWidget* first = running.Main().findChild<QComboBox*>("TrendSensor");
+        for (QWidget* widget = first; !reached.contains("TrendValues") && reached.size() < 20;
+             widget = QApplication::focusWidget()) {
+            widget->setFocus();
+            reached << widget->objectName();
+            QTest::keyClick(widget, Qt::Key_Tab);
+        }
+        QCOMPARE(reached.join(' '),
+                 "TrendSensor TrendSpan TrendUnit TrendPause TrendZoom LowLimit "
+                 "HighLimit ResetCounts ClearTrend TrendGraph TrendValues");
     }
 
     void APlaceThatTheUserHasGivenStaysAndComesBackInTheNextRun() {

@@ -155,6 +155,11 @@ TEST_F(TrendTest, AReadingOutsideIsMarkedAndCountedUntilItIsInsideAgain) {
     EXPECT_TRUE(Cell(1, DbmColumn).faulty);
     EXPECT_EQ(Value(2, 5), "0");
     EXPECT_EQ(Form().TrendGraph.Limits().high, 19);
+    program->windows.limits.Started();  // the next measurement
+    EXPECT_EQ(Cell(1, DbmColumn).look.back, controls::White);
+    EXPECT_EQ(Cell(1, DbmColumn).tooltip, "");
+    Measure(1);
+    EXPECT_TRUE(Cell(1, DbmColumn).faulty);
     driver.devices[1].connected = 0;
     Tick();
     EXPECT_FALSE(Cell(1, DbmColumn).faulty);

@@ -37,16 +37,14 @@ struct TrendForm : Window {
     TextField LowLimit{*this,
                        "LowLimit",
                        {.label = "lblLowLimit",
-                        .caption = "Limits",
-                        .name = "Low limit",
+                        .caption = "Low limit",
                         .explanation = "A reading of the chosen sensor below this level is "
                                        "marked and counted; empty for no limit"}};
     TextField HighLimit{*this,
                         "HighLimit",
                         {.label = "lblHighLimit",
-                         .caption = "to",
+                         .caption = "High limit",
                          .unit = "dBm",
-                         .name = "High limit",
                          .explanation = "A reading of the chosen sensor above this level is "
                                         "marked and counted; empty for no limit"}};
     Button ResetCounts{*this, "ResetCounts", "Reset counts"};

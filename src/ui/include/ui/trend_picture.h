@@ -44,8 +44,8 @@ double InUnit(double powerW, TrendUnit unit);
 // readings that nothing has interrupted, the line is straight; elsewhere there is no value.
 controls::Graph::Series SeriesOf(const TrendPicture::Sensor& sensor, TrendUnit unit);
 
-// An axis with round ends around what the series show, and around the limits. In dBm, powers of
-// nearly nothing do not count. Nothing if there is nothing to show.
+// An axis with round ends around what the series show, and around limits that are not far from it.
+// In dBm, powers of nearly nothing do not count. Nothing if there is nothing to show.
 std::optional<controls::Graph::Axis> AxisAround(const std::vector<controls::Graph::Series>& series,
                                                 const controls::Graph::Band& limits,
                                                 TrendUnit unit);
