@@ -15,7 +15,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
       sensorCommands({table, state, host, driverSession, news}),
-      windows(forms, table, state, cycle, sensorCommands, modes, host),
+      windows(forms, table, state, cycle, sensorCommands, modes, library, host),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
       settingsCommands_(forms, table, windows.edits, windows.notice, host) {

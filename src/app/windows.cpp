@@ -9,7 +9,7 @@ namespace kelvra::app {
 
 Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
                  measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-                 platform::Host& host)
+                 const driver::DriverLibrary& drivers, platform::Host& host)
     : notice(forms.mdiMain, table, host.clock),
       errorStrip(forms.setupForm, notice, table, host.dialogs),
       selection(table),
@@ -34,7 +34,8 @@ Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::Meas
       slotTable(forms, table, edits, displayLists, selection, host.computer),
       displayData(forms, table, notice, host),
       settingsCopy({forms, table, edits, selection, notice}),
-      sensorCommands({forms, table, commands, notice, host}) {
+      sensorCommands({forms, table, commands, notice, host}),
+      aboutBox(forms, drivers, host) {
     ui::ConnectHelp(forms.timeForm, host);
     forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
     forms.mdiMain.StopIt.click.Connect([&cycle, &commands] {

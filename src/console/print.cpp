@@ -2,6 +2,7 @@
 #include "console/print.h"
 
 #include "console/output.h"
+#include "controls/rtf_reader.h"
 #include "controls/visit.h"
 
 namespace kelvra::console {
@@ -50,7 +51,9 @@ struct Lines {
     Result operator()(const controls::List& list) const { return ListLines(list); }
     Result operator()(const controls::Grid& grid) const { return GridLines(grid); }
     Result operator()(const controls::Graph&) const { return {}; }  // dump shows its content
-    Result operator()(const controls::RichText& text) const { return {OneLine(text.rtf.Get())}; }
+    Result operator()(const controls::RichText& text) const {
+        return controls::RtfLines(text.rtf.Get());
+    }
     Result operator()(const controls::Picture& picture) const { return {picture.image.Get()}; }
 };
 

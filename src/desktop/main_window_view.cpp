@@ -66,8 +66,7 @@ void MainWindowView::BuildMenus() {
 
 // Whether the control opens a window that is not drawn yet.
 bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
-    const std::initializer_list<const controls::Control*> openers{&form_.FileSaveData,
-                                                                  &form_.MHelpAbout};
+    const std::initializer_list<const controls::Control*> openers{&form_.FileSaveData};
     return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 

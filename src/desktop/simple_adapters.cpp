@@ -31,6 +31,24 @@ void LabelAdapter::Update() {
     UpdateCommon(widget_, label_);
 }
 
+LinkAdapter::LinkAdapter(controls::Label& label, QLabel& widget) : label_(label), widget_(widget) {
+    widget_.setTextFormat(Qt::RichText);
+    widget_.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    QObject::connect(&widget_, &QLabel::linkActivated, [this] { label_.Press(); });
+}
+
+// The toolkit gives a link its colour when it gets its text.
+void LinkAdapter::Update() {
+    const QString caption = Shown(label_.caption.Get());
+    if (shown_ != caption || scheme_ != CurrentScheme()) {
+        shown_ = caption;
+        scheme_ = CurrentScheme();
+        widget_.setText("<a href=\"#\">" + caption.toHtmlEscaped() + "</a>");
+        widget_.setAccessibleName(caption);
+    }
+    UpdateCommon(widget_, label_);
+}
+
 LongLabelAdapter::LongLabelAdapter(const controls::Label& label, QPlainTextEdit& widget)
     : label_(label), widget_(widget) {
     widget_.setReadOnly(true);

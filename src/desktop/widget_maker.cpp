@@ -14,6 +14,7 @@
 #include "desktop/grid_adapter.h"
 #include "desktop/page_button.h"
 #include "desktop/qt_text.h"
+#include "desktop/rich_text_adapter.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -57,6 +58,14 @@ QLabel* WidgetMaker::Make(const controls::Label& label, QLabel* widget) {
 
 QPlainTextEdit* WidgetMaker::MakeLong(const controls::Label& label) {
     return Mirrored<LongLabelAdapter>(label, new QPlainTextEdit);
+}
+
+QLabel* WidgetMaker::MakeLink(controls::Label& label) {
+    return Mirrored<LinkAdapter>(label, new QLabel);
+}
+
+QTextEdit* WidgetMaker::Make(const controls::RichText& text) {
+    return Mirrored<RichTextAdapter>(text, new QTextEdit);
 }
 
 QPushButton* WidgetMaker::Make(controls::Button& button) {

@@ -204,7 +204,7 @@ private slots:
             for (QAction* entry : menu->menu()->actions())
                 if (!entry->isEnabled()) disabled << entry->text() + ": " + entry->toolTip();
         const QString why = ": This window comes with a later version";
-        QCOMPARE(disabled, (QStringList{"&Record Data..." + why, "&About..." + why}));
+        QCOMPARE(disabled, QStringList{"&Record Data..." + why});
     }
 };
 

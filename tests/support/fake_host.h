@@ -121,6 +121,12 @@ public:
     bool compiledHelp = false;
 
     std::string ProgramFolder() override { return folder; }
+    std::string SystemFolder() override { return Join(folder, "System32"); }
+    std::string WindowsFolder() override { return Join(folder, "Windows"); }
+    platform::SystemDescription system{"Linux 6.1", "x86_64", "Debian 12", "C"};
+    platform::SystemDescription Describe() override { return system; }
+    std::optional<platform::WindowsVersion> windows;
+    std::optional<platform::WindowsVersion> Windows() override { return windows; }
     std::string GuideFolder() override { return "guide"; }
     bool OpensCompiledHelp() override { return compiledHelp; }
     std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
@@ -136,7 +142,7 @@ public:
     platform::LoadedLibrary LoadDriverLibrary(Text name) override {
         const std::string file = "lib" + name + ".so";
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
-        return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
+        return {std::make_unique<FakeLibrary>(libraries.at(name)), file, "", "/drivers/" + file};
     }
     std::map<std::string, std::string> names;  // in the registry, by their names there
     std::error_code WriteRegistry(Text key, Text name, Text value) override {

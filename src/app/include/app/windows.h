@@ -3,6 +3,7 @@
 // driver and the selection publish.
 #pragma once
 
+#include "driver/driver_library.h"
 #include "driver/notices.h"
 #include "driver/transfer.h"
 #include "forms/forms.h"
@@ -12,6 +13,7 @@
 #include "measure/sensor_commands.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/about_box.h"
 #include "ui/calc_grid.h"
 #include "ui/display_data.h"
 #include "ui/display_lists.h"
@@ -43,7 +45,7 @@ namespace kelvra::app {
 struct Windows {
     Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
             measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-            platform::Host& host);
+            const driver::DriverLibrary& drivers, platform::Host& host);
 
     ui::Notice notice;
     ui::ErrorStrip errorStrip;
@@ -70,6 +72,7 @@ struct Windows {
     ui::DisplayData displayData;
     ui::SettingsCopy settingsCopy;
     ui::SensorCommands sensorCommands;
+    ui::AboutBox aboutBox;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

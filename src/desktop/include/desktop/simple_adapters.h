@@ -32,6 +32,19 @@ private:
     QString shown_;
 };
 
+// A label that acts as a link: it takes the focus, and a click or Enter presses it.
+class LinkAdapter final : public WidgetAdapter {
+public:
+    LinkAdapter(controls::Label& label, QLabel& widget);
+    void Update() override;
+
+private:
+    controls::Label& label_;
+    QLabel& widget_;
+    QString shown_;
+    Scheme scheme_ = Scheme::Classic;
+};
+
 // A label of many lines, which can be scrolled, selected and copied.
 class LongLabelAdapter final : public WidgetAdapter {
 public:

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/rich_text_adapter.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <utility>
+
+#include "desktop/qt_text.h"
+
+namespace kelvra::desktop {
+
+namespace {
+
+constexpr double Readable = 4.5;  // contrast, WCAG 2.1
+constexpr int Steps = 20;
+
+QColor ToolkitColour(controls::Colour colour) {
+    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+            static_cast<int>(colour >> 16 & 0xFF)};
+}
+
+// The colour, or what of the way to the best text colour makes it readable.
+QColor ReadableOn(const QColor& ground, const QColor& colour) {
+    const QColor best = TextOn(ground);
+    for (int step = 0; step < Steps; ++step) {
+        const auto mixed = [&](int from, int to) { return from + (to - from) * step / Steps; };
+        const QColor tried(mixed(colour.red(), best.red()), mixed(colour.green(), best.green()),
+                           mixed(colour.blue(), best.blue()));
+        if (Contrast(tried, ground) >= Readable) return tried;
+    }
+    return best;
+}
+
+QFont FontOf(const controls::RichDocument& document) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QString named = Shown(document.font);
+    if (QFontDatabase::hasFamily(named)) font.setFamilies({named});
+    font.setPointSizeF(QApplication::font().pointSizeF());
+    return font;
+}
+
+QTextCharFormat FormatOf(const controls::RichLook& look, const QColor& ground) {
+    QTextCharFormat format;
+    if (look.bold) format.setFontWeight(QFont::Bold);
+    format.setFontItalic(look.italic);
+    format.setFontUnderline(look.underline);
+    const QColor back = look.highlight ? ToolkitColour(*look.highlight) : ground;
+    if (look.highlight) format.setBackground(back);
+    if (look.text || look.highlight)
+        format.setForeground(
+            ReadableOn(back, look.text ? ToolkitColour(*look.text) : TextOn(back)));
+    return format;
+}
+
+Qt::Alignment ToolkitAlignment(controls::RichAlign align) {
+    switch (align) {
+        case controls::RichAlign::Right:
+            return Qt::AlignRight;
+        case controls::RichAlign::Centre:
+            return Qt::AlignHCenter;
+        case controls::RichAlign::Left:
+            break;
+    }
+    return Qt::AlignLeft;
+}
+
+}  // namespace
+
+void WriteDocument(QTextDocument& written, const controls::RichDocument& document,
+                   const QColor& ground) {
+    written.clear();
+    written.setDefaultFont(FontOf(document));
+    QTextCursor cursor(&written);
+    bool first = true;
+    for (const controls::RichParagraph& paragraph : document.paragraphs) {
+        QTextBlockFormat block;
+        block.setAlignment(ToolkitAlignment(paragraph.align));
+        if (std::exchange(first, false))
+            cursor.setBlockFormat(block);
+        else
+            cursor.insertBlock(block, {});
+        for (const controls::RichRun& run : paragraph.runs)
+            cursor.insertText(Shown(run.text), FormatOf(run.look, ground));
+    }
+}
+
+RichTextAdapter::RichTextAdapter(const controls::RichText& text, QTextEdit& widget)
+    : text_(text), widget_(widget) {
+    widget_.setReadOnly(true);
+    widget_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    widget_.setTabChangesFocus(true);
+    widget_.setUndoRedoEnabled(false);
+}
+
+void RichTextAdapter::Update() {
+    if (shown_ != text_.rtf.Get() || scheme_ != CurrentScheme()) Write();
+    UpdateCommon(widget_, text_);
+}
+
+// The caret is at the end, as after writing; a reader begins at the top.
+void RichTextAdapter::Write() {
+    shown_ = text_.rtf.Get();
+    scheme_ = CurrentScheme();
+    WriteDocument(*widget_.document(), controls::ReadRtf(shown_),
+                  QApplication::palette().color(QPalette::Base));
+    widget_.moveCursor(QTextCursor::End);
+    widget_.verticalScrollBar()->setValue(0);
+}
+
+}  // namespace kelvra::desktop
