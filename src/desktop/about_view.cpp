@@ -13,8 +13,6 @@ namespace kelvra::desktop {
 namespace {
 
 constexpr int PictureSide = 64;  // logical pixels
-constexpr int PanelColumns = 80;
-constexpr int PanelLines = 20;
 constexpr double NameSize = 1.6;  // of the other text's
 
 QHBoxLayout* Row() {
@@ -64,11 +62,8 @@ QWidget* MakePanels(forms::AboutForm& form, WidgetMaker& maker) {
     for (const controls::RichText* panel :
          {&form.SysInfoValue, &form.DriverInfoValue, &form.LizText}) {
         QTextEdit* text = maker.Make(*panel);
-        const QFontMetrics metrics(text->font());
-        text->setMinimumHeight(PanelLines / 2 * metrics.lineSpacing());
+        KeepRoom(*text);
         stack->addWidget(text, 0, 0);
-        none->setMinimumSize(PanelColumns * metrics.averageCharWidth(),
-                             PanelLines * metrics.lineSpacing());
     }
     return place;
 }

@@ -15,6 +15,8 @@ namespace {
 
 constexpr double Readable = 4.5;  // contrast, WCAG 2.1
 constexpr int Steps = 20;
+constexpr int Columns = 90;  // of a panel
+constexpr int Lines = 24;
 
 QColor ToolkitColour(controls::Colour colour) {
     return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
@@ -86,27 +88,38 @@ void WriteDocument(QTextDocument& written, const controls::RichDocument& documen
     }
 }
 
-RichTextAdapter::RichTextAdapter(const controls::RichText& text, QTextEdit& widget)
-    : text_(text), widget_(widget) {
-    widget_.setReadOnly(true);
-    widget_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    widget_.setTabChangesFocus(true);
-    widget_.setUndoRedoEnabled(false);
+RichTextPanel::RichTextPanel() {
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
 }
+
+QSize RichTextPanel::sizeHint() const {
+    const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return {Columns * metrics.averageCharWidth(), Lines * metrics.lineSpacing()};
+}
+
+// The toolkit brings the caret into sight when it first shows a text.
+void RichTextPanel::showEvent(QShowEvent* event) {
+    QTextEdit::showEvent(event);
+    verticalScrollBar()->setValue(0);
+}
+
+RichTextAdapter::RichTextAdapter(const controls::RichText& text, QTextEdit& widget)
+    : text_(text), widget_(widget) {}
 
 void RichTextAdapter::Update() {
     if (shown_ != text_.rtf.Get() || scheme_ != CurrentScheme()) Write();
     UpdateCommon(widget_, text_);
 }
 
-// The caret is at the end, as after writing; a reader begins at the top.
 void RichTextAdapter::Write() {
     shown_ = text_.rtf.Get();
     scheme_ = CurrentScheme();
     WriteDocument(*widget_.document(), controls::ReadRtf(shown_),
                   QApplication::palette().color(QPalette::Base));
     widget_.moveCursor(QTextCursor::End);
-    widget_.verticalScrollBar()->setValue(0);
 }
 
 }  // namespace kelvra::desktop

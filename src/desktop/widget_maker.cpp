@@ -65,7 +65,7 @@ QLabel* WidgetMaker::MakeLink(controls::Label& label) {
 }
 
 QTextEdit* WidgetMaker::Make(const controls::RichText& text) {
-    return Mirrored<RichTextAdapter>(text, new QTextEdit);
+    return Mirrored<RichTextAdapter>(text, new RichTextPanel);
 }
 
 QPushButton* WidgetMaker::Make(controls::Button& button) {

@@ -18,6 +18,16 @@ namespace kelvra::desktop {
 void WriteDocument(QTextDocument& written, const controls::RichDocument& document,
                    const QColor& ground);
 
+// A panel that begins at its top whenever it is shown, wherever its caret is.
+class RichTextPanel final : public QTextEdit {
+public:
+    RichTextPanel();
+    QSize sizeHint() const override;  // for the lines of a report
+
+protected:
+    void showEvent(QShowEvent* event) override;
+};
+
 class RichTextAdapter final : public WidgetAdapter {
 public:
     RichTextAdapter(const controls::RichText& text, QTextEdit& widget);
