@@ -12,7 +12,7 @@ namespace kelvra::desktop {
 
 namespace {
 
-constexpr int PictureSide = 64;  // logical pixels
+constexpr int PictureSide = 64;   // logical pixels
 constexpr double NameSize = 1.6;  // of the other text's
 
 QHBoxLayout* Row() {

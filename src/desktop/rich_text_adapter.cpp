@@ -15,6 +15,7 @@ namespace {
 
 constexpr double Readable = 4.5;  // contrast, WCAG 2.1
 constexpr int Steps = 20;
+constexpr controls::Colour Black = 0;
 constexpr int Columns = 90;  // of a panel
 constexpr int Lines = 24;
 
@@ -50,9 +51,10 @@ QTextCharFormat FormatOf(const controls::RichLook& look, const QColor& ground) {
     format.setFontUnderline(look.underline);
     const QColor back = look.highlight ? ToolkitColour(*look.highlight) : ground;
     if (look.highlight) format.setBackground(back);
-    if (look.text || look.highlight)
-        format.setForeground(
-            ReadableOn(back, look.text ? ToolkitColour(*look.text) : TextOn(back)));
+    // Black is the colour of text that has no colour: on a dark ground it is light.
+    const bool coloured = look.text && *look.text != Black;
+    if (coloured || look.highlight)
+        format.setForeground(coloured ? ReadableOn(back, ToolkitColour(*look.text)) : TextOn(back));
     return format;
 }
 
@@ -120,6 +122,7 @@ void RichTextAdapter::Write() {
     WriteDocument(*widget_.document(), controls::ReadRtf(shown_),
                   QApplication::palette().color(QPalette::Base));
     widget_.moveCursor(QTextCursor::End);
+    widget_.verticalScrollBar()->setValue(0);
 }
 
 }  // namespace kelvra::desktop

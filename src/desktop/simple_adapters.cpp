@@ -2,6 +2,7 @@
 #include "desktop/simple_adapters.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QSignalBlocker>
 #include <QStylePainter>
@@ -37,15 +38,13 @@ LinkAdapter::LinkAdapter(controls::Label& label, QLabel& widget) : label_(label)
     QObject::connect(&widget_, &QLabel::linkActivated, [this] { label_.Press(); });
 }
 
-// The toolkit gives a link its colour when it gets its text.
+// The colour is part of the text.
 void LinkAdapter::Update() {
     const QString caption = Shown(label_.caption.Get());
-    if (shown_ != caption || scheme_ != CurrentScheme()) {
-        shown_ = caption;
-        scheme_ = CurrentScheme();
-        widget_.setText("<a href=\"#\">" + caption.toHtmlEscaped() + "</a>");
-        widget_.setAccessibleName(caption);
-    }
+    const QString colour = QApplication::palette().color(QPalette::Link).name();
+    widget_.setText("<a href=\"#\" style=\"color:" + colour + "\">" + caption.toHtmlEscaped() +
+                    "</a>");
+    widget_.setAccessibleName(caption);
     UpdateCommon(widget_, label_);
 }
 

@@ -41,8 +41,6 @@ public:
 private:
     controls::Label& label_;
     QLabel& widget_;
-    QString shown_;
-    Scheme scheme_ = Scheme::Classic;
 };
 
 // A label of many lines, which can be scrolled, selected and copied.
