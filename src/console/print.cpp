@@ -4,6 +4,7 @@
 #include "console/output.h"
 #include "controls/rtf_reader.h"
 #include "controls/visit.h"
+#include "util/text.h"
 
 namespace kelvra::console {
 
@@ -58,6 +59,16 @@ struct Lines {
 };
 
 }  // namespace
+
+std::vector<std::string> TextLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const util::SplitText line = util::SplitAtFirst(text, '\n');
+        lines.emplace_back(util::TrimLineBreaks(line.before));
+        text = line.after;
+    }
+    return lines;
+}
 
 std::vector<std::string> PrintLines(const controls::Control& control) {
     return controls::Visit(control, Lines{});

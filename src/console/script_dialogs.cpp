@@ -48,6 +48,7 @@ void ScriptDialogs::AskFile(const platform::FileQuestion& question, Answer answe
 }
 
 void ScriptDialogs::CopyText(const std::string& text) {
+    clipboard_ = text;
     output_.Line("clipboard: " + OneLine(text));
 }
 

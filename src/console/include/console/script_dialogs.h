@@ -30,6 +30,7 @@ public:
     void CopyText(const std::string& text) override;
     void OpenHelp(const platform::HelpPage& page) override;
     void OpenAddress(const std::string& address) override;
+    const std::string& Clipboard() const { return clipboard_; }  // the text that was copied last
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 
@@ -40,6 +41,7 @@ private:
 
     Output& output_;
     std::deque<std::optional<std::string>> answers_;
+    std::string clipboard_;
 };
 
 }  // namespace kelvra::console
