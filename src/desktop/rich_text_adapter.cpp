@@ -24,9 +24,10 @@ QColor ToolkitColour(controls::Colour colour) {
             static_cast<int>(colour >> 16 & 0xFF)};
 }
 
-// The colour, or what of the way to the best text colour makes it readable.
+// The colour, or the nearest on the way to black or white that is readable.
 QColor ReadableOn(const QColor& ground, const QColor& colour) {
-    const QColor best = TextOn(ground);
+    const bool light = Contrast(Qt::white, ground) > Contrast(Qt::black, ground);
+    const QColor best(light ? Qt::white : Qt::black);
     for (int step = 0; step < Steps; ++step) {
         const auto mixed = [&](int from, int to) { return from + (to - from) * step / Steps; };
         const QColor tried(mixed(colour.red(), best.red()), mixed(colour.green(), best.green()),

@@ -2,7 +2,6 @@
 #include "desktop/simple_adapters.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QHelpEvent>
 #include <QSignalBlocker>
 #include <QStylePainter>
@@ -32,19 +31,13 @@ void LabelAdapter::Update() {
     UpdateCommon(widget_, label_);
 }
 
-LinkAdapter::LinkAdapter(controls::Label& label, QLabel& widget) : label_(label), widget_(widget) {
-    widget_.setTextFormat(Qt::RichText);
-    widget_.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    QObject::connect(&widget_, &QLabel::linkActivated, [this] { label_.Press(); });
+LinkAdapter::LinkAdapter(controls::Label& label, QPushButton& widget)
+    : label_(label), widget_(widget) {
+    QObject::connect(&widget_, &QPushButton::clicked, [this] { label_.Press(); });
 }
 
-// The colour is part of the text.
 void LinkAdapter::Update() {
-    const QString caption = Shown(label_.caption.Get());
-    const QString colour = QApplication::palette().color(QPalette::Link).name();
-    widget_.setText("<a href=\"#\" style=\"color:" + colour + "\">" + caption.toHtmlEscaped() +
-                    "</a>");
-    widget_.setAccessibleName(caption);
+    widget_.setText(MarkedText(label_, label_.caption));
     UpdateCommon(widget_, label_);
 }
 

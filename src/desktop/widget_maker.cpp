@@ -12,6 +12,7 @@
 #include "desktop/entry_adapters.h"
 #include "desktop/graph_adapter.h"
 #include "desktop/grid_adapter.h"
+#include "desktop/link_button.h"
 #include "desktop/page_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/rich_text_adapter.h"
@@ -60,8 +61,8 @@ QPlainTextEdit* WidgetMaker::MakeLong(const controls::Label& label) {
     return Mirrored<LongLabelAdapter>(label, new QPlainTextEdit);
 }
 
-QLabel* WidgetMaker::MakeLink(controls::Label& label) {
-    return Mirrored<LinkAdapter>(label, new QLabel);
+QPushButton* WidgetMaker::MakeLink(controls::Label& label) {
+    return Mirrored<LinkAdapter>(label, new LinkButton);
 }
 
 QTextEdit* WidgetMaker::Make(const controls::RichText& text) {

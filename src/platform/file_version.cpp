@@ -145,7 +145,8 @@ std::optional<std::string> VersionOfImage(std::string_view image) {
     const auto address = DoubleWord(resources, entry->place);
     const auto size = DoubleWord(resources, Offset{entry->place} + 4);
     if (!address || !size) return std::nullopt;
-    return FixedVersion(Part(At(image, *headers, *address), 0, *size));
+    const std::string_view block = At(image, *headers, *address);
+    return block.size() < *size ? std::nullopt : FixedVersion(block.substr(0, *size));
 }
 
 std::string FileVersion(Files& files, const std::string& path) {

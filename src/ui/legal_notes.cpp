@@ -21,8 +21,8 @@ constexpr std::string_view Own[] = {
     "without even the implied warranty of MERCHANTABILITY or FITNESS FOR A PARTICULAR PURPOSE. See "
     "the GNU General Public License for more details.",
     "",
-    "The text of the license is in the file LICENSE that comes with the program; it is also at "
-    "https://www.gnu.org/licenses/gpl-3.0.html. The pictures and the guide have the same license.",
+    "The text of the licence is in the file LICENSE that comes with the program; it is also at "
+    "https://www.gnu.org/licenses/gpl-3.0.html. The pictures and the guide have the same licence.",
 };
 
 // What the programs are linked with. `files` are the names by which the programs ask for a shared
@@ -32,8 +32,8 @@ struct Component {
     std::string_view use;  // by which program
     std::string_view files;
     std::string_view holder;
-    std::string_view license;
-    std::string_view where;  // the text of the license
+    std::string_view licence;
+    std::string_view where;  // the text of the licence
 };
 
 constexpr std::string_view Both = "both programs";
@@ -66,11 +66,11 @@ constexpr Component Components[] = {
     {"CLI11", Both, "compiled in",
      "Copyright (c) 2017-2021 University of Cincinnati, developed by Henry Schreiner under NSF "
      "AWARD 1414736 and by the respective contributors. All rights reserved.",
-     "BSD license with three clauses", "at the end of these notes"},
+     "BSD licence with three clauses", "at the end of these notes"},
 };
 
-// The license of CLI11 asks for its text wherever the program goes.
-constexpr std::string_view CliLicense[] = {
+// The licence of CLI11 asks for its text wherever the program goes.
+constexpr std::string_view CliLicence[] = {
     "Redistribution and use in source and binary forms of CLI11, with or without modification, are "
     "permitted provided that the following conditions are met:",
     "",
@@ -104,7 +104,7 @@ void AddComponent(std::string& document, const Component& component) {
     AddRtfLine(document, " (" + std::string(component.files) + ")");
     AddRtfLine(document, component.holder);
     for (const auto& [label, value] :
-         {std::pair("Used by ", component.use), std::pair("License: ", component.license),
+         {std::pair("Used by ", component.use), std::pair("Licence: ", component.licence),
           std::pair("Its text: ", component.where)})
         AddRtfLine(document, label + std::string(value));
 }
@@ -119,8 +119,8 @@ std::string LegalNotes() {
     AddHeading(document, "What Kelvra is linked with");
     for (const Component& component : Components) AddComponent(document, component);
     AddRtfLine(document, "");
-    AddHeading(document, "License of CLI11");
-    for (const std::string_view line : CliLicense) AddRtfLine(document, line);
+    AddHeading(document, "Licence of CLI11");
+    for (const std::string_view line : CliLicence) AddRtfLine(document, line);
     return ShownRtf(document);
 }
 

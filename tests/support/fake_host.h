@@ -3,6 +3,7 @@
 // round by round, dialogs that are noted, libraries made of the test's own functions.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -129,7 +130,11 @@ public:
     std::optional<platform::WindowsVersion> Windows() override { return windows; }
     std::string GuideFolder() override { return "guide"; }
     bool OpensCompiledHelp() override { return compiledHelp; }
-    std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
+    std::string DrivePath(Text path) override {
+        std::string below = path.substr(std::min<std::size_t>(path.size(), 3));
+        std::replace(below.begin(), below.end(), '\\', '/');
+        return Join(folder, below);
+    }
     std::string Join(Text parent, Text name) override { return parent + "/" + name; }
     std::string CommandLine() override { return commandLine; }
     platform::ProgramVersion Version() override { return version; }

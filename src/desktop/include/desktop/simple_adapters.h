@@ -32,15 +32,15 @@ private:
     QString shown_;
 };
 
-// A label that acts as a link: it takes the focus, and a click or Enter presses it.
+// A label that acts as a link.
 class LinkAdapter final : public WidgetAdapter {
 public:
-    LinkAdapter(controls::Label& label, QLabel& widget);
+    LinkAdapter(controls::Label& label, QPushButton& widget);
     void Update() override;
 
 private:
     controls::Label& label_;
-    QLabel& widget_;
+    QPushButton& widget_;
 };
 
 // A label of many lines, which can be scrolled, selected and copied.

@@ -38,7 +38,7 @@ public:
     QLabel* Make(const controls::Label& label) { return Make(label, new QLabel); }
     QLabel* Make(const controls::Label& label, QLabel* widget);
     QPlainTextEdit* MakeLong(const controls::Label& label);  // with scroll bars
-    QLabel* MakeLink(controls::Label& label);                // a press is a click on it, or Enter
+    QPushButton* MakeLink(controls::Label& label);           // a label that can be pressed
     QTextEdit* Make(const controls::RichText& text);
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);

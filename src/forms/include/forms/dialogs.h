@@ -69,7 +69,7 @@ struct AboutForm : controls::Window {
         "Legal notes",
         "",
         {.mnemonic = 'L',
-         .explanation = "Shows the licenses of the program and of what it is built on, or hides "
+         .explanation = "Shows the licences of the program and of what it is built on, or hides "
                         "them."}};
     controls::Button CreateSupportString{
         *this,
