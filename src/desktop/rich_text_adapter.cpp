@@ -55,7 +55,7 @@ QTextCharFormat FormatOf(const controls::RichLook& look, const QColor& ground) {
     // Black is the colour of text that has no colour: on a dark ground it is light.
     const bool coloured = look.text && *look.text != Black;
     if (coloured || look.highlight)
-        format.setForeground(coloured ? ReadableOn(back, ToolkitColour(*look.text)) : TextOn(back));
+        format.setForeground(ReadableOn(back, coloured ? ToolkitColour(*look.text) : TextOn(back)));
     return format;
 }
 
