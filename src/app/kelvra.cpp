@@ -15,7 +15,8 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       recovery(
           {table, state, host.events, driverSession, transfer, cycle, news, sessionNews.notices}),
       sensorCommands({table, state, host, driverSession, news}),
-      windows(forms, table, state, cycle, sensorCommands, modes, library, host),
+      recorder(table, state, host),
+      windows({forms, table, state, cycle, sensorCommands, modes, recorder, library, host}),
       store(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),
       settingsCommands_(forms, table, windows.edits, windows.notice, host) {
@@ -24,11 +25,15 @@ Kelvra::Kelvra(platform::Host& hostToUse)
     forms.mdiMain.closeRequest.Connect([this] { ExitAsAsked(); });
 }
 
-// The recovery comes last, after the windows have shown the error that it acts on.
+// The recorder comes after the windows: its line is the end of a pass. The recovery comes last,
+// after the windows have shown the error that it acts on.
 void Kelvra::Subscribe() {
     transfer.SetPace(cycle);
     windows.edits.onEdit = [this] { store.NoteEdit(host.clock.Monotonic()); };
     windows.Subscribe(news, sessionNews);
+    news.measurement.Add(recorder);
+    news.pass.Add(recorder);
+    news.slot.Add(recorder);
     sessionNews.notices.Add(recovery);
     sessionNews.marks.Add(recovery);
 }

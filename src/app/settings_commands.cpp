@@ -83,12 +83,13 @@ void SettingsCommands::AskFile(platform::FileQuestion question,
                                const std::function<void(const std::string& path)>& goOn) {
     const std::string sensor = table_[table_.currentSensor].resourceName;
     question.about = SensorText();
-    host_.dialogs.AskFile(question, [this, sensor, goOn](const std::optional<std::string>& path) {
-        if (!path || path->empty()) return;
-        if (table_[table_.currentSensor].resourceName == sensor) return goOn(*path);
-        host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
-                              platform::MessageIcon::Exclamation);
-    });
+    host_.dialogs.AskFile(
+        question, [this, sensor, goOn](const std::optional<platform::ChosenFile>& file) {
+            if (!file || file->path.empty()) return;
+            if (table_[table_.currentSensor].resourceName == sensor) return goOn(file->path);
+            host_.dialogs.Message({}, "The current sensor has changed meanwhile. Please try again.",
+                                  platform::MessageIcon::Exclamation);
+        });
 }
 
 void SettingsCommands::Confirm(const char* what, const std::string& path) {

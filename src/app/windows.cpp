@@ -7,38 +7,37 @@
 
 namespace kelvra::app {
 
-Windows::Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-                 measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-                 const driver::DriverLibrary& drivers, platform::Host& host)
-    : notice(forms.mdiMain, table, host.clock),
-      errorStrip(forms.setupForm, notice, table, host.dialogs),
-      selection(table),
-      lists(forms, table, selection),
-      readingAge(forms.statusForm, table, host.clock),
-      results(forms.statusForm, table, selection, readingAge, host.computer),
-      marks(forms.statusForm, table, host.events),
-      calcGrid(forms.mdiMain, table, history, host),
-      speed(forms.mdiMain, host),
-      enabling(forms, table, selection),
-      recordMenu(forms.mdiMain),
-      displayLists(forms, table, selection),
-      mainWindow(forms, state, host),
-      startMessages(host.dialogs),
-      sensorName({forms.setupForm, table, host.computer, results, selection, notice}),
-      edits(table, modes, history),
-      editMenu({forms.mdiMain, table, history, edits, calcGrid, selection}),
-      setupDialog(
-          {forms.setupForm, table, edits, selection, enabling, errorStrip, displayLists, host}),
-      traceDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
-      slotDisplay({forms, table, edits, setupDialog, displayLists, selection, host}),
-      slotTable(forms, table, edits, displayLists, selection, host.computer),
-      displayData(forms, table, notice, host),
-      settingsCopy({forms, table, edits, selection, notice}),
-      sensorCommands({forms, table, commands, notice, host}),
-      aboutBox(forms, drivers, host) {
-    ui::ConnectHelp(forms.timeForm, host);
-    forms.mdiMain.StartIt.click.Connect([&cycle] { cycle.Start(); });
-    forms.mdiMain.StopIt.click.Connect([&cycle, &commands] {
+Windows::Windows(const Parts& p)
+    : notice(p.forms.mdiMain, p.table, p.host.clock),
+      errorStrip(p.forms.setupForm, notice, p.table, p.host.dialogs),
+      selection(p.table),
+      lists(p.forms, p.table, selection),
+      readingAge(p.forms.statusForm, p.table, p.host.clock),
+      results(p.forms.statusForm, p.table, selection, readingAge, p.host.computer),
+      marks(p.forms.statusForm, p.table, p.host.events),
+      calcGrid(p.forms.mdiMain, p.table, history, p.host),
+      speed(p.forms.mdiMain, p.host),
+      enabling(p.forms, p.table, selection),
+      recordMenu(p.forms, p.recorder, p.host),
+      recordStatus(p.forms.mdiMain, p.recorder, p.state, notice, p.host),
+      displayLists(p.forms, p.table, selection),
+      mainWindow(p.forms, p.state, p.host),
+      startMessages(p.host.dialogs),
+      sensorName({p.forms.setupForm, p.table, p.host.computer, results, selection, notice}),
+      edits(p.table, p.modes, history),
+      editMenu({p.forms.mdiMain, p.table, history, edits, calcGrid, selection}),
+      setupDialog({p.forms.setupForm, p.table, edits, selection, enabling, errorStrip, displayLists,
+                   p.host}),
+      traceDisplay({p.forms, p.table, edits, setupDialog, displayLists, selection, p.host}),
+      slotDisplay({p.forms, p.table, edits, setupDialog, displayLists, selection, p.host}),
+      slotTable(p.forms, p.table, edits, displayLists, selection, p.host.computer),
+      displayData(p.forms, p.table, notice, p.host),
+      settingsCopy({p.forms, p.table, edits, selection, notice}),
+      sensorCommands({p.forms, p.table, p.commands, notice, p.host}),
+      aboutBox(p.forms, p.drivers, p.host) {
+    ui::ConnectHelp(p.forms.timeForm, p.host);
+    p.forms.mdiMain.StartIt.click.Connect([&cycle = p.cycle] { cycle.Start(); });
+    p.forms.mdiMain.StopIt.click.Connect([&cycle = p.cycle, &commands = p.commands] {
         if (!commands.Stop()) cycle.Stop();
     });
 }
@@ -47,11 +46,11 @@ void Windows::Subscribe(measure::News& news, driver::SessionNews& session) {
     for (measure::MeasurementListener* listener :
          std::initializer_list<measure::MeasurementListener*>{
              &enabling, &sensorName, &lists, &results, &readingAge, &errorStrip, &displayLists,
-             &mainWindow, &speed, &notice, &recordMenu, &startMessages, &settingsCopy,
+             &mainWindow, &speed, &notice, &recordStatus, &startMessages, &settingsCopy,
              &traceDisplay, &slotDisplay, &slotTable})
         news.measurement.Add(*listener);
     for (measure::PassListener* listener : std::initializer_list<measure::PassListener*>{
-             &speed, &calcGrid, &notice, &recordMenu, &readingAge})
+             &speed, &calcGrid, &notice, &recordMenu, &recordStatus, &readingAge})
         news.pass.Add(*listener);
     news.slot.Add(marks);
     for (measure::SlotListener* listener : std::initializer_list<measure::SlotListener*>{

@@ -1,10 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "console/script_dialogs.h"
 
+#include <string_view>
+
+#include "util/text.h"
+
 namespace kelvra::console {
 
 namespace {
 constexpr const char* ProgramName = "Kelvra";
+
+int FilterOf(const platform::FileQuestion& question, std::string_view path) {
+    int best = question.filterIndex;
+    std::size_t length = 0;
+    std::string_view rest = question.filter;
+    for (int index = 1; !rest.empty(); ++index) {
+        const util::SplitText name = util::SplitAtFirst(rest, '|');
+        const util::SplitText pattern = util::SplitAtFirst(name.after, '|');
+        rest = pattern.after;
+        const std::string_view suffix = util::SplitAtFirst(pattern.before, '*').after;
+        if (!path.ends_with(suffix) || suffix.size() < length) continue;
+        if (suffix.size() > length || index == question.filterIndex) best = index;
+        length = suffix.size();
+    }
+    return best;
+}
+
 }  // namespace
 
 void ScriptDialogs::Write(const char* kind, const std::string& what, const std::string& answer) {
@@ -43,8 +64,12 @@ void ScriptDialogs::Prompt(const std::string& text, const std::string&, Answer a
     Ask("prompt", text, answer);
 }
 
-void ScriptDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
-    Ask("dialog", question.title, answer);
+void ScriptDialogs::AskFile(const platform::FileQuestion& question, FileAnswer answer) {
+    Ask("dialog", question.title, [&](std::optional<std::string> path) {
+        if (!path) return answer(std::nullopt);
+        const int filter = FilterOf(question, *path);
+        answer(platform::ChosenFile{std::move(*path), filter});
+    });
 }
 
 void ScriptDialogs::CopyText(const std::string& text) {

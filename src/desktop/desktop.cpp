@@ -33,6 +33,8 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
     });
     AddDialog(forms.copyForm,
               [&forms](WidgetMaker& maker) { return MakeCopyWindow(forms.copyForm, maker); });
+    AddDialog(forms.timeForm,
+              [&forms](WidgetMaker& maker) { return MakeRecordDialog(forms.timeForm, maker); });
     AddDialog(forms.sensInfoForm,
               [&forms](WidgetMaker& maker) { return MakeInfoWindow(forms.sensInfoForm, maker); });
     AddDialog(forms.aboutForm,

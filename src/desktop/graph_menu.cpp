@@ -19,11 +19,11 @@ void AskAndSave(GraphWidget& graph, const std::string& name, QtDialogs& dialogs)
     question.filter = "Pictures (*.png)|*.png|Drawings (*.svg)|*.svg";
     question.proposed = name + ".png";
     question.save = true;
-    dialogs.AskFile(question, [still = QPointer(&graph), &dialogs](const auto& path) {
-        if (!path || still == nullptr) return;
-        const std::string reason = SavePicture(*still, *path);
+    dialogs.AskFile(question, [still = QPointer(&graph), &dialogs](const auto& file) {
+        if (!file || still == nullptr) return;
+        const std::string reason = SavePicture(*still, file->path);
         if (!reason.empty())
-            dialogs.Message({}, "The file could not be saved.\r\n" + *path + "\r\n" + reason,
+            dialogs.Message({}, "The file could not be saved.\r\n" + file->path + "\r\n" + reason,
                             platform::MessageIcon::Exclamation);
     });
 }

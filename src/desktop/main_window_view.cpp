@@ -57,17 +57,9 @@ void MainWindowView::BuildMenus() {
         if (item == &form_.MenueWindow) windowMenu_ = menu;
         if (item == &form_.MEdit) editMenu_ = menu;
         menu->setToolTipsVisible(true);
-        for (controls::Control* entry : item->Children()) {
-            QAction* action = maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
-            if (OpensNothingYet(*entry)) Withhold(*action);
-        }
+        for (controls::Control* entry : item->Children())
+            maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
     }
-}
-
-// Whether the control opens a window that is not drawn yet.
-bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
-    const std::initializer_list<const controls::Control*> openers{&form_.FileSaveData};
-    return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 
 // Tools and formulas side by side, below them the connection and the notice.
@@ -81,6 +73,7 @@ QWidget* MainWindowView::BuildStrip() {
     tools->setSpacing(Margin);
     tools->addLayout(BuildButtons());
     tools->addLayout(BuildChoices());
+    tools->addWidget(BuildRecording());
     tools->addStretch();
     rows->addLayout(tools, 0, 0);
     rows->addWidget(BuildFormulas(), 0, 1);
@@ -135,6 +128,20 @@ QHBoxLayout* MainWindowView::BuildConnection() {
     row->addSpacing(2 * Margin);
     row->addWidget(MakeNoticeBar(form_, maker_), 1);
     return row;
+}
+
+// What a long name or a large font leaves no room for is in the tooltip.
+QWidget* MainWindowView::BuildRecording() {
+    QFrame* frame = maker_.Make(form_.RecordFrame);
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Margin);
+    row->addWidget(maker_.Make(form_.picRecord, IndicatorIcon));
+    row->addWidget(maker_.Make(form_.lblRecord, new ElidedLabel(1)), 1);
+    QPushButton* folder = maker_.Make(form_.OpenRecordFolder);
+    row->addWidget(folder);
+    KeepRoom(*frame);
+    return frame;
 }
 
 void MainWindowView::KeepResultsInSight() {

@@ -129,7 +129,12 @@ QString ToolkitFilter(const std::string& filter) {
     return filters.join(";;");
 }
 
-void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
+// "csv" of "Name (*.csv)"; none of "All files (*)".
+QString SuffixOf(const QString& filter) {
+    return filter.section("(*.", 1).section(')', 0, 0);
+}
+
+void QtDialogs::AskFile(const platform::FileQuestion& question, FileAnswer answer) {
     const QStringList filters = ToolkitFilter(question.filter).split(";;");
     const QString proposed = Shown(question.proposed);
     const QString title =
@@ -140,10 +145,17 @@ void QtDialogs::AskFile(const platform::FileQuestion& question, Answer answer) {
     dialog->setNameFilters(filters);
     dialog->selectNameFilter(filters.value(question.filterIndex - 1));
     dialog->selectFile(proposed);
-    // A name without a suffix gets the suffix of the proposed name, so that the filter lists it.
+    // A name without a suffix gets the suffix of the proposed name, or of the filter that is chosen
+    // later, so that the filter lists it.
     dialog->setDefaultSuffix(QFileInfo(proposed).suffix());
+    QObject::connect(dialog, &QFileDialog::filterSelected, [dialog](const QString& filter) {
+        dialog->setDefaultSuffix(SuffixOf(filter));
+    });
     Open(*dialog, [dialog, answer](bool accepted) {
-        answer(accepted ? std::optional(Bytes(dialog->selectedFiles().value(0))) : std::nullopt);
+        if (!accepted) return answer(std::nullopt);
+        const auto filter = dialog->nameFilters().indexOf(dialog->selectedNameFilter());
+        answer(platform::ChosenFile{Bytes(dialog->selectedFiles().value(0)),
+                                    static_cast<int>(filter) + 1});
     });
 }
 
@@ -166,10 +178,18 @@ void QtDialogs::OpenHelp(const platform::HelpPage& page) {
                 platform::MessageIcon::Exclamation);
 }
 
-void QtDialogs::OpenAddress(const std::string& address) {
-    if (!QDesktopServices::openUrl(QUrl(Shown(address))))
-        Message({}, "No program could be started to open this address:\n" + address,
+void QtDialogs::OpenUrl(const QUrl& url, const std::string& shown) {
+    if (!QDesktopServices::openUrl(url))
+        Message({}, "No program could be started to open this address:\n" + shown,
                 platform::MessageIcon::Exclamation);
+}
+
+void QtDialogs::OpenAddress(const std::string& address) {
+    OpenUrl(QUrl(Shown(address)), address);
+}
+
+void QtDialogs::OpenFolder(const std::string& path) {
+    OpenUrl(QUrl::fromLocalFile(Shown(path)), path);
 }
 
 }  // namespace kelvra::desktop

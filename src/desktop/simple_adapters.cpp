@@ -82,7 +82,7 @@ void MenuItemAdapter::Update() {
     const QSignalBlocker quiet(action_);
     const bool opens = item_.opensDialog && !item_.caption->ends_with("...");
     action_.setText(MarkedText(item_, item_.caption) + (opens ? "..." : ""));
-    action_.setEnabled(item_.enabled && !Withheld(action_));
+    action_.setEnabled(item_.enabled);
     action_.setVisible(item_.visible);
     if (action_.isCheckable()) action_.setChecked(item_.checked);
 }

@@ -20,7 +20,7 @@ void SessionRecovery::SensorFailed(int slot, const std::string& /*text*/) {
 void SessionRecovery::TransferEnds(int slot) {
     if (p_.state.exiting || !handleRefused_ || recoveredInStart_ == p_.state.starts) return;
     recoveredInStart_ = p_.state.starts;
-    const bool recording = p_.state.recordInterval > 0;
+    const bool recording = p_.state.recording;
     const bool answers = Reopen(slot);
     if (p_.state.exiting) return;
     p_.cycle.Stop();

@@ -14,9 +14,10 @@ void TextSaver::Save(const Content& content) {
     question.proposed = host_.computer.Join(host_.computer.ProgramFolder(), content.fileName);
     question.about = content.sensor;
     question.save = true;
-    host_.dialogs.AskFile(question, [this, content](const std::optional<std::string>& path) {
-        if (path && !path->empty()) Write(*path, content);
-    });
+    host_.dialogs.AskFile(question,
+                          [this, content](const std::optional<platform::ChosenFile>& file) {
+                              if (file && !file->path.empty()) Write(file->path, content);
+                          });
 }
 
 void TextSaver::Write(const std::string& path, const Content& content) {

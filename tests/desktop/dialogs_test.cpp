@@ -6,8 +6,8 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-
 #include <QScreen>
+#include <algorithm>
 
 #include "desktop/common.h"
 #include "desktop/running_desktop.h"
@@ -202,6 +202,36 @@ private slots:
         QVERIFY(open);
         QVERIFY(QFile::exists(path));
         QVERIFY(Visible<QFileDialog>(running.Main()).isEmpty());
+    }
+
+    void ARecordingGoesIntoTheFileAndTheFormThatWereChosen() {
+        RunningDesktop running;
+        const QTemporaryDir folder;
+        running.kelvra.forms.mdiMain.FileSaveData.Press();
+        running.desktop.Painter().Flush();
+        const auto windows = QApplication::topLevelWidgets();
+        const auto dialog = std::find_if(windows.begin(), windows.end(), [](QWidget* window) {
+            return window->windowTitle() == "Record Time Interval";
+        });
+        QVERIFY(dialog != windows.end() && (*dialog)->isVisible());
+        QTest::keyClick((*dialog)->findChild<QLineEdit*>("TimeIntervalBox"), Qt::Key_Return);
+        auto* question = Visible<QFileDialog>(running.Main()).value(0);
+        QVERIFY(question != nullptr);
+        QCOMPARE(question->selectedNameFilter(), "CSV Files (*.csv)");
+        const QString form = question->nameFilters().last();
+        question->setDirectory(folder.path());
+        question->selectNameFilter(form);
+        emit question->filterSelected(form);  // as a person's choice does
+        question->findChild<QLineEdit*>("fileNameEdit")->setText("run");
+        QTest::keyClick(question, Qt::Key_Return);
+        running.desktop.Painter().Flush();
+        QFile file(folder.filePath("run.analysis.csv"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(),
+                 "Time,SensSim1 (W),SensSim1 (dBm),SensSim2 (W),SensSim2 (dBm)\r\n");
+        QVERIFY(!(*dialog)->isVisible());
+        QVERIFY(running.Find<QPushButton>("OpenRecordFolder").isVisible());
+        QVERIFY(running.Find<QLabel>("lblRecord").text().endsWith("run.analysis.csv"));
     }
 
     void AnswersAfterTheExitReachNobody() {

@@ -65,8 +65,8 @@ TEST_F(CourseTest, SettingsLoadedWhilePassesGoOnReachTheSensorBeforeTheirModeDoe
     StartWith(1);
     driver.array.assign(8, 0.5);
     folder.Put("slots.ini", "[Sensor_MODE]\r\nMode=2\r\n");
-    platform::Dialogs::Answer answer;
-    fake.dialogs.onFileQuestion = [&](platform::Dialogs::Answer given) {
+    platform::Dialogs::FileAnswer answer;
+    fake.dialogs.onFileQuestion = [&](platform::Dialogs::FileAnswer given) {
         answer = std::move(given);
     };
     std::int64_t passesWhileAsked = 0;
@@ -75,7 +75,7 @@ TEST_F(CourseTest, SettingsLoadedWhilePassesGoOnReachTheSensorBeforeTheirModeDoe
             program->forms.mdiMain.Load_Sensor_Settings.Press();
         if (program->state.passes == 3 && passesWhileAsked == 0) {
             passesWhileAsked = program->state.passes;
-            answer(folder.Path("slots.ini"));
+            answer(platform::ChosenFile{folder.Path("slots.ini")});
             EXPECT_TRUE(program->forms.timeSlotDisp.visible);
             EXPECT_FALSE(WasCalled("psdrv_meass_fetchBufferMeasurement(12, 1, 1024)"));
         }

@@ -280,16 +280,16 @@ TEST(SensorCommands, WhatIsSavedIsTheInformationThatWasShownWhenTheFileWasAskedF
     k.Press(CommandsKelvra::Information);
     using Items = std::vector<controls::List::Item>;
     EXPECT_EQ(form.InfoValue.Items(), (Items{{"PS-101", 0}, {"", 0}, {" -60:20", 0}}));
-    platform::Dialogs::Answer answer;
+    platform::Dialogs::FileAnswer answer;
     k.fake.dialogs.onFileQuestion = [&](auto given) { answer = std::move(given); };
     form.cmdInfoSave.Press();
     k.driver.averagingCount = 0;
     k.Press(CommandsKelvra::Information);
     EXPECT_FALSE(form.cmdInfoSave.enabled);
-    answer(k.folder.Path("info.txt"));
+    answer(platform::ChosenFile{k.folder.Path("info.txt")});
     EXPECT_EQ(k.folder.Get("info.txt"), "Type: PS-101\r\nMade: \r\nLimits: -60:20\r\n");
     EXPECT_EQ(k.Notice(), "Information of sensor 2 (B) saved to info.txt");
-    answer(k.folder.Path("no folder/info.txt"));
+    answer(platform::ChosenFile{k.folder.Path("no folder/info.txt")});
     EXPECT_TRUE(k.Messages().starts_with("The file could not be saved.\r\n"));
 }
 

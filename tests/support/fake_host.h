@@ -20,6 +20,20 @@ namespace kelvra::test {
 
 using Text = const std::string&;
 
+// The test's clock, with a change to summer time if the test wants one.
+class FakeClock final : public platform::SetClock {
+public:
+    using SetClock::SetClock;
+    std::optional<platform::Duration> summerFrom;  // on the monotonic clock
+
+    platform::LocalTime At(platform::Duration monotonic) override {
+        if (!summerFrom || monotonic < *summerFrom) return SetClock::At(monotonic);
+        platform::LocalTime time = SetClock::At(monotonic + std::chrono::hours(1));
+        time.utcOffset = 60;
+        return time;
+    }
+};
+
 class FakeEvents final : public platform::Events {
 public:
     explicit FakeEvents(platform::SetClock& clock) : clock_(clock) {}
@@ -27,12 +41,13 @@ public:
     // What the person does in round 1, 2, ... of a run; the timers come after it.
     std::function<void(int round)> onRound;
     std::chrono::milliseconds roundTime{0};  // what every round takes
+    int mostRounds = 200'000;
     int rounds = 0;
     bool quit = false;
 
     void DoEvents(std::chrono::milliseconds patience) override {
         clock_.Advance(patience + roundTime);
-        if (++rounds > 200'000) throw std::runtime_error("the events run without end");
+        if (++rounds > mostRounds) throw std::runtime_error("the events run without end");
         if (quit) return;
         if (onRound) onRound(rounds);
         if (!quit) timers_.RunDue(clock_.Monotonic());
@@ -62,10 +77,11 @@ public:
         bool operator==(const Shown&) const = default;
     };
     std::vector<Shown> messages;
-    std::function<void()> onMessage;             // while a message box stands
-    std::optional<std::string> fileAnswer;       // nothing: the person cancels
-    platform::FileQuestion fileQuestion;         // the last one
-    std::function<void(Answer)> onFileQuestion;  // keeps the answer for later
+    std::function<void()> onMessage;        // while a message box stands
+    std::optional<std::string> fileAnswer;  // nothing: the person cancels
+    platform::FileQuestion fileQuestion;    // the last one
+    int filterAnswer = 1;
+    std::function<void(FileAnswer)> onFileQuestion;  // keeps the answer for later
 
     void Message(Text title, Text text, platform::MessageIcon) override {
         messages.push_back({title, text});
@@ -81,12 +97,14 @@ public:
     void CopyText(Text text) override { copied.push_back(text); }
     void LastMessage(Text text) override { Message({}, text, platform::MessageIcon::None); }
     void Prompt(Text, Text, Answer answer) override { answer(std::nullopt); }
-    void AskFile(const platform::FileQuestion& question, Answer answer) override {
+    void AskFile(const platform::FileQuestion& question, FileAnswer answer) override {
         fileQuestion = question;
         if (onFileQuestion)
             onFileQuestion(std::move(answer));
+        else if (fileAnswer)
+            answer(platform::ChosenFile{*fileAnswer, filterAnswer});
         else
-            answer(fileAnswer);
+            answer(std::nullopt);
     }
     std::vector<int> helpTopics;
     platform::HelpPage helpPage;  // the last one
@@ -96,6 +114,7 @@ public:
     }
     std::vector<std::string> opened;
     void OpenAddress(Text address) override { opened.push_back(address); }
+    void OpenFolder(Text path) override { opened.push_back(path); }
     platform::ScreenSize Screen() override { return {28800, 16200}; }
 };
 
@@ -167,7 +186,7 @@ struct FakeHost {
     explicit FakeHost(platform::Files& files)
         : host{events, dialogs, clock, files, computer, random} {}
 
-    platform::SetClock clock{platform::LocalTime{2005, 3, 7, 12, 0, 0, 0}};
+    FakeClock clock{platform::LocalTime{2005, 3, 7, 12, 0, 0, 0}};
     FakeEvents events{clock};
     FakeDialogs dialogs;
     FakeComputer computer;

@@ -16,6 +16,7 @@
 #include "measure/cycle.h"
 #include "measure/listener.h"
 #include "measure/readings.h"
+#include "measure/recorder.h"
 #include "measure/sensor_commands.h"
 #include "measure/session_recovery.h"
 #include "measure/state.h"
@@ -60,6 +61,7 @@ public:
     measure::Cycle cycle;
     measure::SessionRecovery recovery;
     measure::SensorCommands sensorCommands;
+    measure::Recorder recorder;
     Windows windows;
     SettingsStore store;
     Discovery discovery;

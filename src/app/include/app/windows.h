@@ -10,6 +10,7 @@
 #include "measure/cycle.h"
 #include "measure/listener.h"
 #include "measure/modes.h"
+#include "measure/recorder.h"
 #include "measure/sensor_commands.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
@@ -25,6 +26,7 @@
 #include "ui/notice.h"
 #include "ui/reading_age.h"
 #include "ui/record_menu.h"
+#include "ui/record_status.h"
 #include "ui/result_table.h"
 #include "ui/selection_lists.h"
 #include "ui/sensor_commands.h"
@@ -43,9 +45,19 @@
 namespace kelvra::app {
 
 struct Windows {
-    Windows(forms::Forms& forms, sensors::SensorTable& table, measure::MeasureState& state,
-            measure::Cycle& cycle, measure::SensorCommands& commands, measure::Modes& modes,
-            const driver::DriverLibrary& drivers, platform::Host& host);
+    struct Parts {
+        forms::Forms& forms;
+        sensors::SensorTable& table;
+        measure::MeasureState& state;
+        measure::Cycle& cycle;
+        measure::SensorCommands& commands;
+        measure::Modes& modes;
+        measure::Recorder& recorder;
+        const driver::DriverLibrary& drivers;
+        platform::Host& host;
+    };
+
+    explicit Windows(const Parts& parts);
 
     ui::Notice notice;
     ui::ErrorStrip errorStrip;
@@ -59,6 +71,7 @@ struct Windows {
     ui::SpeedLabel speed;
     ui::Enabling enabling;
     ui::RecordMenu recordMenu;
+    ui::RecordStatus recordStatus;
     ui::DisplayLists displayLists;
     ui::MainWindow mainWindow;
     ui::StartMessages startMessages;

@@ -26,10 +26,13 @@ public:
                  std::function<void()> confirmed) override;
     void LastMessage(const std::string& text) override;
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
-    void AskFile(const platform::FileQuestion& question, Answer answer) override;
+    // The filter's pair is the one whose pattern ends the path with the most characters; the
+    // preselected one if no other is better.
+    void AskFile(const platform::FileQuestion& question, FileAnswer answer) override;
     void CopyText(const std::string& text) override;
     void OpenHelp(const platform::HelpPage& page) override;
     void OpenAddress(const std::string& address) override;
+    void OpenFolder(const std::string& path) override { OpenAddress(path); }
     const std::string& Clipboard() const { return clipboard_; }  // the text that was copied last
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;

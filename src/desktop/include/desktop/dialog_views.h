@@ -19,6 +19,9 @@ QWidget* MakeSetupDialog(forms::SetupForm& form, WidgetMaker& maker, const QList
 // What is copied, the other sensors, the buttons.
 QWidget* MakeCopyWindow(forms::CopyForm& form, WidgetMaker& maker);
 
+// The interval of a recording, and the button that asks for its file.
+QWidget* MakeRecordDialog(forms::TimeForm& form, WidgetMaker& maker);
+
 // Names and values side by side, which scroll together.
 QWidget* MakeInfoWindow(forms::SensInfoForm& form, WidgetMaker& maker);
 

@@ -32,10 +32,10 @@ public:
 
 private:
     void BuildMenus();
-    bool OpensNothingYet(const controls::Control& control) const;
     QWidget* BuildStrip();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();
+    QWidget* BuildRecording();
     QHBoxLayout* BuildConnection();
     QWidget* BuildFormulas();
     void KeepResultsInSight();

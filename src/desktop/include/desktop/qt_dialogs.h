@@ -33,11 +33,12 @@ public:
                  std::function<void()> confirmed) override;
     void LastMessage(const std::string& text) override;
     void Prompt(const std::string& text, const std::string& proposed, Answer answer) override;
-    void AskFile(const platform::FileQuestion& question, Answer answer) override;
+    void AskFile(const platform::FileQuestion& question, FileAnswer answer) override;
     void CopyText(const std::string& text) override;
     // In the system's browser, or in its viewer for compiled help.
     void OpenHelp(const platform::HelpPage& page) override;
     void OpenAddress(const std::string& address) override;
+    void OpenFolder(const std::string& path) override;
     platform::ScreenSize Screen() override;
 
 private:
@@ -54,6 +55,7 @@ private:
     void ShowNext();
     // Deletes itself when it is finished, which is reported before.
     void Open(QDialog& dialog, std::function<void(bool accepted)> finished);
+    void OpenUrl(const QUrl& url, const std::string& shown);
 
     QPointer<QWidget> parent_;
     std::vector<QPointer<QDialog>> open_;

@@ -12,6 +12,9 @@ struct TimeForm : controls::Window {
     explicit TimeForm(controls::Changes& changes)
         : Window(changes, "TimeForm", "Record Time Interval", {3000, 3000, 4800, 1500}) {
         TimeIntervalBox.access.helpTopic = 1114;
+        TimeIntervalBox.access.name = "Interval";
+        TimeIntervalBox.SetText("1");
+        TimeIntervalBox.tooltip = "Time from one recorded line to the next, in whole seconds";
     }
 
     controls::Frame Frame1{*this, "Frame1", "", {60, 60, 4680, 1380}};
@@ -20,7 +23,11 @@ struct TimeForm : controls::Window {
     controls::TextBox TimeIntervalBox{Frame1, "TimeIntervalBox"};
     controls::Label Label2{Frame1, "Label2", "seconds"};
     controls::Button SubmitTimeButton{
-        Frame1, "SubmitTimeButton", "", "submitTimePic", {.name = "Record"}};
+        Frame1,
+        "SubmitTimeButton",
+        "",
+        "submitTimePic",
+        {.name = "Choose file", .mnemonic = 'C', .explanation = "Asks for the file and begins."}};
 };
 
 // The program's name and version, links, and three panels of which one at most is shown.

@@ -24,6 +24,9 @@ struct MDIMain : Window {
         SensSyncMode.enabled = false;
         SensSyncMode.tooltip = "Has no effect: each sensor starts with its own trigger.";
         ConnectedFrame.visible = false;
+        RecordFrame.visible = false;
+        lblRecord.access.explanation =
+            "What has been recorded, how long, when the next line is due, and in which file.";
         MeasSpeedInfo.access.explanation =
             "Speed: passes over all sensors per second, not counting pauses between them.";
         NotMeasuring.access.explanation = "The start has failed; Stop makes the next one possible.";
@@ -187,6 +190,19 @@ struct MDIMain : Window {
         {.name = "Kind of notice",
          .explanation = "Whether it is an error, trouble with files, waiting, or done."}};
     Label lblMeasAwait{ConnectedFrame, "lblMeasAwait", "Waiting for a trigger signal at sensor "};
+
+    // The recording that runs, or has ended.
+    Frame RecordFrame{MainTools, "RecordFrame", "", {60, 900, 6000, 420}};
+    Picture picRecord{RecordFrame,
+                      "picRecord",
+                      "recordPic",
+                      {.name = "Recording", .explanation = "Beside it is how the recording goes."}};
+    Label lblRecord{RecordFrame, "lblRecord"};
+    Button OpenRecordFolder{RecordFrame,
+                            "OpenRecordFolder",
+                            "Open folder",
+                            "",
+                            {.mnemonic = 'O', .explanation = "Opens the folder of the recording."}};
 
     Frame MainFuncFrame{*this, "MainFuncFrame", "", {7800, 0, 7200, 1800}};
     Frame CalcFrame{MainFuncFrame, "CalcFrame", "", {60, 60, 7080, 1680}};

@@ -12,7 +12,8 @@ struct MeasureState {
     bool stopRequested = false;       // the cycle is to end when it next checks
     bool traceModeActive = false;     // an enabled sensor measures in trace mode
     bool timeSlotModeActive = false;  // an enabled sensor measures in time slot mode
-    std::int32_t recordInterval = 0;  // s between passes while recording; 0: no recording
+    bool recording = false;           // a recording has been started and not ended
+    std::int32_t recordInterval = 0;  // s between passes while recording; 0: no pauses
 
     bool exiting = false;      // the exit routine has run: touch nothing any more
     bool commandRuns = false;  // Start, or a sensor command, has not returned yet

@@ -28,7 +28,7 @@ public:
 };
 
 // Starts at a given local time, which counts as UTC; days have 24 hours (no summer time).
-class SetClock final : public Clock {
+class SetClock : public Clock {
 public:
     explicit SetClock(const LocalTime& start);
 

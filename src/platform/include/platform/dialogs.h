@@ -20,6 +20,12 @@ struct FileQuestion {
     bool save = false;     // ask before overwriting, refuse what is read-only
 };
 
+// The answer: a path, and the pair of the filter that was chosen (from 1).
+struct ChosenFile {
+    std::string path;
+    int filterIndex = 1;
+};
+
 // A page of help, in both forms that help has.
 struct HelpPage {
     std::string compiledFile;    // may be missing
@@ -36,6 +42,7 @@ class Dialogs {
 public:
     // Nothing when the user has cancelled the question.
     using Answer = std::function<void(std::optional<std::string> text)>;
+    using FileAnswer = std::function<void(std::optional<ChosenFile> file)>;
 
     virtual ~Dialogs() = default;
 
@@ -49,16 +56,17 @@ public:
     virtual void LastMessage(const std::string& text) = 0;
 
     virtual void Prompt(const std::string& text, const std::string& proposed, Answer answer) = 0;
-    virtual void AskFile(const FileQuestion& question, Answer answer) = 0;
+    virtual void AskFile(const FileQuestion& question, FileAnswer answer) = 0;
 
     // Puts the text on the clipboard.
     virtual void CopyText(const std::string& text) = 0;
 
     virtual void OpenHelp(const HelpPage& page) = 0;
 
-    // Opens a page ("https:"), a new mail ("mailto:") or a folder ("file:") in the program that the
-    // system has for it. A failure gives a message.
+    // Opens a page ("https:"), a new mail ("mailto:"), or a folder by its path, in the program that
+    // the system has for it. A failure gives a message.
     virtual void OpenAddress(const std::string& address) = 0;
+    virtual void OpenFolder(const std::string& path) = 0;
 
     // Of the screen on which the main window opens.
     virtual ScreenSize Screen() = 0;
