@@ -14,7 +14,7 @@
 namespace kelvra::platform {
 
 // A larger file reads as one without a version.
-constexpr std::size_t LargestImage = std::size_t{256} << 20;
+constexpr std::size_t LargestImage = std::size_t{64} << 20;
 
 // "5.1.2600.0": the fixed file version of an image of 32 or 64 bits, major.minor.build.revision.
 // Nothing if these bytes are no image, are damaged, or have no version.
