@@ -17,7 +17,7 @@ Kelvra::Kelvra(platform::Host& hostToUse)
       sensorCommands({table, state, host, driverSession, news}),
       trendCollector(trend, table, host.clock),
       recorder(table, state, host),
-      windows({forms, table, state, cycle, sensorCommands, modes, recorder, trend, host}),
+      windows({forms, table, state, cycle, sensorCommands, modes, recorder, trend, library, host}),
       store(host.files, log, windows.notice),
       limitsStore(host.files, log, windows.notice),
       discovery({forms, table, catalogue, session, state, modes, windows, store}),

@@ -7,6 +7,7 @@
 
 #include "app/kelvra.h"
 #include "sensors/settings_fields.h"
+#include "ui/program_name.h"
 #include "ui/setup_rows.h"
 #include "util/number_text.h"
 #include "util/text.h"
@@ -72,12 +73,8 @@ void Kelvra::StartDebugLog() {
 
 std::string Kelvra::Title() {
     const platform::ProgramVersion version = host.computer.Version();
-    std::string title = "Halvex " + version.product + ", Version " + Number(version.major) + "." +
-                        Number(version.minor);
-    if (version.revision != 0) title += "." + Number(version.revision);
-    title += " from ";
-    if (const auto date = host.computer.ProgramFileDate())
-        title += Number(date->month) + "/" + Number(date->day) + "/" + Number(date->year);
+    std::string title = "Halvex " + version.product + ", Version " + ui::VersionText(version) +
+                        " from " + ui::ProgramDate(host.computer);
     if (log.enabled) title += " [DEBUG MODE]";
     return title;
 }

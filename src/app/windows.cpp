@@ -37,7 +37,8 @@ Windows::Windows(const Parts& p)
       displayData(p.forms, p.table, dataForm, notice, p.host),
       trendData(p.forms.trendForm, trendWindow, dataForm, notice, p.host),
       settingsCopy({p.forms, p.table, edits, selection, notice}),
-      sensorCommands({p.forms, p.table, p.commands, notice, p.host}) {
+      sensorCommands({p.forms, p.table, p.commands, notice, p.host}),
+      aboutBox(p.forms, p.drivers, p.host) {
     ui::ConnectHelp(p.forms.timeForm, p.host);
     p.forms.mdiMain.StartIt.click.Connect([&cycle = p.cycle] { cycle.Start(); });
     p.forms.mdiMain.StopIt.click.Connect([&cycle = p.cycle, &commands = p.commands] {

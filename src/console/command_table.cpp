@@ -7,6 +7,7 @@
 
 #include "console/dump.h"
 #include "console/evaluate.h"
+#include "console/json_line.h"
 #include "console/print.h"
 #include "controls/visit.h"
 #include "util/number_reading.h"
@@ -257,7 +258,13 @@ CommandError Wait(CommandContext& c, std::string_view rest) {
     return std::nullopt;
 }
 
+constexpr std::string_view ClipboardName = "Clipboard";
+
 CommandError Print(CommandContext& c, std::string_view rest) {
+    if (std::string_view name = rest; TakeWord(name) == ClipboardName) {
+        for (const std::string& line : TextLines(c.dialogs.Clipboard())) c.output.Line(line);
+        return std::nullopt;
+    }
     const Target target = FindTarget(c, rest);
     if (target.error) return target.error;
     for (const std::string& line : PrintLines(*target.control)) c.output.Line(line);
@@ -266,6 +273,13 @@ CommandError Print(CommandContext& c, std::string_view rest) {
 
 CommandError Dump(CommandContext& c, std::string_view rest) {
     std::string_view name = rest;
+    if (TakeWord(name) == ClipboardName) {
+        JsonLine json;
+        json.BeginObject().Member("text", c.dialogs.Clipboard()).EndObject();
+        c.output.Line(json.Text());
+        return std::nullopt;
+    }
+    name = rest;
     if (const auto table = DumpTable(c.kelvra, TakeWord(name))) {
         c.output.Line(*table);
         return std::nullopt;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "console/dump.h"
 #include "console/json_line.h"
+#include "controls/rtf_reader.h"
 #include "controls/visit.h"
 
 namespace kelvra::console {
@@ -80,6 +81,14 @@ void GraphMembers(JsonLine& json, const Graph& graph) {
     json.EndList().Member("trackMode", static_cast<int>(graph.Track()));
 }
 
+// What a reader sees, a line break after each paragraph but the last.
+std::string SeenText(const RichText& text) {
+    std::string seen;
+    for (const std::string& line : RtfLines(text.rtf.Get())) seen.append(line).append("\n");
+    if (!seen.empty()) seen.pop_back();
+    return seen;
+}
+
 // The members before the colours, by kind.
 struct OwnMembers {
     JsonLine& json;
@@ -93,6 +102,7 @@ struct OwnMembers {
         Caption(item).Member("checked", item.checked.Get());
     }
     void operator()(const TextBox& box) const { json.Member("text", box.Text()); }
+    void operator()(const RichText& text) const { json.Member("text", SeenText(text)); }
     void operator()(const CheckBox& box) const { Caption(box).Member("checked", box.Checked()); }
     void operator()(const Option& option) const {
         Caption(option).Member("checked", option.Checked());

@@ -2,7 +2,9 @@
 #include "console/print.h"
 
 #include "console/output.h"
+#include "controls/rtf_reader.h"
 #include "controls/visit.h"
+#include "util/text.h"
 
 namespace kelvra::console {
 
@@ -50,11 +52,23 @@ struct Lines {
     Result operator()(const controls::List& list) const { return ListLines(list); }
     Result operator()(const controls::Grid& grid) const { return GridLines(grid); }
     Result operator()(const controls::Graph&) const { return {}; }  // dump shows its content
-    Result operator()(const controls::RichText& text) const { return {OneLine(text.rtf.Get())}; }
+    Result operator()(const controls::RichText& text) const {
+        return controls::RtfLines(text.rtf.Get());
+    }
     Result operator()(const controls::Picture& picture) const { return {picture.image.Get()}; }
 };
 
 }  // namespace
+
+std::vector<std::string> TextLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const util::SplitText line = util::SplitAtFirst(text, '\n');
+        lines.emplace_back(util::TrimLineBreaks(line.before));
+        text = line.after;
+    }
+    return lines;
+}
 
 std::vector<std::string> PrintLines(const controls::Control& control) {
     return controls::Visit(control, Lines{});

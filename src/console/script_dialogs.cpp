@@ -73,6 +73,7 @@ void ScriptDialogs::AskFile(const platform::FileQuestion& question, FileAnswer a
 }
 
 void ScriptDialogs::CopyText(const std::string& text) {
+    clipboard_ = text;
     output_.Line("clipboard: " + OneLine(text));
 }
 

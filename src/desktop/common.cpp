@@ -13,8 +13,6 @@ namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int OneLine = 80;  // characters
 constexpr const char* TooltipProperty = "ownTooltip";
-constexpr const char* IsWithheld = "withheld";
-constexpr const char* Later = "This window comes with a later version";
 }  // namespace
 
 int Pixels(int twips) {
@@ -66,16 +64,6 @@ QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window) {
     wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() + 1 - wanted.width()));
     wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() + 1 - wanted.height()));
     return wanted;
-}
-
-void Withhold(QAction& entry) {
-    entry.setToolTip(Later);
-    entry.setProperty(IsWithheld, true);
-    entry.setEnabled(false);
-}
-
-bool Withheld(const QObject& shown) {
-    return shown.property(IsWithheld).toBool();
 }
 
 }  // namespace kelvra::desktop

@@ -37,6 +37,9 @@ Desktop::Desktop(app::Kelvra& kelvra, QtEvents& events, QtDialogs& dialogs,
               [&forms](WidgetMaker& maker) { return MakeRecordDialog(forms.timeForm, maker); });
     AddDialog(forms.sensInfoForm,
               [&forms](WidgetMaker& maker) { return MakeInfoWindow(forms.sensInfoForm, maker); });
+    AddDialog(forms.aboutForm,
+              [&forms](WidgetMaker& maker) { return MakeAboutBox(forms.aboutForm, maker); });
+    kelvra.windows.aboutBox.frontEnd = FrontEndLibraries();
     dialogs.SetParent(main_.Widget());
     events_.onRepaint = [this] { mirror_.PaintNow(); };
     events_.onQuit = [&dialogs] { dialogs.Drop(); };

@@ -57,17 +57,9 @@ void MainWindowView::BuildMenus() {
         if (item == &form_.MenueWindow) windowMenu_ = menu;
         if (item == &form_.MEdit) editMenu_ = menu;
         menu->setToolTipsVisible(true);
-        for (controls::Control* entry : item->Children()) {
-            QAction* action = maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
-            if (OpensNothingYet(*entry)) Withhold(*action);
-        }
+        for (controls::Control* entry : item->Children())
+            maker_.AddEntry(*menu, *controls::As<controls::MenuItem>(*entry));
     }
-}
-
-// Whether the control opens a window that is not drawn yet.
-bool MainWindowView::OpensNothingYet(const controls::Control& control) const {
-    const std::initializer_list<const controls::Control*> openers{&form_.MHelpAbout};
-    return std::find(openers.begin(), openers.end(), &control) != openers.end();
 }
 
 // Tools and formulas side by side, below them the connection and the notice.

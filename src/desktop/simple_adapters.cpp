@@ -31,6 +31,16 @@ void LabelAdapter::Update() {
     UpdateCommon(widget_, label_);
 }
 
+LinkAdapter::LinkAdapter(controls::Label& label, QPushButton& widget)
+    : label_(label), widget_(widget) {
+    QObject::connect(&widget_, &QPushButton::clicked, [this] { label_.Press(); });
+}
+
+void LinkAdapter::Update() {
+    widget_.setText(MarkedText(label_, label_.caption));
+    UpdateCommon(widget_, label_);
+}
+
 LongLabelAdapter::LongLabelAdapter(const controls::Label& label, QPlainTextEdit& widget)
     : label_(label), widget_(widget) {
     widget_.setReadOnly(true);
@@ -72,7 +82,7 @@ void MenuItemAdapter::Update() {
     const QSignalBlocker quiet(action_);
     const bool opens = item_.opensDialog && !item_.caption->ends_with("...");
     action_.setText(MarkedText(item_, item_.caption) + (opens ? "..." : ""));
-    action_.setEnabled(item_.enabled && !Withheld(action_));
+    action_.setEnabled(item_.enabled);
     action_.setVisible(item_.visible);
     if (action_.isCheckable()) action_.setChecked(item_.checked);
 }

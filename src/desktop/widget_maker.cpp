@@ -12,8 +12,10 @@
 #include "desktop/entry_adapters.h"
 #include "desktop/graph_adapter.h"
 #include "desktop/grid_adapter.h"
+#include "desktop/link_button.h"
 #include "desktop/page_button.h"
 #include "desktop/qt_text.h"
+#include "desktop/rich_text_adapter.h"
 #include "desktop/simple_adapters.h"
 
 namespace kelvra::desktop {
@@ -57,6 +59,14 @@ QLabel* WidgetMaker::Make(const controls::Label& label, QLabel* widget) {
 
 QPlainTextEdit* WidgetMaker::MakeLong(const controls::Label& label) {
     return Mirrored<LongLabelAdapter>(label, new QPlainTextEdit);
+}
+
+QPushButton* WidgetMaker::MakeLink(controls::Label& label) {
+    return Mirrored<LinkAdapter>(label, new LinkButton);
+}
+
+QTextEdit* WidgetMaker::Make(const controls::RichText& text) {
+    return Mirrored<RichTextAdapter>(text, new RichTextPanel);
 }
 
 QPushButton* WidgetMaker::Make(controls::Button& button) {

@@ -11,6 +11,7 @@ std::unique_ptr<platform::Library> LoadOne(platform::Computer& computer, DebugLo
                                            const char* name, OperationList& operations) {
     platform::LoadedLibrary loaded = computer.LoadDriverLibrary(name);
     operations.libraryFile = loaded.fileName;
+    operations.libraryPath = loaded.path;
     operations.libraryLoaded = loaded.library != nullptr;
     operations.whyNotLoaded = loaded.why;
     if (!loaded.library) {
@@ -38,6 +39,18 @@ std::string MissingText(const OperationList& operations, const OperationBase& mi
                " could not be loaded: " + operations.whyNotLoaded;
     return "The driver library " + operations.libraryFile + " has no function " + missing.name +
            ".";
+}
+
+std::string LibraryState(const OperationList& operations) {
+    if (!operations.libraryLoaded) return operations.libraryFile + ": " + operations.whyNotLoaded;
+    std::string state = operations.libraryPath;
+    const char* before = ", without ";
+    for (const OperationBase* operation : operations.all) {
+        if (operation->address != nullptr) continue;
+        state.append(before).append(operation->name);
+        before = ", ";
+    }
+    return state;
 }
 
 }  // namespace kelvra::driver

@@ -49,8 +49,9 @@ Parsed Wrong(const Program& program, const std::string& why) {
 
 // "kelvra 1.2.3"
 std::string VersionText(const Program& program) {
-    return std::string(program.name) + ' ' + std::to_string(Version.major) + '.' +
-           std::to_string(Version.minor) + '.' + std::to_string(Version.revision);
+    const platform::ProgramVersion version = Version();
+    return std::string(program.name) + ' ' + std::to_string(version.major) + '.' +
+           std::to_string(version.minor) + '.' + std::to_string(version.revision);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ Surroundings::Surroundings(const Options& options, const std::vector<std::string
       nativeClock_(platform::NativeClock()),
       ownClock_(options.clock ? std::make_unique<platform::SetClock>(*options.clock) : nullptr),
       computer_(platform::NativeComputer(
-          *files_, {options.dataDir, options.driverDir, commandLine, Version}, dataFolderError_)),
+          *files_, {options.dataDir, options.driverDir, commandLine, Version()}, dataFolderError_)),
       random_(options.seed ? *options.seed : AnySeed()) {}
 
 platform::Host Surroundings::HostWith(platform::Events& events, platform::Dialogs& dialogs) {

@@ -17,13 +17,14 @@ constexpr std::string_view TemporarySuffix = ".tmp";
 
 constexpr std::size_t ChunkSize = std::size_t{64} << 10;
 
-std::error_code ReadAll(Files& files, Files::Handle handle, std::string& bytes) {
+std::error_code ReadAll(Files& files, Files::Handle handle, std::string& bytes,
+                        std::size_t largest) {
     std::string chunk(ChunkSize, '\0');
     for (;;) {
         std::size_t read = 0;
         if (const auto error = files.Read(handle, chunk.data(), chunk.size(), read)) return error;
         if (read == 0) return {};
-        if (read > LargestFile - bytes.size()) return make_error_code(std::errc::file_too_large);
+        if (read > largest - bytes.size()) return make_error_code(std::errc::file_too_large);
         bytes.append(chunk, 0, read);
     }
 }
@@ -84,12 +85,13 @@ std::error_code Fill(Files& files, Files::Handle handle, const std::string& old,
 
 }  // namespace
 
-std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes) {
+std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes,
+                              std::size_t largest) {
     bytes.clear();
-    if (files.Size(path) > LargestFile) return make_error_code(std::errc::file_too_large);
+    if (files.Size(path) > largest) return make_error_code(std::errc::file_too_large);
     Files::Handle handle = -1;
     if (const auto error = files.Open(path, Files::Mode::Read, handle)) return error;
-    const auto error = CloseAfter(ReadAll(files, handle, bytes), files, handle);
+    const auto error = CloseAfter(ReadAll(files, handle, bytes, largest), files, handle);
     if (error) bytes.clear();
     return error;
 }

@@ -68,9 +68,10 @@ void ExpectNamedAndExplained(const controls::Control& control) {
     for (const controls::Control* child : control.Children()) ExpectNamedAndExplained(*child);
 }
 
-TEST(Forms, WhatTakesTheFocusInTheSetupDialogHasANameAndSaysWhatItDoes) {
+TEST(Forms, WhatTakesTheFocusInADialogHasANameAndSaysWhatItDoes) {
     Forms forms;
     ExpectNamedAndExplained(forms.setupForm);
+    ExpectNamedAndExplained(forms.aboutForm);
 }
 
 void CollectTopics(const controls::Control& control, std::set<int>& topics) {

@@ -6,6 +6,7 @@
 namespace kelvra::desktop {
 
 // The groups of tests, each made by its own file.
+std::unique_ptr<QObject> AboutTests();
 std::unique_ptr<QObject> AccessibilityTests();
 std::unique_ptr<QObject> ColoursTests();
 std::unique_ptr<QObject> ControlsTests();
@@ -22,8 +23,9 @@ int main(int argc, char** argv) {
     using namespace kelvra::desktop;
     QApplication application(argc, argv);
     int failures = 0;
-    for (const auto& make : {AccessibilityTests, ColoursTests, ControlsTests, DialogsTests,
-                             DisplaysTests, GraphTests, GridTests, ProgramTests, SetupDialogTests})
+    for (const auto& make :
+         {AboutTests, AccessibilityTests, ColoursTests, ControlsTests, DialogsTests, DisplaysTests,
+          GraphTests, GridTests, ProgramTests, SetupDialogTests})
         failures += QTest::qExec(make().get(), argc, argv);
     return failures == 0 ? 0 : 1;
 }

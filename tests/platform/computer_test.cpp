@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "platform/data_folder.h"
+#include "posix/os_release.h"
 #include "posix/posix_files.h"
 #include "support/temp_folder.h"
 
@@ -25,6 +26,8 @@ TEST_F(PosixComputerTest, PutsProgramFolderAndDriveIntoTheDataFolder) {
     PosixComputer computer = Make();
     EXPECT_EQ(computer.ProgramFolder(), folder_.Path("data"));
     EXPECT_EQ(computer.DrivePath("C:\\a\\b.txt"), folder_.Path("data/a/b.txt"));
+    EXPECT_EQ(computer.SystemFolder(), folder_.Path("data/System32"));
+    EXPECT_EQ(computer.WindowsFolder(), folder_.Path("data/Windows"));
     EXPECT_EQ(computer.CommandLine(), "DEBUG x");
     EXPECT_TRUE(computer.ProgramFileDate().has_value());  // of this test
     folder_.Put("file", "");
@@ -37,6 +40,8 @@ TEST_F(PosixComputerTest, KeepsTheRegistryInAFileAndSaysWhenItCannot) {
     EXPECT_EQ(computer.OwnRegistry(), folder_.Path("data/registry.ini"));
     EXPECT_FALSE(computer.WriteRegistry(key, "PS-101;1", "left"));
     EXPECT_EQ(computer.ReadRegistry(key, "PS-101;1"), "left");
+    EXPECT_FALSE(computer.WriteRegistry(key, "", "default"));
+    EXPECT_EQ(computer.ReadRegistry(key, ""), "default");
     std::filesystem::permissions(folder_.Path("data/registry.ini"),
                                  std::filesystem::perms::owner_read);
     EXPECT_EQ(computer.WriteRegistry(key, "PS-101;1", "right"), std::errc::permission_denied);
@@ -51,6 +56,7 @@ TEST_F(PosixComputerTest, KeepsTheRegistryInAFileAndSaysWhenItCannot) {
 TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {
     const LoadedLibrary sample = Make(KELVRA_SAMPLE_FOLDER).LoadDriverLibrary("sample");
     ASSERT_TRUE(sample.library) << sample.why;
+    EXPECT_EQ(sample.path, KELVRA_SAMPLE_FOLDER "/libsample.so");
     EXPECT_EQ(sample.library->Find("NoSuchFunction"), nullptr);
     const auto answer = reinterpret_cast<int (*)()>(sample.library->Find("SampleAnswer"));
     ASSERT_TRUE(answer);
@@ -69,6 +75,19 @@ TEST_F(PosixComputerTest, LoadsALibraryFromTheDriverFolderAlone) {
     const LoadedLibrary broken = Make(folder_.Path()).LoadDriverLibrary("broken");
     EXPECT_FALSE(broken.library);
     EXPECT_NE(broken.why.find("libbroken.so"), std::string::npos) << broken.why;
+}
+
+TEST(OsRelease, NamesTheDistribution) {
+    const struct {
+        const char* text;
+        const char* name;
+    } cases[] = {
+        {"NAME=\"Some\"\nPRETTY_NAME=\"Some \\\"Linux\\\" 12\"\n", "Some \"Linux\" 12"},
+        {"ID=x\nNAME=Some\n", "Some"},
+        {"PRETTY_NAME='a", "'a"},
+        {"no line\n=\n", ""},
+    };
+    for (const auto& c : cases) EXPECT_EQ(NameOfDistribution(c.text), c.name) << c.text;
 }
 
 TEST(PosixLocale, WritesDateAndTimeAndFallsBackToC) {

@@ -9,7 +9,7 @@ name ends in ".lines", each line is to be one of the file's, in that order. Log 
 with LF, and wanted with the CR LF that Kelvra writes.
 
 NAME.bench is the scenario of the virtual sensors (the built-in one without it), NAME.data is copied
-into the data folder first, NAME.args holds words for the console instead of its driver folder, one a
+into the data folder first (whose path is DATA in the output), NAME.args holds words for the console instead of its driver folder, one a
 line.
 """
 
@@ -51,7 +51,8 @@ def run(console, driver_dir, script):
              *words, str(script)],
             cwd=data, env=env, capture_output=True, stdin=subprocess.DEVNULL, timeout=LONGEST_RUN_S,
             check=False)
-        left = {"output": done.stdout, "errors": done.stderr, "status": b"%d\n" % done.returncode}
+        output = done.stdout.replace(bytes(data), b"DATA")
+        left = {"output": output, "errors": done.stderr, "status": b"%d\n" % done.returncode}
         for path in sorted(data.rglob("*")):
             if path.is_file():
                 left[f"data/{path.relative_to(data)}"] = path.read_bytes()

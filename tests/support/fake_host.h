@@ -3,6 +3,7 @@
 // round by round, dialogs that are noted, libraries made of the test's own functions.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -140,9 +141,19 @@ public:
     bool compiledHelp = false;
 
     std::string ProgramFolder() override { return folder; }
+    std::string SystemFolder() override { return Join(folder, "System32"); }
+    std::string WindowsFolder() override { return Join(folder, "Windows"); }
+    platform::SystemDescription system{"Linux 6.1", "x86_64", "Debian 12", "C"};
+    platform::SystemDescription Describe() override { return system; }
+    std::optional<platform::WindowsVersion> windows;
+    std::optional<platform::WindowsVersion> Windows() override { return windows; }
     std::string GuideFolder() override { return "guide"; }
     bool OpensCompiledHelp() override { return compiledHelp; }
-    std::string DrivePath(Text path) override { return Join(folder, path.substr(3)); }
+    std::string DrivePath(Text path) override {
+        std::string below = path.substr(std::min<std::size_t>(path.size(), 3));
+        std::replace(below.begin(), below.end(), '\\', '/');
+        return Join(folder, below);
+    }
     std::string Join(Text parent, Text name) override { return parent + "/" + name; }
     std::string CommandLine() override { return commandLine; }
     platform::ProgramVersion Version() override { return version; }
@@ -155,7 +166,7 @@ public:
     platform::LoadedLibrary LoadDriverLibrary(Text name) override {
         const std::string file = "lib" + name + ".so";
         if (!libraries.contains(name)) return {nullptr, file, "no such file"};
-        return {std::make_unique<FakeLibrary>(libraries.at(name)), file, ""};
+        return {std::make_unique<FakeLibrary>(libraries.at(name)), file, "", "/drivers/" + file};
     }
     std::map<std::string, std::string> names;  // in the registry, by their names there
     std::error_code WriteRegistry(Text key, Text name, Text value) override {

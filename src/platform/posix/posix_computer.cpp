@@ -2,6 +2,7 @@
 #include "posix/posix_computer.h"
 
 #include <pwd.h>
+#include <sys/utsname.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,7 +11,9 @@
 #include <utility>
 
 #include "platform/data_folder.h"
+#include "platform/file_tools.h"
 #include "platform/profile_file.h"
+#include "posix/os_release.h"
 #include "posix/posix_library.h"
 
 namespace kelvra::platform {
@@ -102,6 +105,23 @@ std::optional<LocalTime> PosixComputer::ProgramFileDate() {
     return program ? program : files_.ModifiedAt(RunningProgram);
 }
 
+SystemDescription PosixComputer::Describe() {
+    SystemDescription system;
+    system.locale = locale_.Name();
+    utsname kernel{};
+    if (::uname(&kernel) == 0) {
+        system.kernel = std::string(kernel.sysname) + ' ' + kernel.release;
+        system.machine = kernel.machine;
+    }
+    for (const char* path : {"/etc/os-release", "/usr/lib/os-release"}) {
+        std::string bytes;
+        if (ReadWholeFile(files_, path, bytes)) continue;
+        system.distribution = NameOfDistribution(bytes);
+        break;
+    }
+    return system;
+}
+
 LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {
     LoadedLibrary loaded;
     loaded.fileName = "lib" + name + ".so";
@@ -109,6 +129,7 @@ LoadedLibrary PosixComputer::LoadDriverLibrary(const std::string& name) {
     for (const std::string& folder : driverFolders_) {
         const std::string path = Join(folder, loaded.fileName);
         if (files_.Exists(path)) {
+            loaded.path = path;
             loaded.library = LoadLibrary(path, loaded.why);
             return loaded;
         }

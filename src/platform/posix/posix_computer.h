@@ -30,6 +30,8 @@ public:
     // A path that is on no drive stays as it is.
     std::string DrivePath(const std::string& windowsPath) override;
     std::string Join(const std::string& folder, const std::string& name) override;
+    std::string SystemFolder() override { return Join(dataDir_, "System32"); }
+    std::string WindowsFolder() override { return Join(dataDir_, "Windows"); }
     std::string CommandLine() override { return commandLine_; }
     ProgramVersion Version() override { return version_; }
     std::optional<LocalTime> ProgramFileDate() override;
@@ -37,6 +39,9 @@ public:
     const util::NumberForm& Numbers() override { return locale_.Numbers(); }
     std::string DateText(const LocalTime& time) override { return locale_.DateText(time); }
     std::string TimeText(const LocalTime& time) override { return locale_.TimeText(time); }
+
+    SystemDescription Describe() override;
+    std::optional<WindowsVersion> Windows() override { return std::nullopt; }
 
     // Takes the first folder that has the file, whether it loads or not.
     LoadedLibrary LoadDriverLibrary(const std::string& name) override;

@@ -47,6 +47,10 @@ PosixLocale::PosixLocale(const char* name) : locale_(::newlocale(LC_ALL_MASK, na
     numbers_.grouping = grouping == unreadable ? " " : grouping;
 }
 
+std::string PosixLocale::Name() const {
+    return locale_ ? ::nl_langinfo_l(NL_LOCALE_NAME(LC_CTYPE), locale_.get()) : "";
+}
+
 std::string PosixLocale::Text(const char* pattern, const LocalTime& time) const {
     if (!locale_) return {};
     const std::tm parts = PartsOf(time);

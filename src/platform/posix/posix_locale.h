@@ -19,6 +19,8 @@ public:
     // locale that the system doesn't have.
     explicit PosixLocale(const char* name = "");
 
+    // The one that is in use, by the name of its texts and characters.
+    std::string Name() const;
     const util::NumberForm& Numbers() const { return numbers_; }
     std::string DateText(const LocalTime& time) const { return Text("%x", time); }
     std::string TimeText(const LocalTime& time) const { return Text("%X", time); }

@@ -3,6 +3,7 @@
 // driver and the selection publish.
 #pragma once
 
+#include "driver/driver_library.h"
 #include "driver/notices.h"
 #include "driver/transfer.h"
 #include "forms/forms.h"
@@ -14,6 +15,7 @@
 #include "measure/trend_store.h"
 #include "platform/host.h"
 #include "sensors/sensor_table.h"
+#include "ui/about_box.h"
 #include "ui/calc_grid.h"
 #include "ui/display_data.h"
 #include "ui/display_lists.h"
@@ -56,6 +58,7 @@ struct Windows {
         measure::Modes& modes;
         measure::Recorder& recorder;
         measure::TrendStore& trend;
+        const driver::DriverLibrary& drivers;
         platform::Host& host;
     };
 
@@ -91,6 +94,7 @@ struct Windows {
     ui::TrendData trendData;
     ui::SettingsCopy settingsCopy;
     ui::SensorCommands sensorCommands;
+    ui::AboutBox aboutBox;
 
     // Listeners are called in this order.
     void Subscribe(measure::News& news, driver::SessionNews& session);

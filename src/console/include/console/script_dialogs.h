@@ -33,6 +33,7 @@ public:
     void OpenHelp(const platform::HelpPage& page) override;
     void OpenAddress(const std::string& address) override;
     void OpenFolder(const std::string& path) override { OpenAddress(path); }
+    const std::string& Clipboard() const { return clipboard_; }  // the text that was copied last
     // Always the same, so that a script gives the same output everywhere.
     platform::ScreenSize Screen() override;
 
@@ -43,6 +44,7 @@ private:
 
     Output& output_;
     std::deque<std::optional<std::string>> answers_;
+    std::string clipboard_;
 };
 
 }  // namespace kelvra::console

@@ -2,7 +2,6 @@
 // What adapters and views share: tooltips, mnemonics, sizes and places.
 #pragma once
 
-#include <QAction>
 #include <QRect>
 #include <QScreen>
 #include <QWidget>
@@ -38,10 +37,5 @@ void KeepRoom(QWidget& widget);
 // The place of a window, moved and cut to the free part of a screen that is too small, with room
 // for its title bar.
 QRect OnScreen(QRect wanted, const QScreen& screen, const QWidget& window);
-
-// For an entry that opens a window which this front end doesn't have yet: it stays disabled and
-// says why. The record is not changed.
-void Withhold(QAction& entry);
-bool Withheld(const QObject& shown);
 
 }  // namespace kelvra::desktop

@@ -7,6 +7,7 @@
 #include "forms/copy_form.h"
 #include "forms/dialogs.h"
 #include "forms/setup_form.h"
+#include "ui/system_report.h"
 
 namespace kelvra::desktop {
 
@@ -23,5 +24,11 @@ QWidget* MakeRecordDialog(forms::TimeForm& form, WidgetMaker& maker);
 
 // Names and values side by side, which scroll together.
 QWidget* MakeInfoWindow(forms::SensInfoForm& form, WidgetMaker& maker);
+
+// What the program is, links, and a place for one of the three panels, which is there while none is
+// shown: the window does not jump.
+QWidget* MakeAboutBox(forms::AboutForm& form, WidgetMaker& maker);
+// What the front end is built on, for the report in that box.
+std::vector<ui::LibraryVersion> FrontEndLibraries();
 
 }  // namespace kelvra::desktop

@@ -32,7 +32,6 @@ public:
 
 private:
     void BuildMenus();
-    bool OpensNothingYet(const controls::Control& control) const;
     QWidget* BuildStrip();
     QHBoxLayout* BuildButtons();
     QHBoxLayout* BuildChoices();

@@ -32,6 +32,17 @@ private:
     QString shown_;
 };
 
+// A label that acts as a link.
+class LinkAdapter final : public WidgetAdapter {
+public:
+    LinkAdapter(controls::Label& label, QPushButton& widget);
+    void Update() override;
+
+private:
+    controls::Label& label_;
+    QPushButton& widget_;
+};
+
 // A label of many lines, which can be scrolled, selected and copied.
 class LongLabelAdapter final : public WidgetAdapter {
 public:

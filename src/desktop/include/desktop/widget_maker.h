@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextEdit>
 
 #include "controls/field.h"
 #include "controls/graph.h"
@@ -37,6 +38,8 @@ public:
     QLabel* Make(const controls::Label& label) { return Make(label, new QLabel); }
     QLabel* Make(const controls::Label& label, QLabel* widget);
     QPlainTextEdit* MakeLong(const controls::Label& label);  // with scroll bars
+    QPushButton* MakeLink(controls::Label& label);           // a label that can be pressed
+    QTextEdit* Make(const controls::RichText& text);
     QPushButton* Make(controls::Button& button);
     QLineEdit* Make(controls::TextBox& box);
     QCheckBox* Make(controls::CheckBox& box);

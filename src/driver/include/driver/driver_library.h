@@ -27,4 +27,7 @@ private:
 // Why a call was a missing function, as text for the user.
 std::string MissingText(const OperationList& operations, const OperationBase& missing);
 
+// Where the library is and which functions it lacks, or why it is not there: for a report.
+std::string LibraryState(const OperationList& operations);
+
 }  // namespace kelvra::driver

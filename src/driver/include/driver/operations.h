@@ -39,6 +39,7 @@ class OperationList {
 public:
     std::vector<OperationBase*> all;
     std::string libraryFile;  // file name that was searched for
+    std::string libraryPath;  // where it was found; empty if it was not
     bool libraryLoaded = false;
     std::string whyNotLoaded;
 };

@@ -30,23 +30,22 @@ struct TimeForm : controls::Window {
         {.name = "Choose file", .mnemonic = 'C', .explanation = "Asks for the file and begins."}};
 };
 
+// The program's name and version, links, and three panels of which one at most is shown.
 struct AboutForm : controls::Window {
     explicit AboutForm(controls::Changes& changes)
         : Window(changes, "AboutForm", "Info", {2400, 1800, 8400, 7200}) {
+        topMost = true;
         for (controls::Button* button : {&ShowSystemInfo, &ShowDriverInfo, &ShowLegalNotes})
             button->tag = "show";
         for (controls::RichText* panel : {&SysInfoValue, &DriverInfoValue, &LizText})
             panel->visible = false;
-        LizText.rtf =
-            R"({\plain\fs20 {\b Kelvra\par}{\par})"
-            R"({Copyright (C) 2026 The Kelvra developers\par}{\par})"
-            R"({This program is free software: you can redistribute it and/or modify it under the )"
-            R"(terms of the GNU General Public License as published by the Free Software )"
-            R"(Foundation, either version 3 of the License, or (at your option) any later )"
-            R"(version.\par}{\par})"
-            R"({This program is distributed in the hope that it will be useful, but WITHOUT ANY )"
-            R"(WARRANTY; without even the implied warranty of MERCHANTABILITY or FITNESS FOR A )"
-            R"(PARTICULAR PURPOSE. See the file LICENSE that comes with it.\par}})";
+        HomeLink.access.explanation = "Opens the maker's home page in the browser.";
+        ProductLink.access.explanation =
+            "Opens the application notes and the page of the support tool in the browser.";
+        SupportMail.access.explanation = "Begins a mail to the maker's support.";
+        SysInfoValue.access.name = "System info";
+        DriverInfoValue.access.name = "Driver info";
+        LizText.access.name = "Legal notes";
     }
 
     controls::Picture Image{*this, "Image", "aboutPic"};
@@ -57,11 +56,37 @@ struct AboutForm : controls::Window {
     controls::Label HomeLink{*this, "HomeLink", "Home page"};
     controls::Label ProductLink{*this, "ProductLink", "Application notes and support tool"};
     controls::Label SupportMail{*this, "SupportMail", "Mail to support"};
-    controls::Button ShowSystemInfo{*this, "ShowSystemInfo", "System info"};
-    controls::Button ShowDriverInfo{*this, "ShowDriverInfo", "Driver info"};
-    controls::Button ShowLegalNotes{*this, "ShowLegalNotes", "Legal notes"};
-    controls::Button CreateSupportString{*this, "CreateSupportString", "Copy support info"};
-    controls::Button Close{*this, "Close", "Close"};
+    controls::Button ShowSystemInfo{
+        *this,
+        "ShowSystemInfo",
+        "System info",
+        "",
+        {.mnemonic = 'S', .explanation = "Shows what is installed on this computer, or hides it."}};
+    controls::Button ShowDriverInfo{
+        *this,
+        "ShowDriverInfo",
+        "Driver info",
+        "",
+        {.mnemonic = 'D',
+         .explanation = "Shows the instrument drivers on this computer, or hides "
+                        "them."}};
+    controls::Button ShowLegalNotes{
+        *this,
+        "ShowLegalNotes",
+        "Legal notes",
+        "",
+        {.mnemonic = 'L',
+         .explanation = "Shows the licences of the program and of what it is built on, or hides "
+                        "them."}};
+    controls::Button CreateSupportString{
+        *this,
+        "CreateSupportString",
+        "Copy support info",
+        "",
+        {.mnemonic = 'C',
+         .explanation = "Copies all that system and driver info say, as text for a mail."}};
+    controls::Button Close{
+        *this, "Close", "Close", "", {.mnemonic = 'o', .explanation = "Closes this window."}};
     controls::RichText SysInfoValue{*this, "SysInfoValue"};
     controls::RichText DriverInfoValue{*this, "DriverInfoValue"};
     controls::RichText LizText{*this, "LizText"};

@@ -15,8 +15,9 @@ namespace kelvra::platform {
 constexpr std::size_t LargestFile = std::size_t{16} << 20;
 
 // All bytes of the file; none after an error. A missing file is an error
-// (no_such_file_or_directory). A file above LargestFile is not read (file_too_large).
-std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes);
+// (no_such_file_or_directory). A file with more bytes than `largest` is not read (file_too_large).
+std::error_code ReadWholeFile(Files& files, const std::string& path, std::string& bytes,
+                              std::size_t largest = LargestFile);
 
 // Leaves either the old bytes or the new ones in the file, whole, wherever it is interrupted: the
 // bytes go to a temporary file beside it, which is synced and renamed over it. An error leaves the
