@@ -54,14 +54,14 @@ std::optional<Headers> ReadHeaders(std::string_view image) {
     const auto optionalSize = Word(image, file + 16);
     const Offset optional = file + 20;
     const auto kind = Word(image, optional);
-    if (!sectionCount || !optionalSize || (kind != Optional32 && kind != Optional64))
-        return std::nullopt;
+    const bool wide = kind == Optional64;
+    if (!sectionCount || !optionalSize || (!wide && kind != Optional32)) return std::nullopt;
     // The directory of resources is the third of those at the end of the optional header.
-    const Offset directories = optional + (kind == Optional32 ? 96 : 112);
+    const Offset directories = optional + (wide ? 112 : 96);
     const auto count = DoubleWord(image, directories - 4);
-    const auto resources = DoubleWord(image, directories + 2 * 8);
+    const auto resources = DoubleWord(image, directories + 16);
     const bool there = count && *count > 2 && resources && *resources != 0 &&
-                       directories + 3 * 8 <= optional + *optionalSize;
+                       directories + 24 <= optional + *optionalSize;
     if (!there) return std::nullopt;
     return Headers{optional + *optionalSize, *sectionCount, *resources};
 }
@@ -118,7 +118,7 @@ std::optional<Entry> FindVersionData(std::string_view resources) {
 
 // The fixed part follows the block's three lengths and its key, at a multiple of four.
 std::optional<std::string> FixedVersion(std::string_view block) {
-    static constexpr std::string_view key("V\0S\0_\0V\0E\0R\0S\0I\0O\0N\0_\0I\0N\0F\0O\0\0\0", 32);
+    constexpr std::string_view key("V\0S\0_\0V\0E\0R\0S\0I\0O\0N\0_\0I\0N\0F\0O\0\0\0", 32);
     constexpr Offset keyAt = 6;
     constexpr Offset fixedAt = (keyAt + key.size() + 3) / 4 * 4;
     if (Part(block, keyAt, key.size()) != key) return std::nullopt;

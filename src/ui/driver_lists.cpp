@@ -12,8 +12,8 @@ namespace kelvra::ui {
 namespace {
 
 constexpr std::string_view Prefix = "hx";
-constexpr const char* FrameworkKey = "HKLM\\SOFTWARE\\VXIPNP_Alliance\\VXIPNP\\CurrentVersion";
-constexpr const char* WindowsKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
+constexpr const char* FrameworkKey = R"(HKLM\SOFTWARE\VXIPNP_Alliance\VXIPNP\CurrentVersion)";
+constexpr const char* WindowsKey = R"(HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion)";
 
 // The first of the values that is not empty.
 std::string Registered(platform::Host& host, const char* key,

@@ -5,25 +5,26 @@
 #include <utility>
 
 #include "ui/rich_text.h"
+#include "util/text.h"
 
 namespace kelvra::ui {
 
 namespace {
 
-constexpr std::string_view Own[] = {
-    "Copyright (C) 2026 The Kelvra developers",
-    "",
+constexpr std::string_view Own =
+    "Copyright (C) 2026 The Kelvra developers\n"
+    "\n"
     "This program is free software: you can redistribute it and/or modify it under the terms of "
     "the GNU General Public License as published by the Free Software Foundation, either version 3 "
-    "of the License, or (at your option) any later version.",
-    "",
+    "of the License, or (at your option) any later version.\n"
+    "\n"
     "This program is distributed in the hope that it will be useful, but WITHOUT ANY WARRANTY; "
     "without even the implied warranty of MERCHANTABILITY or FITNESS FOR A PARTICULAR PURPOSE. See "
-    "the GNU General Public License for more details.",
-    "",
+    "the GNU General Public License for more details.\n"
+    "\n"
     "The text of the licence is in the file LICENSE that comes with the program; it is also at "
-    "https://www.gnu.org/licenses/gpl-3.0.html. The pictures and the guide have the same licence.",
-};
+    "https://www.gnu.org/licenses/gpl-3.0.html. The pictures and the guide have the same "
+    "licence.\n";
 
 // What the programs are linked with. `files` are the names by which the programs ask for a shared
 // library; the notes show them.
@@ -70,19 +71,19 @@ constexpr Component Components[] = {
 };
 
 // The licence of CLI11 asks for its text wherever the program goes.
-constexpr std::string_view CliLicence[] = {
+constexpr std::string_view CliLicence =
     "Redistribution and use in source and binary forms of CLI11, with or without modification, are "
-    "permitted provided that the following conditions are met:",
-    "",
+    "permitted provided that the following conditions are met:\n"
+    "\n"
     "1. Redistributions of source code must retain the above copyright notice, this list of "
-    "conditions and the following disclaimer.",
+    "conditions and the following disclaimer.\n"
     "2. Redistributions in binary form must reproduce the above copyright notice, this list of "
     "conditions and the following disclaimer in the documentation and/or other materials provided "
-    "with the distribution.",
+    "with the distribution.\n"
     "3. Neither the name of the copyright holder nor the names of its contributors may be used to "
     "endorse or promote products derived from this software without specific prior written "
-    "permission.",
-    "",
+    "permission.\n"
+    "\n"
     "THIS SOFTWARE IS PROVIDED BY THE COPYRIGHT HOLDERS AND CONTRIBUTORS \"AS IS\" AND ANY EXPRESS "
     "OR IMPLIED WARRANTIES, INCLUDING, BUT NOT LIMITED TO, THE IMPLIED WARRANTIES OF "
     "MERCHANTABILITY AND FITNESS FOR A PARTICULAR PURPOSE ARE DISCLAIMED. IN NO EVENT SHALL THE "
@@ -91,8 +92,16 @@ constexpr std::string_view CliLicence[] = {
     "GOODS OR SERVICES; LOSS OF USE, DATA, OR PROFITS; OR BUSINESS INTERRUPTION) HOWEVER CAUSED "
     "AND ON ANY THEORY OF LIABILITY, WHETHER IN CONTRACT, STRICT LIABILITY, OR TORT (INCLUDING "
     "NEGLIGENCE OR OTHERWISE) ARISING IN ANY WAY OUT OF THE USE OF THIS SOFTWARE, EVEN IF ADVISED "
-    "OF THE POSSIBILITY OF SUCH DAMAGE.",
-};
+    "OF THE POSSIBILITY OF SUCH DAMAGE.\n";
+
+// Each line of the text.
+void AddLines(std::string& document, std::string_view text) {
+    while (!text.empty()) {
+        const util::SplitText line = util::SplitAtFirst(text, '\n');
+        AddRtfLine(document, line.before);
+        text = line.after;
+    }
+}
 
 void AddHeading(std::string& document, std::string_view text) {
     AddRtfLine(document, text, {.bold = true});
@@ -114,13 +123,13 @@ void AddComponent(std::string& document, const Component& component) {
 std::string LegalNotes() {
     std::string document = RtfBeginning();
     AddHeading(document, "Kelvra");
-    for (const std::string_view line : Own) AddRtfLine(document, line);
+    AddLines(document, Own);
     AddRtfLine(document, "");
     AddHeading(document, "What Kelvra is linked with");
     for (const Component& component : Components) AddComponent(document, component);
     AddRtfLine(document, "");
     AddHeading(document, "Licence of CLI11");
-    for (const std::string_view line : CliLicence) AddRtfLine(document, line);
+    AddLines(document, CliLicence);
     return ShownRtf(document);
 }
 

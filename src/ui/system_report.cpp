@@ -38,7 +38,7 @@ struct Section {
 
 constexpr const char* LanguageKey = "HKCU\\Control Panel\\International";
 constexpr const char* BrowserKey =
-    "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\IEXPLORE.EXE";
+    R"(HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\IEXPLORE.EXE)";
 
 const Section Sections[] = {
     {"Operating system", {{"", "Operating system:", Source::SystemName}}},

@@ -22,7 +22,7 @@ public:
         Put16(Optional, wide ? 0x20B : 0x10B);
         const std::size_t directories = Optional + (wide ? 112 : 96);
         Put32(directories - 4, 16);
-        resourcesAt = directories + 2 * 8;
+        resourcesAt = directories + 16;
         Put32(resourcesAt, Address);
         PutSection(Sections, 0x1000, 0x200);
         PutSection(Sections + 40, Address, Resources);
