@@ -96,7 +96,8 @@ void DrawLimits(QCPPainter& painter, const PlotScale& scale, const Graph& graph)
             QRectF(QPointF(place.left(), y), QPointF(place.right(), edge)).normalized(),
             PlotTint(PlotPart::Limit));
         painter.setPen(PlotPen(PlotPart::Limit));
-        painter.drawLine(QLineF(place.left(), y, place.right(), y));
+        const bool inSight = limit >= scale.Axes().y.min && limit <= scale.Axes().y.max;
+        if (inSight) painter.drawLine(QLineF(place.left(), y, place.right(), y));
     };
     draw(graph.Limits().low, place.bottom());
     draw(graph.Limits().high, place.top());

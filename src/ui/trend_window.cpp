@@ -270,8 +270,11 @@ void TrendWindow::ShowPointed(double x) {
         const auto near = TrendPicture::NearestTo(column, sensor, PointerReach);
         const bool chosen = i++ == Chosen();
         if (!near) continue;
-        const std::string own = "; " + sensor.name + " " + ColumnText(sensor.columns[*near]);
-        text = chosen ? own + text : text + own;
+        std::string own = "; " + sensor.name + " " + ColumnText(sensor.columns[*near]);
+        if (chosen)
+            text.insert(0, own);
+        else
+            text += own;
     }
     form_.lblPointed.caption = DayText(time) + " " + ClockText(time, fine) + text;
 }

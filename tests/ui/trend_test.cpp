@@ -4,7 +4,6 @@
 
 #include <cmath>
 
-#include "platform/file_tools.h"
 #include "support/whole_kelvra.h"
 #include "ui/result_columns.h"
 
@@ -44,11 +43,6 @@ protected:
     void Limit(controls::TextField& box, const char* text) {
         box.Type(text);
         box.PressKey("Enter");
-    }
-    std::string IniFile() {
-        std::string text;
-        platform::ReadWholeFile(files, folder.Path() + "/Kelvra.INI", text);
-        return text;
     }
 };
 
@@ -163,6 +157,22 @@ TEST_F(TrendTest, AReadingOutsideIsMarkedAndCountedUntilItIsInsideAgain) {
     driver.devices[1].connected = 0;
     Tick();
     EXPECT_FALSE(Cell(1, DbmColumn).faulty);
+}
+
+TEST_F(TrendTest, LimitsComeBackInTheNextRunAndAFailedSaveIsSaid) {
+    Begin(1);
+    Limit(Form().LowLimit, "-5");
+    files.Plan(1, test::FaultyFiles::Fault::Fail);
+    Limit(Form().HighLimit, "5");
+    EXPECT_TRUE(Notice().starts_with("The limits could not be saved: ")) << Notice();
+    EXPECT_EQ(program->windows.limits.Of("PS-101;1").high, 5);  // in this run
+    Limit(Form().HighLimit, "6");
+    EXPECT_FALSE(program->forms.mdiMain.ConnectedFrame.visible);
+    Start();
+    EXPECT_EQ(program->windows.limits.Of("PS-101;1"), (LevelLimits{-5, 6}));
+    driver.reading = 0.01;
+    Measure(1);  // with the window closed
+    EXPECT_EQ(program->windows.limits.Outside("PS-101;1"), 1);
 }
 
 }  // namespace kelvra::ui
