@@ -47,7 +47,10 @@ void RecordStatus::Started() {
 }
 
 void RecordStatus::PassWaits(platform::Duration left) {
-    if (state_.recording) nextLine_ = host_.clock.Monotonic() + left;
+    if (!state_.recording) return;
+    const bool begins = !nextLine_;
+    nextLine_ = host_.clock.Monotonic() + left;
+    if (begins) Show();
 }
 
 void RecordStatus::RecordingBegins() {
