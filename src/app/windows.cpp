@@ -20,7 +20,7 @@ Windows::Windows(const Parts& p)
       speed(p.forms.mdiMain, p.host),
       enabling(p.forms, p.table, selection),
       recordMenu(p.forms, p.recorder, p.host),
-      recordStatus(p.forms.mdiMain, p.recorder, p.state, notice, p.host),
+      recordStatus(p.forms.mdiMain, p.recorder, p.state, p.table, notice, p.host),
       displayLists(p.forms, p.table, selection),
       mainWindow(p.forms, p.state, p.host),
       startMessages(p.host.dialogs),

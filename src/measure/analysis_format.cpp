@@ -21,7 +21,7 @@ public:
         std::set<std::string> names;
         std::string heading = "Time";
         for (std::size_t slot = 0; slot < slots.size(); ++slot) {
-            if (!slots[slot].present || !slots[slot].enabled) continue;
+            if (!slots[slot].present || !slots[slot].measured) continue;
             columns_.push_back(slot);
             const std::string name = UniqueName(slots[slot].name, slot, names);
             for (const char* unit : Units) heading.append(",").append(util::CsvField(name + unit));

@@ -11,8 +11,6 @@ using std::chrono::seconds;
 namespace {
 
 constexpr auto Pause = milliseconds(1);
-// A pass that began later than this after the last deadline starts a new series of deadlines.
-constexpr auto Slack = milliseconds(50);
 
 }  // namespace
 
@@ -21,9 +19,7 @@ platform::Duration Pacing::Deadline() const {
     const platform::Duration own = passBegan_ + interval;
     if (!lastDeadline_) return own;
     const platform::Duration even = *lastDeadline_ + interval;
-    const bool keepsSpacing =
-        passBegan_ - *lastDeadline_ <= Slack && even > host_.clock.Monotonic();
-    return keepsSpacing ? even : own;
+    return even > host_.clock.Monotonic() ? even : own;
 }
 
 void Pacing::WaitForDeadline() {

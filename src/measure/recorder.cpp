@@ -16,11 +16,12 @@ std::error_code Recorder::Begin(const std::string& path, std::int32_t interval,
     const Progress before = std::exchange(progress_, {path, host_.clock.Monotonic(), {}, 0, 0});
     format_ = std::move(format);
     heading_ = format_->Heading(Slots());
-    if (const auto error = StartFile(heading_)) {
+    if (const auto error = platform::ReplaceFile(host_.files, path, heading_)) {
         progress_ = before;
         return error;
     }
     gap_ = 0;
+    began_.reset();
     runBegins_ = true;
     state_.recording = true;
     state_.recordInterval = interval;
@@ -30,24 +31,21 @@ std::error_code Recorder::Begin(const std::string& path, std::int32_t interval,
 
 void Recorder::End() {
     if (!state_.recording) return;
+    if (gap_ > 0) Append(GapRemark());  // a failure has been reported before
     state_.recording = false;
     state_.recordInterval = 0;
     progress_.ended = host_.clock.Monotonic();
     listeners.Tell(&RecordListener::RecordingEnds);
 }
 
-std::error_code Recorder::StartFile(const std::string& heading) {
-    const std::string& path = progress_.path;
-    if (const auto error = platform::AppendToFile(host_.files, path, {})) return error;
-    if (const auto error = host_.files.Resize(path, 0)) return error;
-    return Append(heading);
-}
-
 std::vector<RecordedSlot> Recorder::Slots() const {
     std::vector<RecordedSlot> slots;
     for (const sensors::SensorEntry& entry : table_.entries) {
         const std::size_t slot = slots.size();
-        slots.push_back({entry.logicalName, entry.present, entry.enabled, std::nullopt});
+        const bool measured = state_.measuring && slot < measured_.size()
+                                  ? measured_[slot]
+                                  : entry.present && entry.enabled;
+        slots.push_back({entry.logicalName, entry.present, measured, std::nullopt});
         if (slot < came_.size() && came_[slot] == state_.passes)
             slots.back().reading = table_.slotReadings[slot];
     }
@@ -58,6 +56,15 @@ std::vector<RecordedSlot> Recorder::Slots() const {
 void Recorder::Started() {
     runBegins_ = true;
     came_.assign(table_.entries.size(), -1);
+    measured_.clear();
+    for (const sensors::SensorEntry& entry : table_.entries)
+        measured_.push_back(entry.present && entry.enabled);
+}
+
+// A pass begins where the one before it ends. The wall clock is read then: it may be set, and the
+// computer may sleep, before the line is written.
+void Recorder::NoteBegin() {
+    if (state_.recording) began_ = host_.clock.Now();
 }
 
 // Noted whether or not a recording runs: one may begin in the middle of a pass.
@@ -69,7 +76,7 @@ void Recorder::ReadingArrived(int slot) {
 
 void Recorder::PassSeen(platform::Duration now, platform::Duration lasted) {
     if (!state_.recording || state_.recordInterval <= 0) return;
-    if (const auto error = WriteLine(now - lasted)) {
+    if (const auto error = WriteLine(began_ ? *began_ : host_.clock.At(now - lasted))) {
         ++gap_;
         ++progress_.missing;
         gapReason_ = error.message();
@@ -80,7 +87,7 @@ void Recorder::PassSeen(platform::Duration now, platform::Duration lasted) {
     listeners.Tell(&RecordListener::LineWritten);
 }
 
-std::error_code Recorder::WriteLine(platform::Duration passBegan) {
+std::error_code Recorder::WriteLine(const platform::LocalTime& passBegan) {
     const std::vector<RecordedSlot> slots = Slots();
     std::string heading;
     if (runBegins_ && (format_->RepeatsHeading() || progress_.lines == 0)) {
@@ -90,7 +97,7 @@ std::error_code Recorder::WriteLine(platform::Duration passBegan) {
     if (!heading.empty() && !format_->RepeatsHeading())
         if (const auto error = host_.files.Resize(progress_.path, 0)) return error;
     std::string text = heading + GapRemark();
-    text += format_->Line(host_.clock.At(passBegan), slots);
+    text += format_->Line(passBegan, slots);
     if (const auto error = Append(text)) return error;
     runBegins_ = false;
     if (!heading.empty()) heading_ = heading;

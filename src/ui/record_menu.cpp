@@ -93,7 +93,9 @@ void RecordMenu::Judge() {
     const TypedNumber typed = ReadTyped(box.Text(), Seconds, host_.computer.Numbers());
     box.fault = !typed.fault.empty() || IntervalOf(typed) > 0
                     ? typed.fault
-                    : std::string("With an interval of 0 seconds no line is ever written.");
+                    : std::string(
+                          "No line is ever written: the interval must be from 1 to "
+                          "2147483647 seconds.");
 }
 
 }  // namespace kelvra::ui

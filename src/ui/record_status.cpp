@@ -35,8 +35,14 @@ std::string Counted(std::int64_t count) {
 }  // namespace
 
 RecordStatus::RecordStatus(forms::MDIMain& window, measure::Recorder& recorder,
-                           const measure::MeasureState& state, Notice& notice, platform::Host& host)
-    : window_(window), recorder_(recorder), state_(state), notice_(notice), host_(host) {
+                           const measure::MeasureState& state, const sensors::SensorTable& table,
+                           Notice& notice, platform::Host& host)
+    : window_(window),
+      recorder_(recorder),
+      state_(state),
+      table_(table),
+      notice_(notice),
+      host_(host) {
     recorder.listeners.Add(*this);
     window_.OpenRecordFolder.click.Connect([this] { OpenFolder(); });
 }
@@ -90,8 +96,9 @@ void RecordStatus::Show() {
 // What counts is in front: a long name is cut at its end.
 std::string RecordStatus::CourseText() const {
     std::string text = SpaceText() + Remainder();
-    if (state_.recordInterval <= 0) return text + ", none will come with an interval of 0 s";
+    if (state_.recordInterval <= 0) return text + ", none will come with this interval";
     if (!state_.measuring) return text + ", waits for Start";
+    if (table_.simulationMode) text += " without values: simulated ones are not recorded";
     if (!nextLine_) return text;
     const auto left = std::chrono::ceil<seconds>(*nextLine_ - host_.clock.Monotonic()).count();
     return text + ", next in " + util::TrimmedNumberText(std::max<std::int64_t>(left, 0)) + " s";

@@ -47,8 +47,10 @@ int OpenFlags(Files::Mode mode) {
     return O_RDONLY;
 }
 
+// Does not wait for somebody at the other end of a pipe.
 std::error_code OpenWith(const std::string& path, int flags, Files::Handle& handle) {
-    handle = Uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, 0666); });
+    constexpr int always = O_CLOEXEC | O_NONBLOCK;
+    handle = Uninterrupted([&] { return ::open(path.c_str(), flags | always, 0666); });
     return handle == -1 ? LastError() : std::error_code();
 }
 

@@ -18,7 +18,7 @@ namespace kelvra::measure {
 struct RecordedSlot {
     std::string name;
     bool present = false;                          // there is a sensor in it
-    bool enabled = false;                          // which is switched on
+    bool measured = false;                         // in this measurement, or else in the next one
     std::optional<std::array<double, 2>> reading;  // of this pass: W, dBm
 };
 

@@ -45,8 +45,9 @@ public:
     Recorder(const sensors::SensorTable& table, MeasureState& state, platform::Host& host)
         : table_(table), state_(state), host_(host) {}
 
-    // Makes the file, or empties it, writes the heading, and begins; a recording that runs is ended
-    // before. With an interval (s) of 0 or less no line is ever written. An error begins nothing.
+    // Makes the file, or replaces it, with the heading in it, and begins; a recording that runs is
+    // ended before. With an interval (s) of 0 or less no line is ever written. An error begins
+    // nothing.
     std::error_code Begin(const std::string& path, std::int32_t interval,
                           std::unique_ptr<RecordFormat> format);
     void End();
@@ -56,10 +57,12 @@ public:
     util::Listeners<RecordListener> listeners;
 
     void Started() override;
+    void Prepared() override { NoteBegin(); }
     void Stopped() override { End(); }
     // Only a good reading of this pass is recorded, and none of a simulated sensor.
     void ReadingArrived(int slot) override;
     void PassSeen(platform::Duration now, platform::Duration lasted) override;
+    void PassEnded() override { NoteBegin(); }
 
 private:
     // What a failed write may have left: bytes of a line behind the file's former end.
@@ -69,9 +72,9 @@ private:
     };
 
     std::vector<RecordedSlot> Slots() const;
-    std::error_code StartFile(const std::string& heading);
+    void NoteBegin();
     std::string GapRemark() const;
-    std::error_code WriteLine(platform::Duration passBegan);
+    std::error_code WriteLine(const platform::LocalTime& passBegan);
     std::error_code Append(const std::string& text);
     std::error_code CutTorn();
 
@@ -80,10 +83,12 @@ private:
     platform::Host& host_;
     std::unique_ptr<RecordFormat> format_;
     Progress progress_;
-    std::string heading_;             // the last one in the file
-    bool runBegins_ = false;          // no line of this measurement has been written yet
-    std::vector<std::int64_t> came_;  // by slot: the pass of its latest good reading
-    std::int64_t gap_ = 0;            // lines missing since the last one
+    std::string heading_;                       // the last one in the file
+    bool runBegins_ = false;                    // no line of this measurement has been written yet
+    std::vector<bool> measured_;                // by slot: in this measurement
+    std::optional<platform::LocalTime> began_;  // of the pass, unless the recording began in it
+    std::vector<std::int64_t> came_;            // by slot: the pass of its latest good reading
+    std::int64_t gap_ = 0;                      // lines missing since the last one
     std::string gapReason_;
     std::optional<Torn> torn_;
 };

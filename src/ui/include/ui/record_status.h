@@ -21,7 +21,8 @@ class RecordStatus final : public measure::MeasurementListener,
                            public measure::RecordListener {
 public:
     RecordStatus(forms::MDIMain& window, measure::Recorder& recorder,
-                 const measure::MeasureState& state, Notice& notice, platform::Host& host);
+                 const measure::MeasureState& state, const sensors::SensorTable& table,
+                 Notice& notice, platform::Host& host);
 
     void Started() override;
     void PassWaits(platform::Duration left) override;
@@ -41,6 +42,7 @@ private:
     forms::MDIMain& window_;
     measure::Recorder& recorder_;
     const measure::MeasureState& state_;
+    const sensors::SensorTable& table_;
     Notice& notice_;
     platform::Host& host_;
     platform::Events::TimerId timer_ = 0;
