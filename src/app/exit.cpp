@@ -6,6 +6,7 @@ namespace kelvra::app {
 void Kelvra::SaveSettings() {
     const sensors::TableLock lock(table);
     store.Save(table.Present());
+    windows.limits.SaveUnsaved();
 }
 
 void Kelvra::Exit() {

@@ -37,8 +37,9 @@ void Kelvra::Subscribe() {
     news.pass.Add(trendCollector);
     news.slot.Add(trendCollector);
     windows.limits.load = [this](const std::string& key) { return limitsStore.Read(key); };
-    windows.limits.save = [this](const std::string& key, const ui::LevelLimits& limits) {
-        limitsStore.Save(key, limits);
+    windows.limits.save = [this](const std::string& key, const ui::LevelLimits& before,
+                                 const ui::LevelLimits& limits) {
+        return limitsStore.Save(key, before, limits);
     };
     windows.Subscribe(news, sessionNews);
     news.measurement.Add(recorder);

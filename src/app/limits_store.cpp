@@ -8,6 +8,7 @@
 #include "platform/profile_file.h"
 #include "sensors/settings_file.h"
 #include "util/number_reading.h"
+#include "util/text.h"
 
 namespace kelvra::app {
 
@@ -20,9 +21,9 @@ std::string SectionOf(const std::string& sensorId) {
     return SectionStem(sensorId) + "_LIMIT";
 }
 
-// An id has a type and a serial number; a simulated sensor has no id.
+// An id has a type and a serial number; a simulated sensor has no serial number.
 bool IsKept(const std::string& sensorId) {
-    return sensorId.find(';') != std::string::npos;
+    return !util::SplitAtFirst(sensorId, ';').after.empty();
 }
 
 std::optional<double> LevelAt(const platform::ProfileText& text, const std::string& section,
@@ -50,38 +51,45 @@ void LimitsStore::Open(platform::Computer& computer) {
     iniPath_ = computer.Join(folder_, "Kelvra.INI");
 }
 
-ui::LevelLimits LimitsStore::Read(const std::string& sensorId) {
-    if (!IsKept(sensorId)) return {};
+std::optional<ui::LevelLimits> LimitsStore::Read(const std::string& sensorId) {
+    if (!IsKept(sensorId)) return ui::LevelLimits{};
     platform::ProfileFile file(files_, iniPath_);
-    Report("read", file.LoadError());
+    if (Report("read", file.LoadError())) return std::nullopt;
     const std::string section = SectionOf(sensorId);
     const ui::LevelLimits limits{LevelAt(file.Text(), section, LowKey),
                                  LevelAt(file.Text(), section, HighKey)};
     return limits.low && limits.high && *limits.low > *limits.high ? ui::LevelLimits{} : limits;
 }
 
-void LimitsStore::Save(const std::string& sensorId, const ui::LevelLimits& limits) {
-    if (IsKept(sensorId)) Report("saved", Write(SectionOf(sensorId), limits));
+bool LimitsStore::Save(const std::string& sensorId, const ui::LevelLimits& before,
+                       const ui::LevelLimits& limits) {
+    if (!IsKept(sensorId)) return true;
+    return !Report("saved", Write(SectionOf(sensorId), before, limits));
 }
 
-std::error_code LimitsStore::Write(const std::string& section, const ui::LevelLimits& limits) {
+std::error_code LimitsStore::Write(const std::string& section, const ui::LevelLimits& before,
+                                   const ui::LevelLimits& limits) {
     const platform::FolderLock lock(files_, folder_);
     if (lock.Error()) return lock.Error();
     platform::ProfileFile file(files_, iniPath_);
     if (file.LoadError()) return file.LoadError();
-    WriteLevel(file.Text(), section, LowKey, limits.low);
-    WriteLevel(file.Text(), section, HighKey, limits.high);
+    if (limits.low != before.low) WriteLevel(file.Text(), section, LowKey, limits.low);
+    if (limits.high != before.high) WriteLevel(file.Text(), section, HighKey, limits.high);
     return file.Save();
 }
 
-void LimitsStore::Report(const std::string& what, const std::error_code& error) {
+bool LimitsStore::Report(const std::string& what, const std::error_code& error) {
     // The settings in the same file have a trouble of their own.
-    const std::string trouble = iniPath_ + " (limits)";
-    if (!error) return notice_.EndFileTrouble(trouble);
+    const std::string trouble = iniPath_ + " (limits " + what + ")";
+    if (!error) {
+        notice_.EndFileTrouble(trouble);
+        return false;
+    }
     const std::string text =
         "The limits could not be " + what + ": " + iniPath_ + ": " + error.message();
     log_.Write(text);
     notice_.ShowFileTrouble(trouble, text);
+    return true;
 }
 
 }  // namespace kelvra::app

@@ -25,6 +25,15 @@ Axis Shifted(const Axis& axis, const Axis& whole, double distance) {
     return {axis.min + allowed, axis.max + allowed};
 }
 
+// The whole axis may have moved away from a part that is shown.
+Axis Both(const Axis& a, const Axis& b) {
+    return {std::min(a.min, b.min), std::max(a.max, b.max)};
+}
+
+bool Covers(const Axis& part, const Axis& whole) {
+    return part.min <= whole.min && part.max >= whole.max;
+}
+
 bool IsTooSmall(const Axis& axis, const Axis& whole) {
     return axis.max - axis.min < LeastShare * (whole.max - whole.min);
 }
@@ -35,9 +44,10 @@ void ZoomAround(controls::Graph& graph, double x, double y, double steps) {
     const controls::Graph::Axes& whole = graph.WholeAxes();
     const controls::Graph::Axes& shown = graph.ShownAxes();
     const double factor = std::pow(Step, steps);
-    const controls::Graph::Axes part{Around(shown.x, whole.x, x, factor),
-                                     Around(shown.y, whole.y, y, factor)};
-    if (part == whole && graph.Zoomed()) return graph.ZoomOut();
+    const controls::Graph::Axes part{Around(shown.x, Both(shown.x, whole.x), x, factor),
+                                     Around(shown.y, Both(shown.y, whole.y), y, factor)};
+    if (Covers(part.x, whole.x) && Covers(part.y, whole.y) && graph.Zoomed())
+        return graph.ZoomOut();
     if (part == shown || IsTooSmall(part.x, whole.x) || IsTooSmall(part.y, whole.y)) return;
     graph.Zoom(part.x, part.y);
 }

@@ -2,6 +2,7 @@
 #include "measure/trend_series.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -193,11 +194,15 @@ std::vector<TrendColumn> TrendSeries::Query(Duration from, Duration width, int c
     for (auto lost = Beginning(coarsest); coarsest < TrendTierCount && lost && *lost > from;
          lost = Beginning(coarsest))
         ++coarsest;
+    // Each level gives what is older than all that the finer ones have.
+    std::array<Duration, TrendTierCount + 2> ends{};
+    ends[finest] = collected.End();
+    for (std::size_t level = finest; level < coarsest; ++level)
+        ends[level + 1] = std::min(ends[level], *Beginning(level));
     for (std::size_t level = coarsest + 1; level-- > finest;) {
         const Duration wide = level == 0 ? Duration(0) : TrendTiers[level - 1].width;
         const Duration begin = level == coarsest ? from - wide : *Beginning(level);
-        const Duration end = level == finest ? collected.End() : *Beginning(level - 1);
-        Collect(level, begin, std::min(end, until), collected);
+        Collect(level, begin, std::min(ends[level], until), collected);
     }
     return collected.Take();
 }

@@ -122,6 +122,7 @@ void ResultTable::PaintPresence(int slot) {
 }
 
 void ResultTable::ClearValues(int slot) {
+    limits_.Forget(slot);
     for (const ResultColumn column : ValueColumns)
         SetGridCell(grid_, RowOf(slot), column, "", Align::Centre, false, false);
 }

@@ -21,17 +21,32 @@ void ColourCells(controls::Grid& grid, int slot, controls::Colour colour) {
 }  // namespace
 
 TrendLimits::Sensor& TrendLimits::Kept(const std::string& key) {
-    const auto [place, added] = sensors_.try_emplace(key);
-    if (added && load) place->second.limits = load(key);
-    return place->second;
+    Sensor& sensor = sensors_[key];
+    if (sensor.loaded || !load) return sensor;
+    const auto found = load(key);
+    if (!found) return sensor;
+    sensor.loaded = true;
+    // What has been typed while the limits could not be loaded counts.
+    if (sensor.limits.low == sensor.stored.low) sensor.limits.low = found->low;
+    if (sensor.limits.high == sensor.stored.high) sensor.limits.high = found->high;
+    sensor.stored = *found;
+    return sensor;
+}
+
+void TrendLimits::Save(const std::string& key, Sensor& sensor) const {
+    if (sensor.limits == sensor.stored || !save) return;
+    if (save(key, sensor.stored, sensor.limits)) sensor.stored = sensor.limits;
+}
+
+void TrendLimits::SaveUnsaved() {
+    for (auto& [key, sensor] : sensors_) Save(key, sensor);
 }
 
 // Cells with a reading are judged again, which counts nothing.
 void TrendLimits::Set(const std::string& key, const LevelLimits& limits) {
     Sensor& sensor = Kept(key);
-    if (sensor.limits == limits) return;
     sensor.limits = limits;
-    if (save) save(key, limits);
+    Save(key, sensor);
     for (int slot = 0; slot < table_.Slots(); ++slot)
         if (ShowsReadingOf(slot, sensor)) JudgeAgain(slot);
 }

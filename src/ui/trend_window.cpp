@@ -79,7 +79,7 @@ void TrendWindow::Connect() {
     graph_.left.Connect([this] { form_.lblPointed.caption = std::string(); });
     limitEntry_.onEdit = [this] { Redraw(); };
     p_.forms.mdiMain.WindowTrend.click.Connect([this] {
-        if (measuring_) MoveTo(p_.host.clock.Monotonic());
+        MoveTo(Present());
         Redraw();
     });
 }
@@ -94,7 +94,8 @@ void TrendWindow::Started() {
 void TrendWindow::Stopped() {
     measuring_ = false;
     graph_.emptyText = std::string("Start measures readings");
-    MoveTo(p_.host.clock.Monotonic());
+    stopped_ = p_.host.clock.Monotonic();
+    MoveTo(stopped_);
     Redraw();
 }
 
@@ -110,6 +111,11 @@ void TrendWindow::PassSeen(Duration now, Duration /*lasted*/) {
     if (drawn_ && now - *drawn_ < pause) return;
     MoveTo(now);
     Redraw();
+}
+
+// After a measurement, the time of its end: nothing comes then.
+Duration TrendWindow::Present() const {
+    return measuring_ ? p_.host.clock.Monotonic() : stopped_;
 }
 
 void TrendWindow::MoveTo(Duration now) {
@@ -240,7 +246,7 @@ void TrendWindow::Choose(int sensor) {
 
 // Stands still at the present.
 void TrendWindow::TogglePause() {
-    if (measuring_) end_ = p_.host.clock.Monotonic();
+    end_ = Present();
     Redraw();
 }
 

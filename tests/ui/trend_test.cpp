@@ -86,8 +86,7 @@ TEST_F(TrendTest, APausedPictureStandsStillAndZoomingShowsWhatWasThen) {
     Form().TrendZoom.Press();
     EXPECT_EQ(Form().TrendGraph.ShownAxes(), axes);
     Form().TrendPause.Toggle();
-    EXPECT_EQ(Form().TrendGraph.ShownAxes().x.min, axes.x.min);  // nothing is measured
-    Measure(1);
+    EXPECT_GT(Form().TrendGraph.ShownAxes().x.min, axes.x.min);  // what came meanwhile
     EXPECT_EQ(Value(1, 3), "3.010");
     Form().TrendUnit.Choose(1);
     EXPECT_EQ(Value(1, 3), "2.0000E-03");
@@ -166,10 +165,10 @@ TEST_F(TrendTest, LimitsComeBackInTheNextRunAndAFailedSaveIsSaid) {
     Limit(Form().HighLimit, "5");
     EXPECT_TRUE(Notice().starts_with("The limits could not be saved: ")) << Notice();
     EXPECT_EQ(program->windows.limits.Of("PS-101;1").high, 5);  // in this run
-    Limit(Form().HighLimit, "6");
+    Limit(Form().HighLimit, "5");  // again
     EXPECT_FALSE(program->forms.mdiMain.ConnectedFrame.visible);
     Start();
-    EXPECT_EQ(program->windows.limits.Of("PS-101;1"), (LevelLimits{-5, 6}));
+    EXPECT_EQ(program->windows.limits.Of("PS-101;1"), (LevelLimits{-5, 5}));
     driver.reading = 0.01;
     Measure(1);  // with the window closed
     EXPECT_EQ(program->windows.limits.Outside("PS-101;1"), 1);

@@ -10,6 +10,13 @@ namespace kelvra::platform {
 
 namespace {
 
+// Goes on while the computer sleeps, where the system has such a clock.
+#ifdef CLOCK_BOOTTIME
+constexpr clockid_t MonotonicClock = CLOCK_BOOTTIME;
+#else
+constexpr clockid_t MonotonicClock = CLOCK_MONOTONIC;
+#endif
+
 Duration Read(clockid_t clock) {
     std::timespec moment{};
     ::clock_gettime(clock, &moment);
@@ -26,7 +33,7 @@ LocalTime PosixClock::Now() {
 
 LocalTime PosixClock::At(Duration monotonic) {
     using namespace std::chrono;
-    const Duration moment = Read(CLOCK_REALTIME) - (Read(CLOCK_MONOTONIC) - monotonic);
+    const Duration moment = Read(CLOCK_REALTIME) - (Read(MonotonicClock) - monotonic);
     const auto whole = floor<seconds>(moment);
     std::timespec parts{};
     parts.tv_sec = whole.count();
@@ -35,7 +42,7 @@ LocalTime PosixClock::At(Duration monotonic) {
 }
 
 Duration PosixClock::Monotonic() {
-    return Read(CLOCK_MONOTONIC);
+    return Read(MonotonicClock);
 }
 
 void PosixClock::Sleep(Duration duration) {

@@ -4,6 +4,7 @@
 // the notice and the log until the file could be read or written.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -23,14 +24,19 @@ public:
     // Call first.
     void Open(platform::Computer& computer);
 
-    // A value that is no level counts as none, and so do limits that exclude each other.
-    ui::LevelLimits Read(const std::string& sensorId);
-    // Writes only this sensor's section: another Kelvra may have changed the others.
-    void Save(const std::string& sensorId, const ui::LevelLimits& limits);
+    // A value that is no level counts as none, and so do limits that exclude each other. Nothing if
+    // the file could not be read.
+    std::optional<ui::LevelLimits> Read(const std::string& sensorId);
+    // Writes only what differs from `before`: another Kelvra may have changed the rest. False if it
+    // could not be written.
+    bool Save(const std::string& sensorId, const ui::LevelLimits& before,
+              const ui::LevelLimits& limits);
 
 private:
-    std::error_code Write(const std::string& section, const ui::LevelLimits& limits);
-    void Report(const std::string& what, const std::error_code& error);
+    std::error_code Write(const std::string& section, const ui::LevelLimits& before,
+                          const ui::LevelLimits& limits);
+    // Gives whether there was an error.
+    bool Report(const std::string& what, const std::error_code& error);
 
     platform::Files& files_;
     driver::DebugLog& log_;

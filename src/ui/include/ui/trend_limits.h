@@ -35,8 +35,14 @@ public:
         : grid_(results), table_(table), numbers_(numbers) {}
 
     // Where the limits of a sensor are kept from run to run; by what the sensor is known by.
-    std::function<LevelLimits(const std::string& key)> load;
-    std::function<void(const std::string& key, const LevelLimits& limits)> save;
+    // Loading gives nothing if that has failed; saving writes what differs from `before`, and gives
+    // false if that has failed.
+    std::function<std::optional<LevelLimits>(const std::string& key)> load;
+    std::function<bool(const std::string& key, const LevelLimits& before,
+                       const LevelLimits& limits)>
+        save;
+    // Saves again what could not be saved before.
+    void SaveUnsaved();
 
     const LevelLimits& Of(const std::string& key) { return Kept(key).limits; }
     void Set(const std::string& key, const LevelLimits& limits);
@@ -57,6 +63,8 @@ private:
     enum class Verdict { None, Inside, Below, Above };
     struct Sensor {
         LevelLimits limits;
+        LevelLimits stored;  // as last loaded or saved
+        bool loaded = false;
         std::int64_t outside = 0;
     };
     struct Slot {
@@ -65,6 +73,7 @@ private:
     };
 
     Sensor& Kept(const std::string& key);
+    void Save(const std::string& key, Sensor& sensor) const;
     static Verdict VerdictOf(const LevelLimits& limits, double level);
     static controls::Colour ColourOf(Verdict verdict);
     bool ShowsReadingOf(int slot, const Sensor& sensor) const;

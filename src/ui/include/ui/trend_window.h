@@ -54,6 +54,7 @@ public:
 private:
     void Connect();
     void SetUpLists();
+    platform::Duration Present() const;
     void MoveTo(platform::Duration now);
     void Redraw();
     void PlaceAxis();
@@ -82,6 +83,7 @@ private:
     TrendPicture picture_;
     std::string chosenKey_;
     bool measuring_ = false;
+    platform::Duration stopped_{};             // when the last measurement ended
     platform::Duration end_{};                 // of the shown time
     std::optional<platform::Duration> drawn_;  // when it was drawn last
     double origin_ = 0;                        // x at the beginning of the monotonic clock
