@@ -52,18 +52,22 @@ void QtDialogs::Drop() {
     for (const QPointer<QDialog>& dialog : std::exchange(open_, {})) {
         if (dialog == nullptr) continue;
         dialog->disconnect();
+        if (dialog->isHidden()) continue;  // its handler is running, and removes it
         dialog->hide();
-        dialog->deleteLater();  // one of its handlers may be running
+        dialog->deleteLater();
     }
 }
 
+// The dialog is removed only when what follows has returned: that may let events run for a long
+// time, while the toolkit's handler of the button that was pressed is still under way.
 void QtDialogs::Open(QDialog& dialog, std::function<void(bool accepted)> finished) {
     std::erase(open_, nullptr);
     open_.emplace_back(&dialog);
-    dialog.setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(&dialog, &QDialog::finished, [finished = std::move(finished)](int result) {
-        finished(result == QDialog::Accepted);
-    });
+    QObject::connect(&dialog, &QDialog::finished,
+                     [finished = std::move(finished), own = QPointer(&dialog)](int result) {
+                         finished(result == QDialog::Accepted);
+                         if (own != nullptr) own->deleteLater();
+                     });
     dialog.setModal(false);  // Stop stays within reach
     dialog.show();
 }
