@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Format: Microsoft, "Rich Text Format (RTF) Specification", version 1.9.1.
+// Format: Microsoft, Rich Text Format (RTF), version 1.9.1.
 #include "controls/rtf_reader.h"
 
 #include <algorithm>

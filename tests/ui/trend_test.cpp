@@ -165,7 +165,7 @@ TEST_F(TrendTest, LimitsComeBackInTheNextRunAndAFailedSaveIsSaid) {
     Limit(Form().HighLimit, "5");
     EXPECT_TRUE(Notice().starts_with("The limits could not be saved: ")) << Notice();
     EXPECT_EQ(program->windows.limits.Of("PS-101;1").high, 5);  // in this run
-    Limit(Form().HighLimit, "5");  // again
+    Limit(Form().HighLimit, "5");                               // again
     EXPECT_FALSE(program->forms.mdiMain.ConnectedFrame.visible);
     Start();
     EXPECT_EQ(program->windows.limits.Of("PS-101;1"), (LevelLimits{-5, 5}));
