@@ -21,7 +21,6 @@ public:
             painter_.drawPolyline(points_);
         points_.resize(0);
     }
-    bool Empty() const { return points_.isEmpty(); }
 
 private:
     QCPPainter& painter_;

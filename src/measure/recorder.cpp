@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measure/recorder.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/file_tools.h"
 #include "util/number_text.h"
 
 namespace kelvra::measure {
+
+namespace {
+bool IsOn(const sensors::SensorEntry& entry) {
+    return entry.present && entry.enabled;
+}
+}  // namespace
 
 std::error_code Recorder::Begin(const std::string& path, std::int32_t interval,
                                 std::unique_ptr<RecordFormat> format) {
@@ -42,11 +47,10 @@ std::vector<RecordedSlot> Recorder::Slots() const {
     std::vector<RecordedSlot> slots;
     for (const sensors::SensorEntry& entry : table_.entries) {
         const std::size_t slot = slots.size();
-        const bool measured = state_.measuring && slot < measured_.size()
-                                  ? measured_[slot]
-                                  : entry.present && entry.enabled;
+        const bool known = slot < slots_.size();
+        const bool measured = state_.measuring && known ? slots_[slot].measured : IsOn(entry);
         slots.push_back({entry.logicalName, entry.present, measured, std::nullopt});
-        if (slot < came_.size() && came_[slot] == state_.passes)
+        if (known && slots_[slot].came == state_.passes)
             slots.back().reading = table_.slotReadings[slot];
     }
     return slots;
@@ -55,10 +59,8 @@ std::vector<RecordedSlot> Recorder::Slots() const {
 // Start may have given the slots to other sensors.
 void Recorder::Started() {
     runBegins_ = true;
-    came_.assign(table_.entries.size(), -1);
-    measured_.clear();
-    for (const sensors::SensorEntry& entry : table_.entries)
-        measured_.push_back(entry.present && entry.enabled);
+    slots_.clear();
+    for (const sensors::SensorEntry& entry : table_.entries) slots_.push_back({IsOn(entry), -1});
 }
 
 // A pass begins where the one before it ends. The wall clock is read then: it may be set, and the
@@ -70,8 +72,8 @@ void Recorder::NoteBegin() {
 // Noted whether or not a recording runs: one may begin in the middle of a pass.
 void Recorder::ReadingArrived(int slot) {
     const auto index = static_cast<std::size_t>(slot);
-    if (table_.simulationMode || !table_[slot].fetchError.empty() || index >= came_.size()) return;
-    came_[index] = state_.passes;
+    if (table_.simulationMode || !table_[slot].fetchError.empty() || index >= slots_.size()) return;
+    slots_[index].came = state_.passes;
 }
 
 void Recorder::PassSeen(platform::Duration now, platform::Duration lasted) {

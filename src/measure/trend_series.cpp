@@ -51,8 +51,6 @@ public:
     Columns(Duration from, Duration width, int columns)
         : from_(from), width_(width), sums_(static_cast<std::size_t>(columns)) {}
 
-    Duration From() const { return from_; }
-    Duration Width() const { return width_; }
     Duration End() const { return from_ + width_ * static_cast<std::int64_t>(sums_.size()); }
 
     // Into all columns that the piece covers, before the one of `end`.
@@ -195,7 +193,7 @@ std::vector<TrendColumn> TrendSeries::Query(Duration from, Duration width, int c
          lost = Beginning(coarsest))
         ++coarsest;
     // Each level gives what is older than all that the finer ones have.
-    std::array<Duration, TrendTierCount + 2> ends{};
+    std::array<Duration, TrendTierCount + 1> ends{};
     ends[finest] = collected.End();
     for (std::size_t level = finest; level < coarsest; ++level)
         ends[level + 1] = std::min(ends[level], *Beginning(level));

@@ -40,17 +40,15 @@ RecordMenu::RecordMenu(forms::Forms& forms, measure::Recorder& recorder, platfor
 }
 
 void RecordMenu::RecordingBegins() {
-    recording_ = true;
     entry_.caption = "Stop Recording";
 }
 
 void RecordMenu::RecordingEnds() {
-    recording_ = false;
     entry_.caption = "Record Data...";
 }
 
 void RecordMenu::StartOrStop() {
-    recording_ ? recorder_.End() : dialog_.Present();
+    recorder_.Runs() ? recorder_.End() : dialog_.Present();
 }
 
 void RecordMenu::AskFile() {

@@ -61,7 +61,6 @@ void RecordStatus::PassWaits(platform::Duration left) {
 
 void RecordStatus::RecordingBegins() {
     timer_ = host_.events.StartTimer(LookInterval, [this] { Show(); });
-    trouble_ = false;
     nextLine_.reset();
     window_.lblRecord.tooltip = recorder_.Latest().path;
     window_.RecordFrame.visible = true;
@@ -69,21 +68,19 @@ void RecordStatus::RecordingBegins() {
 }
 
 void RecordStatus::LineWritten() {
-    if (trouble_) notice_.EndFileTrouble(recorder_.Latest().path);
-    trouble_ = false;
+    notice_.EndFileTrouble(recorder_.Latest().path);
     Show();
 }
 
 void RecordStatus::LineMissing(const std::error_code& why) {
     const std::string& path = recorder_.Latest().path;
-    trouble_ = true;
     notice_.ShowFileTrouble(path, "The recording can't be written: " + path + ": " + why.message());
     Show();
 }
 
 void RecordStatus::RecordingEnds() {
     host_.events.StopTimer(timer_);
-    if (trouble_) notice_.EndFileTrouble(recorder_.Latest().path);
+    notice_.EndFileTrouble(recorder_.Latest().path);
     Show();
 }
 

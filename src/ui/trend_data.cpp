@@ -5,20 +5,13 @@
 #include <cmath>
 
 #include "platform/clock.h"
+#include "util/text.h"
 
 namespace kelvra::ui {
 
 namespace {
 
 constexpr const char* Quantities[] = {"mean", "min", "max"};
-
-// A text with a separator, a quote or a line break in it is quoted, with its quotes doubled.
-std::string Field(const std::string& text) {
-    if (text.find_first_of(",;\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
-    return quoted + "\"";
-}
 
 // To the digits that the trend keeps.
 double Rounded(double value) {
@@ -54,7 +47,7 @@ std::string TrendData::Heading() const {
     const std::string unit = window_.Unit() == TrendUnit::Watts ? " (W)" : " (dBm)";
     for (const TrendPicture::Sensor& sensor : window_.Picture().sensors)
         for (const char* quantity : Quantities)
-            text += form_.Separator() + Field(sensor.name + " " + quantity + unit);
+            text += form_.Separator() + util::CsvField(sensor.name + " " + quantity + unit);
     return text;
 }
 

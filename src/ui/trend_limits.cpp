@@ -21,16 +21,20 @@ void ColourCells(controls::Grid& grid, int slot, controls::Colour colour) {
 }  // namespace
 
 TrendLimits::Sensor& TrendLimits::Kept(const std::string& key) {
-    Sensor& sensor = sensors_[key];
-    if (sensor.loaded || !load) return sensor;
+    const auto [place, added] = sensors_.try_emplace(key);
+    if (added) Load(key, place->second);
+    return place->second;
+}
+
+void TrendLimits::Load(const std::string& key, Sensor& sensor) const {
+    if (sensor.loaded || !load) return;
     const auto found = load(key);
-    if (!found) return sensor;
+    if (!found) return;
     sensor.loaded = true;
     // What has been typed while the limits could not be loaded counts.
     if (sensor.limits.low == sensor.stored.low) sensor.limits.low = found->low;
     if (sensor.limits.high == sensor.stored.high) sensor.limits.high = found->high;
     sensor.stored = *found;
-    return sensor;
 }
 
 void TrendLimits::Save(const std::string& key, Sensor& sensor) const {
@@ -72,9 +76,13 @@ void TrendLimits::ResetCounts() {
 void TrendLimits::Started() {
     for (int slot = 0; slot < static_cast<int>(slots_.size()); ++slot) Forget(slot);
     slots_.assign(static_cast<std::size_t>(table_.Slots()), {});
-    for (int slot = 0; slot < table_.Slots(); ++slot)
-        if (table_[slot].present && table_[slot].enabled)
-            slots_[static_cast<std::size_t>(slot)].sensor = &Kept(sensors::KeyOf(table_[slot]));
+    for (int slot = 0; slot < table_.Slots(); ++slot) {
+        if (!table_[slot].present || !table_[slot].enabled) continue;
+        const std::string key = sensors::KeyOf(table_[slot]);
+        Sensor& sensor = Kept(key);
+        Load(key, sensor);  // again, if that has failed before
+        slots_[static_cast<std::size_t>(slot)].sensor = &sensor;
+    }
 }
 
 TrendLimits::Verdict TrendLimits::VerdictOf(const LevelLimits& limits, double level) {

@@ -128,7 +128,7 @@ std::string HexText(std::uint32_t value) {
 }
 
 std::string CsvField(std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+    if (text.find_first_of(",;\"\r\n") == std::string_view::npos) return std::string(text);
     std::string field = "\"";
     for (const char c : text) field.append(c == '"' ? 2 : 1, c);
     return field + '"';

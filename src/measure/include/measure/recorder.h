@@ -52,6 +52,7 @@ public:
                           std::unique_ptr<RecordFormat> format);
     void End();
 
+    bool Runs() const { return state_.recording; }
     const Progress& Latest() const { return progress_; }
 
     util::Listeners<RecordListener> listeners;
@@ -71,6 +72,11 @@ private:
         std::uint64_t length = 0;
     };
 
+    struct Slot {
+        bool measured = false;   // in this measurement
+        std::int64_t came = -1;  // the pass of the latest good reading
+    };
+
     std::vector<RecordedSlot> Slots() const;
     void NoteBegin();
     std::string GapRemark() const;
@@ -85,10 +91,9 @@ private:
     Progress progress_;
     std::string heading_;                       // the last one in the file
     bool runBegins_ = false;                    // no line of this measurement has been written yet
-    std::vector<bool> measured_;                // by slot: in this measurement
     std::optional<platform::LocalTime> began_;  // of the pass, unless the recording began in it
-    std::vector<std::int64_t> came_;            // by slot: the pass of its latest good reading
-    std::int64_t gap_ = 0;                      // lines missing since the last one
+    std::vector<Slot> slots_;
+    std::int64_t gap_ = 0;  // lines missing since the last one
     std::string gapReason_;
     std::optional<Torn> torn_;
 };

@@ -33,7 +33,6 @@ private:
     forms::TimeForm& dialog_;
     measure::Recorder& recorder_;
     platform::Host& host_;
-    bool recording_ = false;
     bool asking_ = false;  // for the file
 };
 

@@ -47,7 +47,6 @@ private:
     platform::Host& host_;
     platform::Events::TimerId timer_ = 0;
     std::optional<platform::Duration> nextLine_;  // on the monotonic clock
-    bool trouble_ = false;
 };
 
 }  // namespace kelvra::ui

@@ -73,6 +73,7 @@ private:
     };
 
     Sensor& Kept(const std::string& key);
+    void Load(const std::string& key, Sensor& sensor) const;
     void Save(const std::string& key, Sensor& sensor) const;
     static Verdict VerdictOf(const LevelLimits& limits, double level);
     static controls::Colour ColourOf(Verdict verdict);

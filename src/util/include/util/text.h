@@ -40,8 +40,8 @@ std::string TextOfBuffer(std::string_view buffer);
 // Valid UTF-8 for display: each byte that belongs to no valid sequence becomes U+FFFD.
 std::string ShownText(std::string_view bytes);
 
-// A field of comma-separated values (RFC 4180): in quotes if it has a comma, a quote or a line
-// break.
+// A field of comma- or semicolon-separated values (RFC 4180): in quotes if it has a separator, a
+// quote or a line break.
 std::string CsvField(std::string_view text);
 
 // The value in upper-case hexadecimal digits, without leading zeros: 255 -> "FF".
